@@ -1,0 +1,62 @@
+// Localised strings of the plug-in's bundle through translation tables in its resources.
+#include "platform/Bundle.h"
+
+#include <QLocale>
+#include <QTranslator>
+
+namespace bv {
+
+struct Bundle::Tables
+{
+    QTranslator texts;
+    bool loaded = false;
+};
+
+Bundle::Bundle(PluginBundle where) : m_where(std::move(where)), m_tables(std::make_unique<Tables>())
+{
+    if (m_where.language.isEmpty())
+        return;
+    const QLocale locale(m_where.language);
+    m_tables->loaded = m_tables->texts.load(locale, QStringLiteral("bvco"), QStringLiteral("_"),
+                                            QStringLiteral(":/bvco/translations")) ||
+                       m_tables->texts.load(QStringLiteral(":/bvco/translations/bvco_en.qm"));
+}
+
+Bundle::~Bundle() = default;
+
+QString Bundle::localizedString(const QString &key) const
+{
+    if (!m_tables->loaded)
+        return key;
+    const QString text = m_tables->texts.translate("bvco", key.toUtf8().constData());
+    return text.isEmpty() ? key : text;
+}
+
+} // namespace bv
+
+namespace {
+
+std::unique_ptr<const bv::Bundle> &keptBundle()
+{
+    static std::unique_ptr<const bv::Bundle> bundle;
+    return bundle;
+}
+
+} // namespace
+
+const bv::Bundle *pluginBundle()
+{
+    return keptBundle().get();
+}
+
+void setPluginBundle(const bv::PluginBundle &bundle)
+{
+    if (!keptBundle())
+        keptBundle() = std::make_unique<const bv::Bundle>(bundle);
+}
+
+QString localizedString(const char *key)
+{
+    const QString text = QString::fromLatin1(key);
+    return pluginBundle() ? pluginBundle()->localizedString(text) : text;
+}

@@ -1,0 +1,84 @@
+// The protocol between a print dialog and the panels that it loads: factory, panel and the dialog's callback object.
+// The dialog includes no other header of a plug-in. All calls come from the dialog's main thread, and none throws.
+#pragma once
+
+#include "platform/PrintSettings.h"
+
+#include <QStringList>
+#include <QtPlugin>
+#include <cups/ppd.h>
+#include <memory>
+#include <optional>
+#include <vector>
+
+class QWidget;
+
+namespace bv {
+
+// The panel type that a print dialog asks for: panels of the printer module.
+inline constexpr char kPrinterModulePanelType[] = "BDB091F4-E57F-11D3-B5CC-0050E4603277";
+
+// The key of a summary that holds the array of item names in display order.
+inline constexpr char kSummaryDisplayOrder[] = "Summary Display Order";
+
+// Item-model roles by which scripts and assistive tools read a panel's tables: a column's identifier is header data
+// (horizontal) of kColumnIdentifierRole, and a cell that shows an icon or not answers kIconShownRole with a bool.
+inline constexpr int kColumnIdentifierRole = 0x0100 + 70; // Qt::UserRole + 70
+inline constexpr int kIconShownRole = 0x0100 + 71;        // Qt::UserRole + 71
+
+// Where a plug-in lies and in which language it is to speak.
+struct PluginBundle
+{
+    QString path;     // absolute path of the plug-in's file
+    QString language; // a locale name such as "en_GB"; empty: no translation, every localised text is its key
+};
+
+// The dialog's callback object. It outlives the panels made with it. Each of the three may be null.
+class PrintPanelCallback
+{
+public:
+    virtual ~PrintPanelCallback() = default;
+    virtual PMPrintSettings printSettings() = 0;
+    virtual PMPrintSession printSession() = 0;
+    virtual ppd_file_t *ppdFile() = 0;
+};
+
+// One panel. The panel owns its view; the dialog only parents it and takes it back before the panel goes.
+class PrintPanel
+{
+public:
+    virtual ~PrintPanel() = default;
+
+    virtual QString panelName() = 0; // localised
+    virtual QString panelKind() = 0; // a fixed identifier
+    virtual QStringList supportedPPDOptionKeys() = 0;
+    virtual QWidget *panelView() = 0;
+    virtual void willShow() = 0;
+    virtual bool shouldHide() = 0;
+    // Both answer whether the values were taken; error receives a text for people when not.
+    virtual bool restoreValuesAndReturnError(QString *error) = 0;
+    virtual bool saveValuesAndReturnError(QString *error) = 0;
+    // Localised item names to their values as shown, and kSummaryDisplayOrder to an array of names.
+    virtual PrintDictionary summaryInfo() = 0;
+    virtual bool shouldPrint() = 0;
+    virtual void PPDOptionKeyValueDidChange(const QString &key, const QString &ppdChoice) = 0;
+    virtual void constraints() = 0;
+    virtual void terminate() = 0;
+};
+
+// The root object of a plug-in.
+class PrintPanelFactory
+{
+public:
+    virtual ~PrintPanelFactory() = default;
+    // Tells the plug-in where it lies; the first call counts.
+    virtual bool initWithBundle(const PluginBundle &bundle) = 0;
+    // Panels of one type, owned by the caller; nothing (never an empty list) when the plug-in has none of that type.
+    virtual std::optional<std::vector<std::unique_ptr<PrintPanel>>> PDEPanelsForType(const QString &type,
+                                                                                     PrintPanelCallback *hostInfo) = 0;
+};
+
+} // namespace bv
+
+#define BV_PRINT_PANEL_FACTORY_IID "vnd.brevane.pde.PrintPanelFactory/1"
+Q_DECLARE_INTERFACE(bv::PrintPanelFactory, BV_PRINT_PANEL_FACTORY_IID)
