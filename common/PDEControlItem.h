@@ -27,13 +27,13 @@ using PPDChoiceArray = std::vector<PPDChoiceEntry>;
 
 struct PDEControlItem
 {
-    QWidget *control = nullptr;       // borrowed from the view; null ends a table for most walkers
-    int32_t kind = kPDEControlEnd;    // a PDEControlKind
-    const char *ppdKey = "";          // PPD main keyword; empty: no option is bound
-    const char *title = nullptr;      // localisation key of the control's own title
+    QWidget *control = nullptr;        // borrowed from the view; null ends a table for most walkers
+    int32_t kind = kPDEControlEnd;     // a PDEControlKind
+    const char *ppdKey = "";           // PPD main keyword; empty: no option is bound
+    const char *title = nullptr;       // localisation key of the control's own title
     const char *summaryName = nullptr; // localisation key of the item's name in the summary; null: not in the summary
-    const char *identifier = "";      // the name by which the rules find the row; unique across both views
-    int16_t profileKind = 0;          // 1 RGB source, 2 destination, 3 simulation: menu extended by profiles
+    const char *identifier = "";       // the name by which the rules find the row; unique across both views
+    int16_t profileKind = 0;           // 1 RGB source, 2 destination, 3 simulation: menu extended by profiles
     std::shared_ptr<const PPDChoiceArray> ppdChoices; // null until built, and for rows without ppdKey
 };
 

@@ -20,15 +20,12 @@ public:
     enum class Kind { Signed, Unsigned, Real, Text, Pointer };
 
     template <typename T>
-        requires std::is_integral_v<T> && std::is_signed_v<T>
-    LogArgument(T value) : m_kind(Kind::Signed), m_signed(value)
-    {
-    }
+    requires std::is_integral_v<T> && std::is_signed_v<T> LogArgument(T value) : m_kind(Kind::Signed), m_signed(value)
+    {}
     template <typename T>
-        requires std::is_integral_v<T> && std::is_unsigned_v<T>
-    LogArgument(T value) : m_kind(Kind::Unsigned), m_unsigned(value)
-    {
-    }
+    requires std::is_integral_v<T> && std::is_unsigned_v<T> LogArgument(T value)
+        : m_kind(Kind::Unsigned), m_unsigned(value)
+    {}
     LogArgument(double value) : m_kind(Kind::Real), m_real(value) {}
     LogArgument(std::nullptr_t) : m_kind(Kind::Text), m_text("(null)") {}
     LogArgument(const char *text) : m_kind(Kind::Text), m_text(text ? text : "(null)") {}
@@ -36,15 +33,13 @@ public:
     LogArgument(std::string_view text) : m_kind(Kind::Text), m_text(text) {}
     LogArgument(const void *pointer) : m_kind(Kind::Pointer), m_pointer(pointer) {}
     template <typename T>
-        requires(std::is_class_v<T> && !std::is_convertible_v<T, std::string_view>)
-    LogArgument(const T &object) : m_kind(Kind::Text), m_text(describe(object))
-    {
-    }
+    requires(std::is_class_v<T> && !std::is_convertible_v<T, std::string_view>) LogArgument(const T &object)
+        : m_kind(Kind::Text), m_text(describe(object))
+    {}
     template <typename T>
-        requires std::is_class_v<T>
-    LogArgument(T *object) : m_kind(Kind::Text), m_text(object ? describe(*object) : "(null)")
-    {
-    }
+    requires std::is_class_v<T> LogArgument(T *object)
+        : m_kind(Kind::Text), m_text(object ? describe(*object) : "(null)")
+    {}
 
     Kind kind() const { return m_kind; }
     int64_t asSigned() const { return m_signed; }
@@ -78,8 +73,7 @@ void diagnosticLine(std::string_view text);
 } // namespace bv
 
 // Formats and writes without an added newline, then flushes the stream. See formatLog and writeInSystemEncoding.
-template <typename... Arguments>
-void MyLog(std::FILE *stream, const char *format, const Arguments &...arguments)
+template <typename... Arguments> void MyLog(std::FILE *stream, const char *format, const Arguments &...arguments)
 {
     bv::writeInSystemEncoding(stream, bv::formatLog(format, {bv::LogArgument(arguments)...}));
 }
