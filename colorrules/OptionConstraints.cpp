@@ -4,7 +4,6 @@
 #include "common/PDECommon.h"
 
 #include <QWidget>
-
 #include <array>
 #include <cstring>
 
