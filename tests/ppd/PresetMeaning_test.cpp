@@ -90,8 +90,9 @@ TEST_P(Presets, MeanWhatTheirNameSaysAndConflictWithNothing)
             ASSERT_LT(index, option->num_choices);
             EXPECT_STREQ(option->choices[index].choice, expected);
             const int inForce = economy && row.economyClears[preset] ? 0 : index;
-            if (inForce != index)
+            if (inForce != index) {
                 EXPECT_STREQ(option->choices[0].choice, "Off");
+            }
             ppdMarkOption(ppd.get(), row.option, option->choices[inForce].choice);
         }
         EXPECT_EQ(ppdConflicts(ppd.get()), 0);
