@@ -54,7 +54,8 @@ protected:
     QStringList order() const
     {
         QStringList names;
-        for (const bv::PrintValue &name : *panel->summaryInfo().value(bv::kSummaryDisplayOrder).array())
+        const bv::PrintValue list = panel->summaryInfo().value(bv::kSummaryDisplayOrder);
+        for (const bv::PrintValue &name : *list.array())
             names.append(*name.string());
         return names;
     }
@@ -200,8 +201,9 @@ TEST_F(Panel, SummaryFollowsThePresetUntilTheFreeChoice)
         EXPECT_EQ(names.size(), items) << quickColor << economy;
         EXPECT_EQ(names.mid(0, 8), own);
         EXPECT_EQ(names[8], "Image RGB Source");
-        if (items > 29)
+        if (items > 29) {
             EXPECT_EQ(names.last(), "Graphics EdgeEnhance") << "Economy comes last";
+        }
     }
     choose("menu_QuickColor", 1);
     choose("menu_iRGBIntent", 3);
