@@ -20,6 +20,7 @@ install(DIRECTORY DESTINATION "${BV_LIBRARY}/Printers/BREVANE/QL70/Profiles")
 
 # The folder of the profile lists: whoever can write it manages profiles, and nobody another user's. The group is the
 # administrator's or the package's to give (chgrp lpadmin), since it need not exist here.
-install(DIRECTORY DESTINATION "${BV_LIBRARY}/Printers/BREVANE/Preferences/vnd.brevane.printers.QL70"
-  DIRECTORY_PERMISSIONS SETGID OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_WRITE GROUP_EXECUTE
-    WORLD_READ WORLD_EXECUTE)
+set(BV_LISTS "${BV_LIBRARY}/Printers/BREVANE/Preferences/vnd.brevane.printers.QL70")
+install(DIRECTORY DESTINATION "${BV_LISTS}")
+# Set-group-id and sticky; CMake has no word for the second.
+install(CODE "execute_process(COMMAND chmod 3775 \"\$ENV{DESTDIR}${BV_LISTS}\" COMMAND_ERROR_IS_FATAL ANY)")
