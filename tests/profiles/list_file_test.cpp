@@ -405,6 +405,27 @@ TEST_F(ListFile, DamagedAndHostileTextsAreUnreadable)
     expectUnreadable("100 MB");
 }
 
+// The seeds of the fuzz targets, among them whatever once broke a reader.
+TEST_F(ListFile, EverySeedIsReadOrRefusedAndWhatWasReadCanBeWritten)
+{
+    size_t readable = 0;
+    size_t seeds = 0;
+    for (const auto &seed : std::filesystem::directory_iterator(path(BV_SOURCE_DIR) / "fuzz/seeds")) {
+        TestRoot::writeList(TestRoot::readFile(seed.path()));
+        *m_lists = Lists{};
+        ++seeds;
+        if (read() != 0)
+            continue;
+        ++readable;
+        const auto xml = bv::profileListXml(m_lists->rgb, m_lists->sim, m_lists->dst);
+        ASSERT_TRUE(xml) << seed.path();
+        EXPECT_TRUE(isWellFormed(*xml)) << seed.path();
+        EXPECT_TRUE(bv::isCompleteProfileList(*xml)) << seed.path();
+    }
+    EXPECT_GE(readable, 9u);
+    EXPECT_GT(seeds, readable);
+}
+
 TEST_F(ListFile, AFileCutAtAnyByteIsUnreadable)
 {
     const std::string small = listFile(classDict({{"InMenu", inMenu({3})}}));
