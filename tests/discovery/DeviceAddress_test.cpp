@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <netinet/in.h>
 
 namespace {
@@ -168,6 +169,12 @@ TEST(DeviceAddress, TheFirstAddressIsWrittenByItsBytes)
     EXPECT_THAT(hostFor({ipv6}), Optional(Eq("1.2.3.4"))) << "bytes 4 to 7, whatever the family";
     EXPECT_EQ(hostFor({recordOf({2, 0, 0, 0, 9, 9, 9})}), std::nullopt);
     EXPECT_EQ(hostFor({}), std::nullopt);
+}
+
+TEST(DeviceAddress, WithoutADaemonNoServiceIsFound)
+{
+    setenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nowhere", 1);
+    EXPECT_EQ(bv::walkHost(QStringLiteral("dnssd://QL70._printer._tcp.local./")), std::nullopt);
 }
 
 } // namespace
