@@ -18,13 +18,14 @@ struct Option
 };
 
 // clang-format off
-constexpr std::array<Option, 9> kOptions = {{
+constexpr std::array<Option, 10> kOptions = {{
     {"--batch",      "SCRIPT", &CommandLine::script,    "carry out the commands of a file (-: standard input), without a window"},
     {"--plugin",     "FILE",   &CommandLine::plugin,    "the plug-in to load (default: the one beside this program)"},
     {"--queue",      "NAME",   &CommandLine::queue,     "the print queue (default: the print server's; with --ppd: QL70)"},
     {"--ppd",        "FILE",   &CommandLine::ppd,       "take the options from a PPD file; no print server is needed"},
     {"--device-uri", "URI",    &CommandLine::deviceUri, "the device URI of the queue"},
     {"--ticket",     "FILE",   &CommandLine::ticket,    "a ticket to start from, as JSON"},
+    {"--screenshot", "FILE",   &CommandLine::screenshot, "write a picture of the ready window (PNG), and end"},
     {"--no-printer", nullptr,  nullptr,                 "with --ppd: there is no current printer"},
     {"--help",       nullptr,  nullptr,                 "print this and end"},
     {"--version",    nullptr,  nullptr,                 "print the version and end"},

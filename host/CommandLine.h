@@ -19,6 +19,7 @@ struct CommandLine
     QString ppd;            // --ppd; not empty: no print server is asked for anything
     QString deviceUri;      // --device-uri
     QString ticket;         // --ticket: a JSON file to start from
+    QString screenshot;     // --screenshot: a PNG file for the ready window, which is then closed
     bool noPrinter = false; // --no-printer: the session has no current printer
     QStringList documents;  // the files to print
 

@@ -1,0 +1,108 @@
+// Running the helper: as a child process unless another transport was set.
+#include "profiles/HelperRequest.h"
+
+#include "platform/ChildProcess.h"
+#include "platform/Log.h"
+#include "platform/RootPath.h"
+#include "platform/Utf8.h"
+
+#include <algorithm>
+#include <limits>
+#include <new>
+#include <sys/stat.h>
+#include <utility>
+#include <vector>
+
+namespace bv {
+
+namespace {
+
+class ChildTransport : public HelperTransport
+{
+public:
+    bool available() override
+    {
+        struct stat about = {};
+        return stat(mapRootPath(kHelperPath).c_str(), &about) == 0;
+    }
+
+    std::optional<std::string> run(std::string_view request, std::span<const std::string> arguments) override
+    {
+        std::vector<std::string> words;
+        words.reserve(arguments.size() + 1);
+        words.emplace_back(request);
+        words.insert(words.end(), arguments.begin(), arguments.end());
+        std::optional<ChildResult> result = runChild(mapRootPath(kHelperPath), words);
+        if (!result)
+            return std::nullopt;
+        if (!isUtf8(result->output)) {
+            diagnosticLine(formatLog("%@: the answer is not UTF-8", {request}));
+            return std::nullopt;
+        }
+        return std::move(result->output);
+    }
+};
+
+HelperTransport *&chosenTransport()
+{
+    static HelperTransport *transport = nullptr;
+    return transport;
+}
+
+HelperTransport &transport()
+{
+    static ChildTransport child;
+    return chosenTransport() ? *chosenTransport() : child;
+}
+
+} // namespace
+
+HelperTransport *setHelperTransport(HelperTransport *transport)
+{
+    return std::exchange(chosenTransport(), transport);
+}
+
+bool helperAvailable()
+{
+    return transport().available();
+}
+
+std::optional<std::string> runHelper(std::string_view request, std::span<const std::string> arguments)
+{
+    try {
+        if (!helperAvailable()) {
+            diagnosticLine(formatLog("%@: no helper", {request}));
+            return std::nullopt;
+        }
+        return transport().run(request, arguments);
+    } catch (const std::bad_alloc &) {
+        diagnosticLine("no memory for a request to the helper");
+        return std::nullopt;
+    }
+}
+
+bool answerHolds(const std::optional<std::string> &answer, std::string_view marker)
+{
+    return answer && answer->find(marker) != std::string::npos;
+}
+
+std::optional<int32_t> answerNumber(const std::optional<std::string> &answer, std::string_view marker)
+{
+    const size_t at = answer ? answer->find(marker) : std::string::npos;
+    if (at == std::string::npos)
+        return std::nullopt;
+    std::string_view digits = std::string_view(*answer).substr(at + marker.size());
+    const bool negative = digits.starts_with('-');
+    if (negative)
+        digits.remove_prefix(1);
+    int64_t value = 0;
+    for (const char digit : digits) {
+        if (digit < '0' || digit > '9')
+            break;
+        value = std::min(value * 10 + (digit - '0'), int64_t{std::numeric_limits<int32_t>::max()} + 1);
+    }
+    value = negative ? -value : std::min(value, int64_t{std::numeric_limits<int32_t>::max()});
+    return static_cast<int32_t>(value);
+}
+
+} // namespace bv

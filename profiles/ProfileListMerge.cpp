@@ -1,0 +1,70 @@
+// Merging edited lists with those of the list file.
+#include "profiles/ProfileOperations.h"
+
+#include "profiles/NoThrow_p.h"
+
+#include <algorithm>
+#include <memory>
+#include <span>
+
+namespace {
+
+// The records that a count says are in use; a count that lies stays inside the list. None of a null list.
+std::span<const ProfileRecord> usedRecords(const ProfileList *list)
+{
+    if (!list)
+        return {};
+    return {list->records, static_cast<size_t>(std::clamp(list->count, 0, kProfileSlots))};
+}
+
+bool holdsProfile(const ProfileList *list, const ProfileRecord &wanted)
+{
+    const auto records = usedRecords(list);
+    return std::any_of(records.begin(), records.end(), [&](const ProfileRecord &record) {
+        return record.Location == wanted.Location && bv::fieldText(record.FileName) == bv::fieldText(wanted.FileName);
+    });
+}
+
+bool isCarriedOver(const ProfileRecord &record)
+{
+    return record.InMenu == 2 || record.InMenu == 4;
+}
+
+} // namespace
+
+void BVPListMapping_Pap(const ProfileList *edited, const ProfileList *fromFile, ProfileList *out,
+                        const ProfileList *excluded)
+{
+    int32_t filled = 0;
+    const auto append = [&](const ProfileRecord &record) {
+        if (filled < kProfileSlots)
+            out->records[filled++] = record;
+    };
+    for (const ProfileRecord &record : usedRecords(fromFile))
+        if (isCarriedOver(record) && !holdsProfile(excluded, record) && !holdsProfile(edited, record))
+            append(record);
+    for (const ProfileRecord &record : usedRecords(edited))
+        append(record);
+    out->count = filled;
+}
+
+int32_t BVPListMappingProfile_All_Pap(const ProfileList *rgb, const ProfileList *sim, const ProfileList *dst,
+                                      ProfileList *rgbOut, ProfileList *simOut, ProfileList *dstOut,
+                                      const ProfileList *rgbDelete, const ProfileList *simDelete,
+                                      const ProfileList *dstDelete)
+{
+    struct FileLists
+    {
+        ProfileList rgb, sim, dst; // 126 kB
+    };
+    std::unique_ptr<FileLists> file;
+    const int32_t read = bv::withoutThrowing(-1, [&] {
+        file = std::make_unique<FileLists>();
+        return BVPListReadProfile_All(&file->rgb, &file->sim, &file->dst);
+    });
+    // A file that cannot be read counts as an empty one.
+    BVPListMapping_Pap(rgb, read == 0 ? &file->rgb : nullptr, rgbOut, rgbDelete);
+    BVPListMapping_Pap(sim, read == 0 ? &file->sim : nullptr, simOut, simDelete);
+    BVPListMapping_Pap(dst, read == 0 ? &file->dst : nullptr, dstOut, dstDelete);
+    return 0;
+}

@@ -1,0 +1,134 @@
+// Reading lists from the list file, and the count check that follows each read.
+#include "profiles/ProfileOperations.h"
+
+#include "platform/Log.h"
+#include "profiles/NoThrow_p.h"
+#include "profiles/ProfileListFile.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+namespace {
+
+// One class of an open list file with its slot keys.
+class ClassReader
+{
+public:
+    ClassReader(const bv::PropertyList &file, int32_t which)
+    {
+        if (which < kProfileRGB || which > kProfileDST)
+            return;
+        m_class = file.root().item(kProfileClassKeys[static_cast<size_t>(which)]);
+        int32_t ignored = 0;
+        m_complete = BVPListMappingGetSubDict(m_class, &m_fields, &ignored) == 0;
+        if (file && !m_complete)
+            bv::diagnosticLine("the list file lacks a class or one of its fields");
+    }
+
+    // Whether the class and all its field dictionaries are there.
+    bool complete() const { return m_complete; }
+
+    void readInMenu(int slot, int32_t *out) { ReadDictionaryIntEntry(m_fields.inMenu, m_inMenu.at(slot), out); }
+
+    // All fields but the state code.
+    void readOthers(int slot, ProfileRecord *out)
+    {
+        ReadDictionaryIntEntry(m_fields.indexOnDevice, m_indexOnDevice.at(slot), &out->IndexOnDevice);
+        ReadDictionaryIntEntry(m_fields.profileClass, m_profileClass.at(slot), &out->ProfileClass);
+        ReadDictionaryStringEntry(m_fields.fileName, m_fileName.at(slot), out->FileName);
+        ReadDictionaryStringEntry(m_fields.profileName, m_profileName.at(slot), out->ProfileName);
+        ReadDictionaryIntEntry(m_fields.location, m_location.at(slot), &out->Location);
+    }
+
+    void readAllSlots(ProfileList *list)
+    {
+        for (int slot = 0; slot < kProfileSlots; ++slot) {
+            readInMenu(slot, &list->records[slot].InMenu);
+            readOthers(slot, &list->records[slot]);
+        }
+        finish(list);
+    }
+
+    // The stored count, then the check of it.
+    void finish(ProfileList *list) const
+    {
+        ReadDictionaryIntEntry(m_class, kProfileCountKey, &list->count);
+        BVPlistCheckWithInMenu_Dict(list);
+    }
+
+private:
+    bv::PropertyListNode m_class;
+    ProfileFieldDictionaries m_fields;
+    bool m_complete = false;
+    bv::SlotKey m_indexOnDevice{cIndexOnDeviceKey};
+    bv::SlotKey m_inMenu{cInMenuKey};
+    bv::SlotKey m_profileClass{cProfileClassKey};
+    bv::SlotKey m_fileName{cFileNameKey};
+    bv::SlotKey m_profileName{cProfileNameKey};
+    bv::SlotKey m_location{cLocationKey};
+};
+
+} // namespace
+
+int32_t BVPListReadProfile_All(ProfileList *rgb, ProfileList *sim, ProfileList *dst)
+{
+    return bv::withoutThrowing(-1, [&] {
+        const bv::PropertyList file = bv::readProfileListFile();
+        std::array<ClassReader, 3> readers = {ClassReader(file, kProfileRGB), ClassReader(file, kProfileSIM),
+                                              ClassReader(file, kProfileDST)};
+        // No list is touched before all three classes are known to be whole.
+        if (!std::all_of(readers.begin(), readers.end(), [](const ClassReader &reader) { return reader.complete(); }))
+            return -1;
+        readers[kProfileRGB].readAllSlots(rgb);
+        readers[kProfileSIM].readAllSlots(sim);
+        readers[kProfileDST].readAllSlots(dst);
+        return 0;
+    });
+}
+
+int32_t BVPListReadProfile_Dict(ProfileList *list, int32_t which)
+{
+    return bv::withoutThrowing(-1, [&] {
+        const bv::PropertyList file = bv::readProfileListFile();
+        ClassReader reader(file, which);
+        if (!reader.complete())
+            return -1;
+        reader.readAllSlots(list);
+        return 0;
+    });
+}
+
+int32_t BVPListReadProfile_Dict_Pap(ProfileList *list, int32_t which)
+{
+    return bv::withoutThrowing(-1, [&] {
+        const bv::PropertyList file = bv::readProfileListFile();
+        ClassReader reader(file, which);
+        if (!reader.complete())
+            return -1;
+        int out = 0;
+        for (int slot = 0; slot < kProfileSlots; ++slot) {
+            ProfileRecord &record = list->records[out];
+            int32_t inMenu = record.InMenu;
+            reader.readInMenu(slot, &inMenu);
+            if (inMenu == 2)
+                continue;
+            record.InMenu = inMenu == 4 ? 6 : inMenu;
+            reader.readOthers(slot, &record);
+            ++out;
+        }
+        reader.finish(list);
+        return 0;
+    });
+}
+
+void BVPlistCheckWithInMenu_Dict(ProfileList *list)
+{
+    const auto used = std::count_if(std::begin(list->records), std::end(list->records),
+                                    [](const ProfileRecord &record) { return record.InMenu != 0; });
+    if (used == list->count)
+        return;
+    // Whatever stands from there on goes, even records in use behind a gap: this is intended.
+    std::fill(std::begin(list->records) + used, std::end(list->records), ProfileRecord{});
+    list->count = static_cast<int32_t>(used);
+}

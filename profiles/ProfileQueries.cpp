@@ -1,0 +1,55 @@
+// Questions and small orders to the helper about the list files.
+#include "profiles/ProfileOperations.h"
+
+#include "profiles/HelperRequest.h"
+#include "profiles/NoThrow_p.h"
+#include "profiles/ProfilePaths.h"
+
+#include <string>
+#include <vector>
+
+namespace {
+
+int32_t ask(const char *request, const char *marker, const std::vector<std::string> &arguments)
+{
+    return bv::answerHolds(bv::runHelper(request, arguments), marker) ? 1 : 0;
+}
+
+} // namespace
+
+int32_t BVPListIsAdminProfile()
+{
+    return bv::withoutThrowing(0, [] {
+        return ask("bvPListIsAdminProfile_XPC", "bvPListIsAdminProfile_XPC=TRUE", {bv::profilePaths().current});
+    });
+}
+
+int32_t BVPListExistProfile()
+{
+    if (BVPListIsAdminProfile() == 0)
+        return 0;
+    return bv::withoutThrowing(
+        0, [] { return ask("bvPListExistProfile_XPC", "bvPListExistProfile_XPC=TRUE", {bv::profilePaths().current}); });
+}
+
+int32_t BVPListRemove(int32_t which)
+{
+    if ((which != 3 && which != 2) || BVPListIsAdminProfile() == 0)
+        return 0;
+    return bv::withoutThrowing(0, [&] {
+        const bv::ProfilePaths paths = bv::profilePaths();
+        return ask("bvPListRemove_XPC", "bvPListRemove_XPC=TRUE", {which == 3 ? paths.current : paths.previous});
+    });
+}
+
+void BVPListSwapProfile(int32_t code)
+{
+    if (BVPListIsAdminProfile() == 0)
+        return;
+    bv::withoutThrowing(0, [&] {
+        const bv::ProfilePaths paths = bv::profilePaths();
+        const std::vector<std::string> arguments = {std::to_string(code), paths.current, paths.previous};
+        bv::runHelper("bvPListSwapProfile_XPC", arguments); // the answer is read and not examined
+        return 0;
+    });
+}
