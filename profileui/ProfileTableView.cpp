@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QSet>
 
 #include <algorithm>
 #include <memory>
@@ -17,7 +18,8 @@ namespace bv {
 namespace {
 
 constexpr int kIconColumnWidth = 28;
-constexpr int kRowPadding = 6;
+constexpr int kRowPadding = 2;
+constexpr int kCellMargin = 6;
 
 } // namespace
 
@@ -97,7 +99,23 @@ void ProfileTableView::fitColumns()
 {
     const QFontMetrics metrics(model()->index(0, ProfileTableModel::kFileName).data(Qt::FontRole).value<QFont>());
     verticalHeader()->setDefaultSectionSize(metrics.height() + kRowPadding);
-    resizeColumnsToContents();
+    // Asking the delegate for each of 500 rows would take longer than a frame; the widths of the texts do not.
+    for (int column = 0; column < model()->columnCount(); ++column)
+        setColumnWidth(column, std::max(horizontalHeader()->sectionSizeHint(column), widestText(column, metrics)));
+}
+
+int ProfileTableView::widestText(int column, const QFontMetrics &metrics) const
+{
+    QSet<QString> measured; // storage names and many profile names stand in row after row
+    int widest = 0;
+    for (int row = 0; row < model()->rowCount(); ++row) {
+        const QString text = model()->index(row, column).data().toString();
+        const qsizetype before = measured.size();
+        measured.insert(text);
+        if (measured.size() > before)
+            widest = std::max(widest, metrics.horizontalAdvance(text));
+    }
+    return widest + 2 * kCellMargin;
 }
 
 void ProfileTableView::keyboardSearch(const QString &search)
