@@ -54,21 +54,14 @@ public:
 class Requests : public testing::Test
 {
 protected:
-    Requests()
-    {
-        bv::setHelperTransport(&m_helper);
-        bv::setProfileLogin("ada");
-    }
-    ~Requests() override
-    {
-        bv::setHelperTransport(nullptr);
-        bv::setProfileLogin("");
-    }
+    Requests() { bv::setHelperTransport(&m_helper); }
+    ~Requests() override { bv::setHelperTransport(nullptr); }
 
     int32_t write() { return BVPListWriteProfile_All(&m_lists->rgb, &m_lists->sim, &m_lists->dst); }
     std::string text() const { return bv::profileListXml(m_lists->rgb, m_lists->sim, m_lists->dst).value(); }
 
     TestRoot m_root;
+    bvtest::NamedUser m_user;
     RecordingTransport m_helper;
     std::unique_ptr<Lists> m_lists = makeLists();
 };
