@@ -1,8 +1,9 @@
-// The walk of the printer's profile table over SNMP version 1, and the spool that it fills. Core with Net-SNMP.
+// The walk of the printer's profile table over SNMP version 1, for the helper. Core with Net-SNMP.
 #pragma once
 
 #include "profiles/ProfileList.h"
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 
@@ -10,3 +11,24 @@
 // identifiers that do not increase; 2 an error status of the device; negative: the arguments do not parse. The
 // reconciliation runs at its end whatever the result.
 int32_t mib_walk(int32_t argc, char **argv);
+
+// The last error text of a walk, in the process's own bytes; empty when there was none.
+extern char sDEBUGmsg[128];
+
+// The library's call-back for the option "-C": its letters c, p and i toggle "dontCheckOrdering", "printStatistics" and
+// "includeRequested"; another letter leaves a message in sDEBUGmsg. Other options are ignored.
+void optProc(int argc, char *const *argv, int option);
+
+namespace bv {
+
+// What ends every walk with status 1, however the printer behaves.
+struct WalkLimits
+{
+    int answers = 20000;                        // more than 500 rows of 7 columns need by far
+    std::chrono::milliseconds time{120 * 1000}; // from the opening of the session on
+};
+
+// mib_walk within other limits.
+int32_t walkProfileTable(int32_t argc, char **argv, const WalkLimits &limits);
+
+} // namespace bv

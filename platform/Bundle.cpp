@@ -4,6 +4,13 @@
 #include <QLocale>
 #include <QTranslator>
 
+// The tables lie in a static library, where nothing but this call keeps the linker from dropping them. The macro must
+// stand outside any namespace.
+static void keepTables()
+{
+    Q_INIT_RESOURCE(bvco);
+}
+
 namespace bv {
 
 struct Bundle::Tables
@@ -16,6 +23,7 @@ Bundle::Bundle(PluginBundle where) : m_where(std::move(where)), m_tables(std::ma
 {
     if (m_where.language.isEmpty())
         return;
+    keepTables();
     const QLocale locale(m_where.language);
     m_tables->loaded = m_tables->texts.load(locale, QStringLiteral("bvco"), QStringLiteral("_"),
                                             QStringLiteral(":/bvco/translations")) ||

@@ -42,6 +42,8 @@ public:
 
     // No value at all: what looking up an absent key yields. Never stored in a dictionary.
     bool isNone() const { return std::holds_alternative<std::monostate>(m_value); }
+    // Whether both values are of one type.
+    bool hasTypeOf(const PrintValue &other) const { return m_value.index() == other.m_value.index(); }
 
     // The typed views are null (or empty) when the value is of another type.
     const QString *string() const { return std::get_if<QString>(&m_value); }

@@ -1,0 +1,62 @@
+// Texts for greyed-out controls, worded from the rule table.
+#include "colorrules/GreyedReasons.h"
+
+#include "colorrules/OptionConstraints.h"
+#include "platform/Bundle.h"
+
+#include <QComboBox>
+#include <QWidget>
+
+namespace bv {
+
+namespace {
+
+QString nameOf(const PDEControlItem &row)
+{
+    return localizedString(row.summaryName ? row.summaryName : row.identifier);
+}
+
+// The title of a pop-up's item, counted from 1; its number when there is no such item.
+QString itemTitle(const PDEControlItem &row, int32_t item)
+{
+    const auto *menu = qobject_cast<const QComboBox *>(row.control);
+    return menu && item >= 1 && item <= menu->count() ? menu->itemText(item - 1) : QString::number(item);
+}
+
+QString sentence(const CSTCondition &condition, const PDEControlItem &row)
+{
+    if (row.kind == kPDEControlCheckBox)
+        return localizedString("Not available while %1 is on. Turn it off to use this setting.").arg(nameOf(row));
+    if (condition.operation == kCSTNotEqual)
+        return localizedString("Available only while %1 is set to %2. Choose that to use this setting.")
+            .arg(nameOf(row), itemTitle(row, condition.value));
+    return localizedString("Not available while %1 is set to %2. Choose another to use this setting.")
+        .arg(nameOf(row), itemTitle(row, condition.value));
+}
+
+QString reasonFor(const CSTRule &rule, PDEControlTable table)
+{
+    QStringList sentences;
+    for (int k = 0; k < rule.conditionCount; ++k) {
+        const PDEControlItem *row = findControlRow(rule.conditions[k].key, table);
+        if (row && conditionHolds(rule.conditions[k], table))
+            sentences.append(sentence(rule.conditions[k], *row));
+    }
+    return sentences.join(QLatin1Char('\n'));
+}
+
+} // namespace
+
+void explainGreyedControls(PDEControlTable table)
+{
+    for (const CSTRule *rule = cstColorOption; rule->type != kCSTTableEnd; ++rule) {
+        const PDEControlItem *row = findControlRow(rule->target, table);
+        if (!row || !row->control)
+            continue;
+        const QString reason = matchRule(*rule, table) ? reasonFor(*rule, table) : QString();
+        row->control->setToolTip(reason);
+        row->control->setAccessibleDescription(reason);
+    }
+}
+
+} // namespace bv

@@ -1,0 +1,55 @@
+// The rule table. Rule 19 shares the two-condition expression with a single condition of its own, so text edge
+// enhancement does not follow the Economy switch; rules 0 and 3 to 20 change no value. Both are intended.
+#include "colorrules/OptionConstraints.h"
+
+namespace {
+
+// clang-format off
+constexpr CSTCondition kClosing{"", -1, kCSTEnd}; // ends each condition array; never reached
+
+constexpr CSTCondition kQuickColorNotFree[]  = {{"QuickColorPopup", 4, kCSTNotEqual}, kClosing};
+constexpr CSTCondition kGray[]               = {{"ColorAsGrayCheckBox", 1, kCSTEqual}, kClosing};
+constexpr CSTCondition kSeparation[]         = {{"ColorSeparationCheckBox", 1, kCSTEqual}, kClosing};
+constexpr CSTCondition kGrayImageSource[]    = {{"ColorAsGrayCheckBox", 1, kCSTEqual}, {"ImageRGBSourcePopup", 1, kCSTEqual}, kClosing};
+constexpr CSTCondition kGrayImageDest[]      = {{"ColorAsGrayCheckBox", 1, kCSTEqual}, {"ImageDestinationProfilePopup", 1, kCSTNotEqual}, kClosing};
+constexpr CSTCondition kGrayTextSource[]     = {{"ColorAsGrayCheckBox", 1, kCSTEqual}, {"TextRGBSourcePopup", 1, kCSTEqual}, kClosing};
+constexpr CSTCondition kGrayTextDest[]       = {{"ColorAsGrayCheckBox", 1, kCSTEqual}, {"TextDestinationProfilePopup", 1, kCSTNotEqual}, kClosing};
+constexpr CSTCondition kGrayGraphicsSource[] = {{"ColorAsGrayCheckBox", 1, kCSTEqual}, {"GraphicsRGBSourcePopup", 1, kCSTEqual}, kClosing};
+constexpr CSTCondition kGrayGraphicsDest[]   = {{"ColorAsGrayCheckBox", 1, kCSTEqual}, {"GraphicsDestinationProfilePopup", 1, kCSTNotEqual}, kClosing};
+constexpr CSTCondition kGraySimulation[]     = {{"ColorAsGrayCheckBox", 1, kCSTEqual}, {"SimulationSourcePopup", 1, kCSTEqual}, kClosing};
+constexpr CSTCondition kEconomyEdge[]        = {{"EconoModeCheckBox", 1, kCSTEqual}, {"EdgeTypePopup", 1, kCSTEqual}, kClosing};
+constexpr CSTCondition kEdge[]               = {{"EdgeTypePopup", 1, kCSTEqual}, kClosing};
+
+constexpr int32_t kFirst[]  = {kCSTEnd};
+constexpr int32_t kEither[] = {0, 1, kCSTOr, kCSTEnd};
+
+constexpr CSTAction kGreyOut[] = {{GROUT, 0}};
+
+} // namespace
+
+const CSTRule cstColorOption[] = {
+    // type       conditions               expression  target                            value  value action  actions
+    {VRCHG,        1, kQuickColorNotFree,  0, kFirst,  "GoToAdvancedOptionsButton",        -1,  kCSTEnd,      1, kGreyOut}, // 0
+    {VRCHG,        1, kGray,               0, kFirst,  "ColorSeparationCheckBox",           0,  kCSTSet,      1, kGreyOut}, // 1
+    {VRCHG,        1, kSeparation,         0, kFirst,  "ColorAsGrayCheckBox",               0,  kCSTSet,      1, kGreyOut}, // 2
+    {VRCHG,        1, kGray,               0, kFirst,  "ImageRGBSourcePopup",              -1,  kCSTEnd,      1, kGreyOut}, // 3
+    {VRCHG,        2, kGrayImageSource,    3, kEither, "ImageRenderIntentPopup",           -1,  kCSTEnd,      1, kGreyOut}, // 4
+    {VRCHG,        2, kGrayImageDest,      3, kEither, "ImageGrayTreatmentPopup",          -1,  kCSTEnd,      1, kGreyOut}, // 5
+    {VRCHG,        1, kGray,               0, kFirst,  "ImageDestinationProfilePopup",     -1,  kCSTEnd,      1, kGreyOut}, // 6
+    {VRCHG,        1, kGray,               0, kFirst,  "TextRGBSourcePopup",               -1,  kCSTEnd,      1, kGreyOut}, // 7
+    {VRCHG,        2, kGrayTextSource,     3, kEither, "TextRenderIntentPopup",            -1,  kCSTEnd,      1, kGreyOut}, // 8
+    {VRCHG,        2, kGrayTextDest,       3, kEither, "TextGrayTreatmentPopup",           -1,  kCSTEnd,      1, kGreyOut}, // 9
+    {VRCHG,        1, kGray,               0, kFirst,  "TextDestinationProfilePopup",      -1,  kCSTEnd,      1, kGreyOut}, // 10
+    {VRCHG,        1, kGray,               0, kFirst,  "GraphicsRGBSourcePopup",           -1,  kCSTEnd,      1, kGreyOut}, // 11
+    {VRCHG,        2, kGrayGraphicsSource, 3, kEither, "GraphicsRenderIntentPopup",        -1,  kCSTEnd,      1, kGreyOut}, // 12
+    {VRCHG,        2, kGrayGraphicsDest,   3, kEither, "GraphicsGrayTreatmentPopup",       -1,  kCSTEnd,      1, kGreyOut}, // 13
+    {VRCHG,        1, kGray,               0, kFirst,  "GraphicsDestinationProfilePopup",  -1,  kCSTEnd,      1, kGreyOut}, // 14
+    {VRCHG,        1, kGray,               0, kFirst,  "SimulationSourcePopup",            -1,  kCSTEnd,      1, kGreyOut}, // 15
+    {VRCHG,        2, kGraySimulation,     3, kEither, "SimulationRenderIntentPopup",      -1,  kCSTEnd,      1, kGreyOut}, // 16
+    {VRCHG,        2, kGraySimulation,     3, kEither, "SimulationGrayTreatmentPopup",     -1,  kCSTEnd,      1, kGreyOut}, // 17
+    {VRCHG,        2, kEconomyEdge,        3, kEither, "ImageEdgeEnhancePopup",            -1,  kCSTEnd,      1, kGreyOut}, // 18
+    {VRCHG,        1, kEdge,               0, kEither, "TextEdgeEnhancePopup",              0,  kCSTEnd,      1, kGreyOut}, // 19
+    {VRCHG,        2, kEconomyEdge,        3, kEither, "GraphicsEdgeEnhancePopup",         -1,  kCSTEnd,      1, kGreyOut}, // 20
+    {kCSTTableEnd, 0, nullptr,             0, kFirst,  "",                                 -1,  kCSTEnd,      0, nullptr},  // 21
+};
+// clang-format on

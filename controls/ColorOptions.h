@@ -1,0 +1,21 @@
+// ColorOptions: the pane that opens first, with Quick Color, Brightness and the other everyday choices.
+#pragma once
+
+#include "platform/ClassNames.h"
+
+#include "controls/ControlTableView.h"
+
+class ColorOptions : public ControlTableView
+{
+    Q_OBJECT
+
+public:
+    explicit ColorOptions(QWidget *parent = nullptr);
+
+    // Appends the keyword of every row, empty ones included.
+    void createPPDKeyNSArray(QStringList *array) const;
+    // Index of the selected Quick Color, -1 for none, cut to 16 bits; 3 is the free choice.
+    int32_t getQuickColorValue() const;
+    // State of the Economy check box: 0 or 1.
+    int32_t getEconoModeValue() const;
+};

@@ -1,0 +1,82 @@
+// PDECommon: operations on whole control tables.
+#include "common/PDECommon.h"
+
+#include "platform/Log.h"
+
+#include <cstring>
+#include <new>
+
+namespace {
+
+// The joined table counts rows by kind, unlike every other walker: rows without a control are copied too.
+int32_t rowsBeforeEndKind(PDEControlTable table)
+{
+    int32_t rows = 0;
+    while (table[rows].kind != kPDEControlEnd)
+        ++rows;
+    return rows;
+}
+
+} // namespace
+
+std::unique_ptr<PDEControlItem[]> PDECommon::commonControlTableCompound(const PDEControlTable *tables, int32_t count)
+{
+    int32_t total = 0;
+    for (int32_t i = 0; i < count; ++i)
+        total += tables[i] ? rowsBeforeEndKind(tables[i]) : 0;
+
+    std::unique_ptr<PDEControlItem[]> joined(new (std::nothrow) PDEControlItem[size_t(total) + 1]);
+    if (!joined) {
+        bv::diagnosticLine("no memory for the joined control table");
+        return nullptr;
+    }
+    PDEControlItem *next = joined.get();
+    for (int32_t i = 0; i < count; ++i) {
+        if (tables[i])
+            next = std::copy_n(tables[i], rowsBeforeEndKind(tables[i]), next);
+    }
+    *next = endControlItem();
+    return joined;
+}
+
+int32_t PDECommon::commonConvertToCSTValue(const PDEControlItem *item, int32_t convalue)
+{
+    if (!item || item->kind != kPDEControlPopUp)
+        return convalue;
+    return convalue >= 0 ? convalue + 1 : 0;
+}
+
+int32_t PDECommon::commonConvertFromCSTValue(const PDEControlItem *item, int32_t convalue)
+{
+    if (!item || item->kind != kPDEControlPopUp)
+        return convalue;
+    return convalue > 0 ? convalue - 1 : 0;
+}
+
+int32_t PDECommon::commonAddPPDArray(QStringList *array, PDEControlTable table)
+{
+    if (!array)
+        return paramErr;
+    for (int16_t row = 0; table && table[row].control; ++row) {
+        if (table[row].ppdKey[0] != '\0')
+            array->append(QString::fromLatin1(table[row].ppdKey));
+    }
+    return noErr;
+}
+
+void PDECommon::commonBuildPDEItem(PDEControlTable table, ppd_file_t *ppdfile)
+{
+    for (int16_t row = 0; table && table[row].control; ++row) {
+        commonSetControlTitleFromLocalizeString(&table[row]);
+        if (table[row].kind == kPDEControlPopUp)
+            commonReBuildMenuFromPPD(ppdfile, &table[row]);
+    }
+}
+
+void PDECommon::commonDefaultFromPPDInfo(PDEControlTable table)
+{
+    for (int16_t row = 0; table && table[row].control; ++row) {
+        if (table[row].ppdKey[0] != '\0')
+            commonSetControlValueWithSInt32(&table[row], commonGetDefualtValueFromPPDWithSInt32(&table[row]));
+    }
+}

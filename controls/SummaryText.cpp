@@ -1,0 +1,47 @@
+// PDECommon: items of the panel's summary.
+#include "common/PDECommon.h"
+
+#include "platform/Bundle.h"
+#include "platform/Log.h"
+
+namespace {
+
+void addItem(const QString &name, const QString &value, bv::PrintDictionary *dictionary, bv::PrintArray *order)
+{
+    dictionary->setValue(name, bv::PrintValue(value));
+    order->push_back(bv::PrintValue(name));
+}
+
+} // namespace
+
+int32_t PDECommon::commonGetSummaryText(PDEControlTable table, bv::PrintDictionary *adddict, bv::PrintArray *addArray)
+{
+    if (!pluginBundle() || !table)
+        return noErr;
+    int32_t status = noErr;
+    for (int16_t row = 0; table[row].control; ++row) {
+        if (!table[row].summaryName)
+            continue;
+        const QString name = localizedString(table[row].summaryName);
+        const QString value = commonGetControlValueFromPPDWithNSString(&table[row]);
+        if (name.isNull() || value.isNull()) {
+            bv::diagnosticLine(bv::formatLog("summary: %s has no value", {bv::LogArgument(table[row].summaryName)}));
+            status = paramErr;
+            continue;
+        }
+        addItem(name, value, adddict, addArray);
+    }
+    return status;
+}
+
+int32_t PDECommon::commonGetSummaryTextQuickColor(const char *quickColor, const QString &itemName,
+                                                  bv::PrintDictionary *adddict, bv::PrintArray *addArray)
+{
+    if (!pluginBundle())
+        return noErr;
+    const QString name = quickColor ? localizedString(quickColor) : QString();
+    if (name.isNull())
+        return paramErr;
+    addItem(name, itemName, adddict, addArray);
+    return noErr;
+}

@@ -1,0 +1,224 @@
+// Kind of connection and host address of a print queue.
+#include "platform/ClassNames.h"
+
+#include "discovery/DeviceAddress.h"
+
+#include "common/PDECommon.h"
+#include "platform/Log.h"
+
+#include <array>
+#include <cstdio>
+#include <iconv.h>
+#include <memory>
+
+namespace {
+
+struct ProtocolPrefix
+{
+    const char *prefix;
+    int16_t code;
+};
+
+// Tried in this order, at the beginning of the URI only and as they are written.
+// clang-format off
+constexpr ProtocolPrefix kPrefixes[] = {
+    {"mdns://",  bv::kProtocolBonjour},
+    {"dnssd://", bv::kProtocolBonjour},
+    {"lpd://",   bv::kProtocolLpd},
+    {"pap://",   bv::kProtocolAppleTalk},
+    {"usb://",   bv::kProtocolUsb},
+};
+// clang-format on
+
+constexpr size_t kHostBytes = 255; // with the NUL that ends it
+constexpr std::chrono::milliseconds kResolveLimit{1000};
+
+std::nullopt_t noHost(const std::string &reason)
+{
+    bv::diagnosticLine("Device address: " + reason);
+    return std::nullopt;
+}
+
+// Converts between encodings (iconv(3)); nothing when a character has no place in the other one.
+std::optional<std::string> converted(std::string_view text, const char *from, const char *to)
+{
+    const auto close = [](iconv_t handle) { iconv_close(handle); };
+    const iconv_t opened = iconv_open(to, from);
+    if (opened == reinterpret_cast<iconv_t>(-1)) // NOLINT(performance-no-int-to-ptr): iconv_open's own sign of failure
+        return std::nullopt;
+    const std::unique_ptr<void, decltype(close)> handle(opened, close);
+    std::string in(text);
+    std::string out(text.size() * 4 + 4, '\0');
+    char *inNext = in.data();
+    char *outNext = out.data();
+    size_t inLeft = in.size();
+    size_t outLeft = out.size();
+    if (iconv(handle.get(), &inNext, &inLeft, &outNext, &outLeft) != 0)
+        return std::nullopt;
+    out.resize(out.size() - outLeft);
+    return out;
+}
+
+// The host of an LPD queue: the network location through a buffer of Mac OS Roman text, up to the first ":".
+std::optional<std::string> lpdHost(std::string_view uri)
+{
+    const std::optional<std::string> location = bv::networkLocation(uri);
+    if (!location)
+        return noHost("the queue's URI names no host");
+    std::optional<std::string> roman = converted(*location, "UTF-8", "MACINTOSH");
+    if (!roman)
+        return noHost("the queue's host has a character outside Mac OS Roman");
+    if (roman->size() >= kHostBytes)
+        roman->resize(kHostBytes - 1);
+    return converted(std::string_view(*roman).substr(0, roman->find(':')), "MACINTOSH", "UTF-8");
+}
+
+std::optional<std::string> bonjourHost(std::string_view uri, const bv::ServiceResolver &resolve)
+{
+    const std::optional<std::string> host = bv::hostOfUri(uri);
+    const std::optional<bv::ServiceName> service = host ? bv::serviceOfHost(*host) : std::nullopt;
+    if (!service)
+        return noHost("the queue's URI names no service");
+    const std::optional<std::vector<bv::AddressRecord>> addresses = resolve(*service);
+    if (!addresses || addresses->empty())
+        return noHost("the service \"" + service->name + "\" does not resolve");
+    return bv::dottedAddress(addresses->front());
+}
+
+// The session's device URI; a null string when it has none.
+QString deviceUri(PMPrintSession session)
+{
+    PMPrinter printer = nullptr;
+    QString uri;
+    if (!session || PMSessionGetCurrentPrinter(session, &printer) != noErr ||
+        PMPrinterCopyDeviceURI(printer, &uri) != noErr)
+        return {};
+    return uri;
+}
+
+int hexDigit(char digit)
+{
+    constexpr std::string_view kDigits = "0123456789abcdef";
+    const size_t value = kDigits.find(digit >= 'A' && digit <= 'F' ? static_cast<char>(digit - 'A' + 'a') : digit);
+    return value == kDigits.npos ? -1 : static_cast<int>(value);
+}
+
+} // namespace
+
+std::optional<std::string> bv::networkLocation(std::string_view uri)
+{
+    constexpr std::string_view kMark = "://";
+    const size_t mark = uri.find(kMark);
+    if (mark == uri.npos)
+        return std::nullopt;
+    std::string_view authority = uri.substr(mark + kMark.size());
+    authority = authority.substr(0, authority.find_first_of("/?#"));
+    authority = authority.substr(authority.rfind('@') + 1); // no "@": npos + 1 is 0
+    if (authority.empty())
+        return std::nullopt;
+    return std::string(authority);
+}
+
+std::optional<std::string> bv::hostOfUri(std::string_view uri)
+{
+    std::optional<std::string> location = networkLocation(uri);
+    if (!location)
+        return std::nullopt;
+    // An IP literal stands in brackets and holds colons of its own.
+    const size_t end = location->front() == '[' ? location->find(']') : 0;
+    location->resize(std::min(location->find(':', end == location->npos ? 0 : end), location->size()));
+    if (location->empty())
+        return std::nullopt;
+    return location;
+}
+
+std::optional<std::string> bv::percentUnescaped(std::string_view text)
+{
+    std::string plain;
+    for (size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '%') {
+            plain += text[i];
+            continue;
+        }
+        const int high = i + 2 < text.size() ? hexDigit(text[i + 1]) : -1;
+        const int low = i + 2 < text.size() ? hexDigit(text[i + 2]) : -1;
+        if (high < 0 || low < 0)
+            return std::nullopt;
+        plain += static_cast<char>(high * 16 + low);
+        i += 2;
+    }
+    if (plain.find('\0') != plain.npos || !converted(plain, "UTF-8", "UTF-8"))
+        return std::nullopt;
+    return plain;
+}
+
+std::optional<bv::ServiceName> bv::serviceOfHost(std::string_view host)
+{
+    std::array<std::string_view, 4> parts;
+    size_t count = 0;
+    for (size_t begin = 0; count < parts.size() && begin <= host.size(); ++count) {
+        const size_t end = std::min(host.find('.', begin), host.size());
+        parts[count] = host.substr(begin, end - begin);
+        begin = end + 1;
+    }
+    const std::optional<std::string> name = percentUnescaped(parts[0]);
+    if (count < parts.size() || !name)
+        return std::nullopt;
+    return ServiceName{*name, std::string(parts[1]) + '.' + std::string(parts[2]), std::string(parts[3])};
+}
+
+std::optional<std::string> bv::dottedAddress(std::span<const std::byte> record)
+{
+    if (record.size() < 8)
+        return std::nullopt;
+    std::array<char, kHostBytes> text{};
+    std::snprintf(text.data(), text.size(), "%d.%d.%d.%d", std::to_integer<int>(record[4]),
+                  std::to_integer<int>(record[5]), std::to_integer<int>(record[6]), std::to_integer<int>(record[7]));
+    return text.data();
+}
+
+std::optional<std::vector<bv::AddressRecord>> bv::resolveWithinOneSecond(const ServiceName &service)
+{
+    return resolveService(service.name, service.type, service.domain, kResolveLimit);
+}
+
+std::optional<std::string> bv::walkHost(const QString &deviceUri, const ServiceResolver &resolve)
+{
+    const std::string uri = deviceUri.toStdString();
+    std::optional<std::string> host;
+    switch (PDECommon::commoniGetProtocolByUrl(deviceUri)) {
+    case kProtocolBonjour:
+        host = bonjourHost(uri, resolve);
+        break;
+    case kProtocolLpd:
+        host = lpdHost(uri);
+        break;
+    default:
+        return noHost("the queue is no network queue that a walk can reach");
+    }
+    if (host && (host->empty() || host->front() == '-'))
+        return noHost("the queue's host is empty or begins with \"-\"");
+    return host;
+}
+
+std::optional<std::string> bv::walkHost(PMPrintSession session)
+{
+    const QString uri = deviceUri(session);
+    if (uri.isNull())
+        return noHost("the session has no printer with a device URI");
+    return walkHost(uri);
+}
+
+int32_t PDECommon::commoniGetProtocol(PMPrintSession session)
+{
+    return commoniGetProtocolByUrl(deviceUri(session));
+}
+
+int32_t PDECommon::commoniGetProtocolByUrl(const QString &url)
+{
+    for (const ProtocolPrefix &row : kPrefixes) {
+        if (url.startsWith(QLatin1String(row.prefix)))
+            return row.code;
+    }
+    return bv::kProtocolUnknown;
+}

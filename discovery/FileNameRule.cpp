@@ -1,0 +1,34 @@
+// The printer's rule for profile file names.
+#include "discovery/FileNameRule.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::string_view kPunctuation = "!#$%&'()-.^_{}~`";
+constexpr size_t kLongestStem = 27;
+constexpr size_t kLongestExtension = 3;
+
+} // namespace
+
+bool bJudgement8point3Format(std::string_view text)
+{
+    if (text.empty())
+        return false;
+    const size_t dot = text.find('.');
+    const size_t stem = dot == text.npos ? text.size() : dot;
+    // The stem may be longer than eight characters, whatever the function's name says.
+    if (stem < 1 || stem > kLongestStem)
+        return false;
+    // Everything behind the first dot counts as the extension: "a.b.c" has one of three characters.
+    if (dot != text.npos && text.size() - dot - 1 > kLongestExtension)
+        return false;
+    return std::all_of(text.begin(), text.end(), FileNameFilter);
+}
+
+bool FileNameFilter(char character)
+{
+    // By hand and not by isalnum(3): the rule does not change with the locale.
+    return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z') ||
+           (character >= '0' && character <= '9') || kPunctuation.find(character) != kPunctuation.npos;
+}

@@ -1,0 +1,87 @@
+// Fills the spool from the variables of a walk.
+#include "discovery/ProfileSpool.h"
+
+#include <algorithm>
+
+ProfileList PlistForSpool;
+int32_t numprinted = 0;
+
+namespace {
+
+using ColumnOid = std::array<oid, bv::kColumnOidLength>;
+
+constexpr ColumnOid columnOid(oid column)
+{
+    ColumnOid id{};
+    std::copy(bv::kProfileEntryOid.begin(), bv::kProfileEntryOid.end(), id.begin());
+    id.back() = column;
+    return id;
+}
+
+constexpr ColumnOid iOidIndexOnDevice = columnOid(1);
+constexpr ColumnOid iOidSourceType = columnOid(2);
+constexpr ColumnOid iOidProfileName = columnOid(3);
+constexpr ColumnOid iOidFileName = columnOid(4);
+constexpr ColumnOid iOidProfileClass = columnOid(5);
+constexpr ColumnOid iOidProfileAvailability = columnOid(7);
+
+using Number = int32_t ProfileRecord::*;
+using Text = char (ProfileRecord::*)[kProfileTextBytes];
+
+// A kept column: its values are integers or texts, as its field is; the other member is null.
+struct Column
+{
+    const ColumnOid &id;
+    Number number;
+    Text text;
+    bool countsRow;
+};
+
+// clang-format off
+constexpr Column kColumns[] = {
+    // column                  number                         text                         counts the row
+    {iOidIndexOnDevice,       &ProfileRecord::IndexOnDevice, nullptr,                     true },
+    {iOidSourceType,          &ProfileRecord::Location,      nullptr,                     false},
+    {iOidProfileName,         nullptr,                       &ProfileRecord::ProfileName, false},
+    {iOidFileName,            nullptr,                       &ProfileRecord::FileName,    false},
+    {iOidProfileClass,        &ProfileRecord::ProfileClass,  nullptr,                     false},
+    {iOidProfileAvailability, &ProfileRecord::Availability,  nullptr,                     false},
+};
+// clang-format on
+
+// Copies a text up to its first zero byte, cut at the field's 32 bytes and without a terminator of its own: the field
+// was zeroed with the spool. A shorter text that comes later for the same cell leaves the old tail; that is intended.
+void storeText(char (&field)[kProfileTextBytes], std::span<const u_char> value)
+{
+    value = value.first(std::min(value.size(), kProfileTextBytes));
+    std::copy(value.begin(), std::find(value.begin(), value.end(), u_char{0}), field);
+}
+
+} // namespace
+
+void vSpoolPlist(const oid *name, size_t length, const netsnmp_variable_list *variable, int32_t clear)
+{
+    if (clear == 1) {
+        PlistForSpool = {};
+        return;
+    }
+    if (length < bv::kInstanceOidLength)
+        return;
+    const auto column = std::find_if(std::begin(kColumns), std::end(kColumns), [name](const Column &candidate) {
+        return std::equal(candidate.id.begin(), candidate.id.end(), name);
+    });
+    if (column == std::end(kColumns))
+        return;
+    const oid row = name[bv::kInstanceOidLength - 1];
+    if (row < 1 || row > oid{kProfileSlots})
+        return;
+    ProfileRecord &record = PlistForSpool.records[row - 1];
+    if (column->text && variable->type == ASN_OCTET_STR) {
+        storeText(record.*column->text, {variable->val.string, variable->val_len});
+    } else if (column->number && variable->type == ASN_INTEGER && variable->val.integer) {
+        record.*column->number = static_cast<int32_t>(*variable->val.integer);
+        // Every column-1 value counts, a second one for the same row too; that is intended.
+        if (column->countsRow)
+            ++PlistForSpool.count;
+    }
+}

@@ -1,0 +1,297 @@
+// The walk loop: GETNEXT from the root of the table on, until the table or the patience ends.
+#include "discovery/ProfileWalk.h"
+
+#include "discovery/ProfileSpool.h"
+#include "discovery/Reconciliation.h"
+#include "discovery/SnmpEnvironment.h"
+#include "platform/Log.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+#include <string>
+#include <unistd.h>
+
+char sDEBUGmsg[128];
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using std::chrono::microseconds;
+
+constexpr char kProgram[] = "snmpwalk";
+// The root of a walk that names none: the system's standard objects.
+constexpr oid kDefaultRoot[] = {1, 3, 6, 1, 2, 1};
+
+constexpr int32_t kWalked = 0;
+constexpr int32_t kNotWalked = 1;
+constexpr int32_t kDeviceError = 2;
+
+struct WalkOption
+{
+    const char *name; // in the library's configuration files
+    int slot;         // in its store, under the application's identifier
+    char letter;      // behind "-C"
+};
+
+// clang-format off
+constexpr WalkOption kIncludeRequested  = {"includeRequested",  1, 'i'};
+constexpr WalkOption kPrintStatistics   = {"printStatistics",   2, 'p'};
+constexpr WalkOption kDontCheckOrdering = {"dontCheckOrdering", 3, 'c'};
+constexpr WalkOption kOptions[]         = {kIncludeRequested, kPrintStatistics, kDontCheckOrdering};
+// clang-format on
+
+bool isOn(const WalkOption &option)
+{
+    return netsnmp_ds_get_boolean(NETSNMP_DS_APPLICATION_ID, option.slot) != 0;
+}
+
+struct FreePdu
+{
+    void operator()(netsnmp_pdu *pdu) const { snmp_free_pdu(pdu); }
+};
+using Answer = std::unique_ptr<netsnmp_pdu, FreePdu>;
+
+struct CloseSession
+{
+    void operator()(netsnmp_session *session) const { snmp_close(session); }
+};
+using OpenSession = std::unique_ptr<netsnmp_session, CloseSession>;
+
+struct Identifier
+{
+    std::array<oid, MAX_OID_LEN> parts{};
+    size_t length = 0;
+
+    void assign(const oid *from, size_t count)
+    {
+        length = std::min(count, parts.size());
+        std::copy_n(from, length, parts.begin());
+    }
+    bool beginsWith(const Identifier &root) const
+    {
+        return length >= root.length && std::equal(root.parts.begin(), root.parts.begin() + root.length, parts.begin());
+    }
+};
+
+// Sends one request for a name and waits; the library's status of it.
+int request(netsnmp_session *session, int type, const oid *name, size_t length, Answer *answer)
+{
+    netsnmp_pdu *pdu = snmp_pdu_create(type);
+    netsnmp_pdu *response = nullptr;
+    if (!pdu)
+        return STAT_ERROR;
+    snmp_add_null_var(pdu, name, length);
+    const int status = snmp_synch_response(session, pdu, &response);
+    answer->reset(response);
+    return status;
+}
+
+void snmp_get_and_print(netsnmp_session *session, const oid *name, size_t length)
+{
+    Answer answer;
+    if (request(session, SNMP_MSG_GET, name, length, &answer) != STAT_SUCCESS || !answer ||
+        answer->errstat != SNMP_ERR_NOERROR)
+        return;
+    for (const netsnmp_variable_list *variable = answer->variables; variable; variable = variable->next_variable) {
+        ++numprinted;
+        print_variable(variable->name, variable->name_length, variable);
+    }
+}
+
+bool isException(u_char type)
+{
+    return type == SNMP_NOSUCHOBJECT || type == SNMP_NOSUCHINSTANCE || type == SNMP_ENDOFMIBVIEW;
+}
+
+// The storage of an identifier taken as text. The message about the order shows just that, so of most identifiers only
+// the first number as one byte; that is intended.
+std::string storageText(const Identifier &name)
+{
+    std::array<char, 256> text{};
+    std::memcpy(text.data(), name.parts.data(), std::min(text.size() - 1, name.length * sizeof(oid)));
+    return text.data();
+}
+
+class Walk
+{
+public:
+    Walk(netsnmp_session *session, const Identifier &root, const bv::WalkLimits &limits)
+        : m_session(session), m_root(root), m_name(root), m_answersLeft(limits.answers),
+          m_deadline(Clock::now() + limits.time), m_timeout(session->timeout), m_retries(session->retries)
+    {}
+
+    int32_t run()
+    {
+        const bool checkOrder = !isOn(kDontCheckOrdering);
+        if (isOn(kIncludeRequested) && patience())
+            snmp_get_and_print(m_session, m_root.parts.data(), m_root.length);
+        while (m_running)
+            step(checkOrder);
+        if (numprinted == 0 && m_lastRequest == STAT_SUCCESS && patience())
+            snmp_get_and_print(m_session, m_root.parts.data(), m_root.length);
+        return m_status;
+    }
+
+private:
+    // Fits the next request's tries into the time that is left; false when none is.
+    bool patience()
+    {
+        const long left = std::chrono::duration_cast<microseconds>(m_deadline - Clock::now()).count();
+        if (left <= 0)
+            return false;
+        m_session->timeout = std::min(m_timeout, left);
+        const long tries = m_timeout > 0 ? left / m_timeout : 1;
+        m_session->retries = static_cast<int>(std::clamp(tries - 1, 0L, static_cast<long>(std::max(m_retries, 0))));
+        return true;
+    }
+
+    void stop(int32_t status, const std::string &reason)
+    {
+        m_status = status;
+        m_running = false;
+        bv::diagnosticLine("Profile walk: " + reason);
+    }
+
+    void step(bool checkOrder)
+    {
+        if (m_answersLeft-- <= 0 || !patience()) {
+            stop(kNotWalked, "the printer's table does not end");
+            return;
+        }
+        Answer answer;
+        m_lastRequest = request(m_session, SNMP_MSG_GETNEXT, m_name.parts.data(), m_name.length, &answer);
+        if (m_lastRequest == STAT_TIMEOUT) {
+            stop(kNotWalked, "no answer from the printer");
+        } else if (m_lastRequest != STAT_SUCCESS || !answer) {
+            snmp_sess_perror(kProgram, m_session);
+            stop(kNotWalked, "the request failed");
+        } else if (answer->errstat == SNMP_ERR_NOSUCHNAME) {
+            m_running = false; // the end of everything that the printer has (RFC 1157, 4.1.3)
+        } else if (answer->errstat != SNMP_ERR_NOERROR) {
+            stop(kDeviceError, "the printer answers with error " + std::to_string(answer->errstat));
+        } else {
+            take(*answer, checkOrder);
+        }
+    }
+
+    // An answer without any variable is taken as the end of the table: asking again would bring it again.
+    void take(const netsnmp_pdu &answer, bool checkOrder)
+    {
+        bool more = false;
+        bool ordered = true;
+        for (const netsnmp_variable_list *variable = answer.variables; variable; variable = variable->next_variable) {
+            more = false;
+            Identifier found;
+            found.assign(variable->name, variable->name_length);
+            if (!found.beginsWith(m_root))
+                continue;
+            ++numprinted;
+            vSpoolPlist(variable->name, variable->name_length, variable, 0);
+            if (isException(variable->type))
+                continue;
+            if (checkOrder &&
+                snmp_oid_compare(m_name.parts.data(), m_name.length, found.parts.data(), found.length) >= 0) {
+                std::snprintf(sDEBUGmsg, sizeof(sDEBUGmsg), "[SNMP] Error: OID not increasing: %s >= %s",
+                              storageText(m_name).c_str(), storageText(found).c_str());
+                ordered = false;
+            }
+            m_name = found;
+            more = true;
+        }
+        if (!ordered)
+            stop(kNotWalked, "the printer's identifiers do not increase");
+        else
+            m_running = more;
+    }
+
+    netsnmp_session *m_session;
+    const Identifier m_root;
+    Identifier m_name;
+    int m_answersLeft;
+    const Clock::time_point m_deadline;
+    const long m_timeout; // one try, in microseconds
+    const int m_retries;
+    int m_lastRequest = STAT_SUCCESS;
+    int32_t m_status = kWalked;
+    bool m_running = true;
+};
+
+// The root that the words name; false, with the reason reported, when they name none that parses.
+bool parseRoot(int argc, char **argv, int index, Identifier *root)
+{
+    if (index >= argc) {
+        root->assign(kDefaultRoot, std::size(kDefaultRoot));
+        return true;
+    }
+    root->length = root->parts.size();
+    if (snmp_parse_oid(argv[index], root->parts.data(), &root->length))
+        return true;
+    snmp_perror(argv[index]);
+    return false;
+}
+
+int32_t walk(int argc, char **argv, const bv::WalkLimits &limits)
+{
+    for (const WalkOption &option : kOptions)
+        netsnmp_ds_register_config(ASN_BOOLEAN, kProgram, option.name, NETSNMP_DS_APPLICATION_ID, option.slot);
+    vSpoolPlist(nullptr, 0, nullptr, 1);
+
+    // Kept: the parser allots texts for it that the library has no call to free.
+    static netsnmp_session parsed;
+    const int index = snmp_parse_args(argc, argv, &parsed, "C:", optProc);
+    if (index < 0) {
+        bv::diagnosticLine("Profile walk: the arguments do not parse");
+        return index;
+    }
+    Identifier root;
+    if (!parseRoot(argc, argv, index, &root)) {
+        bv::diagnosticLine("Profile walk: the root does not parse");
+        return kNotWalked;
+    }
+    const OpenSession session(snmp_open(&parsed));
+    if (!session) {
+        MyDebugMessage("[UTIL-MIB] SNMP Open Err\n", 0);
+        snmp_sess_perror(kProgram, &parsed);
+        bv::diagnosticLine("Profile walk: no session with the printer");
+        return kNotWalked;
+    }
+    return Walk(session.get(), root, limits).run();
+}
+
+} // namespace
+
+void optProc(int /*argc*/, char *const * /*argv*/, int option)
+{
+    if (option != 'C' || !optarg)
+        return;
+    for (const char *letter = optarg; *letter != '\0'; ++letter) {
+        const auto known = std::find_if(std::begin(kOptions), std::end(kOptions),
+                                        [letter](const WalkOption &row) { return row.letter == *letter; });
+        if (known != std::end(kOptions)) {
+            netsnmp_ds_toggle_boolean(NETSNMP_DS_APPLICATION_ID, known->slot);
+        } else {
+            std::memset(sDEBUGmsg, 0, sizeof(sDEBUGmsg));
+            std::snprintf(sDEBUGmsg, sizeof(sDEBUGmsg), "Unknown flag passed to -C: %c\n", *letter);
+        }
+    }
+}
+
+int32_t bv::walkProfileTable(int32_t argc, char **argv, const WalkLimits &limits)
+{
+    prepareSnmpEnvironment();
+    const int32_t status = walk(argc, argv, limits);
+    if (isOn(kPrintStatistics))
+        MyDebugMessage(("[UTIL-MIB] Variables found: " + std::to_string(numprinted)).c_str(), 0);
+    // What the library printed must not come after what the caller prints, by whatever way.
+    std::fflush(stdout);
+    vRestructPlistSpool2Current(status < 0 ? kNotWalked : status);
+    return status;
+}
+
+int32_t mib_walk(int32_t argc, char **argv)
+{
+    return bv::walkProfileTable(argc, argv, {});
+}

@@ -1,0 +1,143 @@
+// Brings the stored profile lists in line with the rows of the latest walk.
+#include "discovery/Reconciliation.h"
+
+#include "discovery/FileNameRule.h"
+#include "discovery/ProfileSpool.h"
+#include "profiles/ProfileOperations.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+struct StateChange
+{
+    int32_t before;
+    int32_t after;
+};
+
+// clang-format off
+constexpr StateChange kAnsweredChanges[] = { {1, 1}, {2, 1}, {4, 3} };
+constexpr StateChange kFailedChanges[]   = { {1, 0}, {2, 0}, {4, 6} };
+constexpr StateChange kMatchChanges[]    = { {1, 2}, {5, 2}, {3, 4}, {6, 4} };
+// clang-format on
+
+// The state of a profile that the printer reports and that is not in the menus.
+constexpr int32_t kReported = 2;
+
+void changeState(ProfileRecord *record, std::span<const StateChange> changes)
+{
+    for (const StateChange &change : changes) {
+        if (record->InMenu == change.before) {
+            record->InMenu = change.after;
+            return;
+        }
+    }
+}
+
+// Slots that a count covers: counts are kept as they fall, below 0 or above 500 too.
+int32_t coveredSlots(int32_t count)
+{
+    return std::clamp(count, 0, kProfileSlots);
+}
+
+// The same file on the same storage. The texts are compared over all 32 bytes, behind a NUL too.
+bool sameFile(const ProfileRecord &left, const ProfileRecord &right)
+{
+    return std::memcmp(left.FileName, right.FileName, kProfileTextBytes) == 0 && left.Location == right.Location;
+}
+
+// Removes a record whose file name the printer would not take; whether it did.
+bool removeMisnamed(ProfileList *list, int32_t slot)
+{
+    ProfileRecord &record = list->records[slot];
+    const std::string_view name = bv::fieldText(record.FileName);
+    if (name.empty() || bJudgement8point3Format(name))
+        return false;
+    record = {};
+    --list->count;
+    return true;
+}
+
+void mergeRow(int32_t row, ProfileList *rgb, ProfileList *sim, ProfileList *dst)
+{
+    const ProfileRecord &record = PlistForSpool.records[row];
+    if (record.Location != kLocationDisk && record.Location != kLocationCard)
+        return;
+    if (!bJudgement8point3Format(bv::fieldText(record.FileName)))
+        return;
+    switch (record.ProfileClass) {
+    case 1:
+    case 2:
+        vRestructDetail(row, rgb);
+        break;
+    case 3:
+        vRestructDetail(row, sim);
+        vRestructDetail(row, dst);
+        break;
+    default:
+        break;
+    }
+}
+
+} // namespace
+
+void vDeleteMIBprofilesTemporary(int32_t status, ProfileList *list)
+{
+    const std::span<const StateChange> changes = status == 0 ? std::span(kAnsweredChanges) : std::span(kFailedChanges);
+    for (ProfileRecord &record : list->records)
+        changeState(&record, changes);
+}
+
+void vRestructDetail(int32_t row, ProfileList *list)
+{
+    const ProfileRecord &reported = PlistForSpool.records[row];
+    ProfileRecord *const end = list->records + coveredSlots(list->count);
+    ProfileRecord *const match = std::find_if(
+        list->records, end, [&reported](const ProfileRecord &record) { return sameFile(record, reported); });
+    if (match != end) {
+        // Only the state changes: the printer's other columns are not copied onto a known profile.
+        changeState(match, kMatchChanges);
+        return;
+    }
+    const auto slot = std::find_if(std::begin(list->records), std::end(list->records),
+                                   [](const ProfileRecord &record) { return record.InMenu == 0; });
+    if (slot == std::end(list->records))
+        return;
+    *slot = reported;
+    slot->InMenu = kReported;
+    ++list->count;
+}
+
+int32_t vRestructPlistSpool2Current(int32_t status)
+{
+    struct Lists
+    {
+        ProfileList rgb, sim, dst;
+    } lists{};
+    BVPListReadProfile_All(&lists.rgb, &lists.sim, &lists.dst);
+    ProfileList *const all[] = {&lists.rgb, &lists.sim, &lists.dst};
+
+    for (ProfileList *list : all)
+        vDeleteMIBprofilesTemporary(status, list);
+
+    bool removed = false;
+    for (int32_t slot = 0; slot < kProfileSlots; ++slot) {
+        for (ProfileList *list : all)
+            removed |= removeMisnamed(list, slot);
+    }
+    // Only the RGB list is packed here, even when the record was another list's; that is intended.
+    if (removed)
+        BVPListPaddingProfile_Dict(&lists.rgb);
+
+    const int32_t rows = coveredSlots(PlistForSpool.count);
+    for (int32_t row = 0; row < rows; ++row)
+        mergeRow(row, &lists.rgb, &lists.sim, &lists.dst);
+
+    for (ProfileList *list : all) {
+        BVPListCleanProfile_Dict(list);
+        BVPListPaddingProfile_Dict(list);
+        BVPListSalvage_Dict(list);
+    }
+    return BVPListWriteProfile_All(&lists.rgb, &lists.sim, &lists.dst);
+}

@@ -1,0 +1,154 @@
+// Who asks, and whose list a path, a URL or a login name of the request stands for.
+#include "helper/Caller.h"
+
+#include "helper/FileDescriptor.h"
+#include "platform/FileUrl.h"
+#include "platform/UserName.h"
+#include "profiles/ProfilePaths.h"
+
+#include <array>
+#include <charconv>
+#include <fcntl.h>
+#include <pwd.h>
+#include <unistd.h>
+
+namespace bv {
+
+namespace {
+
+constexpr std::string_view kUrlBegin = "file://";
+constexpr std::string_view kMarkLogin = "x"; // a login name that only serves to see what stands around it
+constexpr size_t kStartTimeField = 22;       // in /proc/PID/stat, counted from 1
+
+std::string fileName(const std::string &path)
+{
+    return path.substr(path.rfind('/') + 1);
+}
+
+// The login name that a path carries between what profilePathsFor puts around every name; empty when it is not such a
+// path. The caller compares the path of that name with the text, so this may be generous.
+std::string_view loginInPath(std::string_view path, std::string ProfilePaths::*which)
+{
+    const std::string model = profilePathsFor(kMarkLogin).*which;
+    const size_t folder = model.rfind('/') + 1;
+    const std::string_view suffix = std::string_view(model).substr(folder + kMarkLogin.size());
+    if (path.size() <= folder + suffix.size() || !path.starts_with(std::string_view(model).substr(0, folder)) ||
+        !path.ends_with(suffix))
+        return {};
+    return path.substr(folder, path.size() - folder - suffix.size());
+}
+
+// A percent-encoded text (RFC 3986, section 2.1) as bytes; what is no escape is kept.
+std::string percentDecoded(std::string_view text)
+{
+    std::string bytes;
+    for (size_t i = 0; i < text.size(); ++i) {
+        unsigned value = 0;
+        const char *begin = text.data() + i + 1;
+        if (text[i] == '%' && i + 2 < text.size() && std::from_chars(begin, begin + 2, value, 16).ptr == begin + 2) {
+            bytes += static_cast<char>(value);
+            i += 2;
+        } else {
+            bytes += text[i];
+        }
+    }
+    return bytes;
+}
+
+ListTarget targetOf(std::string login, uid_t user)
+{
+    ProfilePaths paths = profilePathsFor(login);
+    return {std::move(login), user, std::move(paths.current), std::move(paths.previous)};
+}
+
+} // namespace
+
+std::optional<ProcessIdentity> identifyProcess(pid_t id)
+{
+    if (id <= 0)
+        return std::nullopt;
+    const std::string path = "/proc/" + std::to_string(id) + "/stat";
+    const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    std::array<char, 1024> buffer = {};
+    const ssize_t size = file ? read(file.get(), buffer.data(), buffer.size()) : -1;
+    if (size <= 0)
+        return std::nullopt;
+    // The second field is the program's name in parentheses and may hold anything, so the count starts behind it.
+    std::string_view rest(buffer.data(), static_cast<size_t>(size));
+    const size_t name = rest.rfind(')');
+    if (name == std::string_view::npos)
+        return std::nullopt;
+    rest.remove_prefix(name + 1);
+    for (size_t field = 3; field <= kStartTimeField; ++field) {
+        const size_t blank = rest.find(' ');
+        if (blank == std::string_view::npos)
+            return std::nullopt;
+        rest.remove_prefix(blank + 1);
+    }
+    ProcessIdentity identity{id, 0};
+    if (std::from_chars(rest.data(), rest.data() + rest.size(), identity.startTime).ec != std::errc())
+        return std::nullopt;
+    return identity;
+}
+
+std::string ListTarget::currentName() const
+{
+    return fileName(currentPath);
+}
+
+std::string ListTarget::previousName() const
+{
+    return fileName(previousPath);
+}
+
+Caller::Caller(pid_t sequenceProcess) : m_user(getuid()), m_sequenceProcess(sequenceProcess) {}
+
+std::optional<ListTarget> Caller::ownList() const
+{
+    std::string login = loginName();
+    if (login.empty() || login.find('/') != std::string::npos)
+        return std::nullopt;
+    return targetOf(std::move(login), m_user);
+}
+
+std::optional<ListTarget> Caller::listOfLogin(std::string_view login) const
+{
+    if (!isRoot()) {
+        auto own = ownList();
+        return own && own->login == login ? own : std::nullopt;
+    }
+    if (login.empty() || login.find('/') != std::string_view::npos)
+        return std::nullopt;
+    // Some databases find a name whatever its case; only the very name will do.
+    const passwd *entry = getpwnam(std::string(login).c_str());
+    if (!entry || !entry->pw_name || login != entry->pw_name)
+        return std::nullopt;
+    return targetOf(std::string(login), entry->pw_uid);
+}
+
+std::optional<ListTarget> Caller::listOfCurrentPath(std::string_view path) const
+{
+    auto target = isRoot() ? listOfLogin(loginInPath(path, &ProfilePaths::current)) : ownList();
+    return target && target->currentPath == path ? target : std::nullopt;
+}
+
+std::optional<ListTarget> Caller::listOfPreviousPath(std::string_view path) const
+{
+    auto target = isRoot() ? listOfLogin(loginInPath(path, &ProfilePaths::previous)) : ownList();
+    return target && target->previousPath == path ? target : std::nullopt;
+}
+
+std::optional<ListTarget> Caller::listOfUrl(std::string_view url) const
+{
+    if (!url.starts_with(kUrlBegin))
+        return std::nullopt;
+    auto target = listOfCurrentPath(percentDecoded(url.substr(kUrlBegin.size())));
+    return target && fileUrl(target->currentPath) == url ? target : std::nullopt;
+}
+
+bool Caller::acceptsOwner(uid_t owner, const ListTarget &target) const
+{
+    return owner == m_user || (isRoot() && owner == target.user);
+}
+
+} // namespace bv

@@ -1,0 +1,21 @@
+// The helper's diagnostics: one line on standard error for each refusal and failure.
+#include "helper/Diagnostics.h"
+
+#include <cstring>
+#include <string>
+#include <unistd.h>
+
+namespace bv {
+
+void complain(std::string_view what, int error)
+{
+    std::string line = "QL70Helper: ";
+    line += what;
+    if (error != 0)
+        line.append(": ").append(std::strerror(error));
+    line += '\n';
+    // Nobody is left to tell when standard error cannot be written.
+    [[maybe_unused]] const ssize_t written = ::write(STDERR_FILENO, line.data(), line.size());
+}
+
+} // namespace bv

@@ -1,0 +1,25 @@
+// Answers the list requests of code that runs inside the helper, without a further process.
+#include "helper/DirectTransport.h"
+
+#include "helper/RequestTable.h"
+
+#include <vector>
+
+namespace bv {
+
+DirectTransport::DirectTransport(const Caller &caller) : m_caller(caller) {}
+
+bool DirectTransport::available()
+{
+    return true;
+}
+
+std::optional<std::string> DirectTransport::run(std::string_view request, std::span<const std::string> arguments)
+{
+    if (request == kWalkRequest)
+        return std::nullopt;
+    const std::vector<std::string_view> words(arguments.begin(), arguments.end());
+    return answerLine(request, answerRequest(request, words, m_caller));
+}
+
+} // namespace bv

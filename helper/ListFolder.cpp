@@ -1,0 +1,154 @@
+// The folder of the list files, held open: everything is done relative to its descriptor.
+#include "helper/ListFolder.h"
+
+#include "helper/Diagnostics.h"
+#include "platform/RootPath.h"
+#include "profiles/ProfilePaths.h"
+
+#include <cerrno>
+#include <chrono>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <thread>
+#include <unistd.h>
+
+namespace bv {
+
+namespace {
+
+constexpr mode_t kListFileMode = 0644;
+constexpr auto kLockLimit = std::chrono::seconds(10);
+constexpr auto kLockPause = std::chrono::milliseconds(5);
+constexpr int kNeverFollow = O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+
+bool isSameFile(const struct stat &a, const struct stat &b)
+{
+    return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+}
+
+} // namespace
+
+std::optional<ListFolder> ListFolder::open()
+{
+    FileDescriptor folder(::open(mapRootPath(kProfileFolder).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!folder) {
+        complain("cannot open the folder of the lists", errno);
+        return std::nullopt;
+    }
+    return ListFolder(std::move(folder));
+}
+
+bool ListFolder::writableByCaller() const
+{
+    return faccessat(m_folder.get(), ".", W_OK | X_OK, 0) == 0;
+}
+
+bool ListFolder::lock()
+{
+    const auto end = std::chrono::steady_clock::now() + kLockLimit;
+    while (flock(m_folder.get(), LOCK_EX | LOCK_NB) != 0) {
+        if (errno == EINTR)
+            continue;
+        if (errno != EWOULDBLOCK || std::chrono::steady_clock::now() >= end) {
+            complain("cannot lock the folder of the lists", errno);
+            return false;
+        }
+        std::this_thread::sleep_for(kLockPause);
+    }
+    return true;
+}
+
+FoundFile ListFolder::find(const std::string &name, int access, const Caller &caller, const ListTarget &target) const
+{
+    FoundFile found;
+    // A path descriptor opens nothing: a FIFO wakes nobody and a device starts nothing before it has been judged.
+    found.file = FileDescriptor(openat(m_folder.get(), name.c_str(), O_PATH | O_NOFOLLOW | O_CLOEXEC));
+    if (!found.file) {
+        found.standing = errno == ENOENT ? Standing::Missing : Standing::Foreign;
+        return found;
+    }
+    found.standing = Standing::Foreign;
+    if (fstat(found.file.get(), &found.status) != 0 || !S_ISREG(found.status.st_mode) || found.status.st_nlink != 1 ||
+        !caller.acceptsOwner(found.status.st_uid, target)) {
+        complain("what stands in the place of a list file is not the user's regular file");
+        return found;
+    }
+    if (access != O_PATH) {
+        const struct stat judged = found.status;
+        found.file = FileDescriptor(openat(m_folder.get(), name.c_str(), access | kNeverFollow));
+        if (!found.file || fstat(found.file.get(), &found.status) != 0 || !isSameFile(judged, found.status) ||
+            found.status.st_nlink != 1) {
+            complain("cannot open a list file", errno);
+            return found;
+        }
+    }
+    found.standing = Standing::Usable;
+    return found;
+}
+
+FileDescriptor ListFolder::create(const std::string &name, const Caller &caller, const ListTarget &target) const
+{
+    FileDescriptor file(openat(m_folder.get(), name.c_str(), O_RDWR | O_CREAT | O_EXCL | kNeverFollow, kListFileMode));
+    if (!file) {
+        complain("cannot make a file beside the list", errno);
+        return file;
+    }
+    const bool given = !caller.isRoot() || fchown(file.get(), target.user, static_cast<gid_t>(-1)) == 0;
+    if (!given || fchmod(file.get(), kListFileMode) != 0) {
+        complain("cannot set owner and mode of a new file", errno);
+        removeIfNamed(name, file);
+        return {};
+    }
+    return file;
+}
+
+bool ListFolder::stillNamed(const std::string &name, const FileDescriptor &file) const
+{
+    struct stat named = {};
+    struct stat opened = {};
+    return fstat(file.get(), &opened) == 0 && fstatat(m_folder.get(), name.c_str(), &named, AT_SYMLINK_NOFOLLOW) == 0 &&
+           isSameFile(named, opened);
+}
+
+bool ListFolder::removeIfNamed(const std::string &name, const FileDescriptor &file) const
+{
+    if (!stillNamed(name, file) || unlinkat(m_folder.get(), name.c_str(), 0) != 0) {
+        complain("cannot remove a file", errno);
+        return false;
+    }
+    return true;
+}
+
+bool ListFolder::replace(const std::string &name, const FileDescriptor &file, const std::string &target) const
+{
+    if (fsync(file.get()) != 0) {
+        complain("cannot flush the new list to disk", errno);
+        return false;
+    }
+    if (!stillNamed(name, file)) {
+        complain("the new list is no longer where it was written");
+        return false;
+    }
+    if (renameat(m_folder.get(), name.c_str(), m_folder.get(), target.c_str()) != 0) {
+        complain("cannot rename the new list over the old one", errno);
+        return false;
+    }
+    // Only someone who may rename here can have put another file under the name meanwhile; he gets no TRUE for it.
+    if (!stillNamed(target, file)) {
+        complain("another file took the place of the new list");
+        return false;
+    }
+    return flush();
+}
+
+bool ListFolder::flush() const
+{
+    // Some file systems have nothing to flush for a folder and say EINVAL, see fsync(2).
+    if (fsync(m_folder.get()) != 0 && errno != EINVAL) {
+        complain("cannot flush the folder of the lists to disk", errno);
+        return false;
+    }
+    return true;
+}
+
+} // namespace bv

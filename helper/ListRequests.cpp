@@ -1,0 +1,160 @@
+// The requests about the list files.
+#include "helper/ListRequests.h"
+
+#include "helper/Diagnostics.h"
+#include "helper/ListFolder.h"
+#include "helper/StagingFile.h"
+
+#include <array>
+#include <cerrno>
+#include <fcntl.h>
+#include <optional>
+#include <unistd.h>
+
+namespace bv {
+
+namespace {
+
+constexpr size_t kCopyBytes = size_t{64} << 10;
+
+// The folder, locked, for a caller who may manage profiles.
+std::optional<ListFolder> openForWriting()
+{
+    auto folder = ListFolder::open();
+    if (!folder)
+        return std::nullopt;
+    if (!folder->writableByCaller()) {
+        complain("the caller may not manage profiles");
+        return std::nullopt;
+    }
+    if (!folder->lock())
+        return std::nullopt;
+    return folder;
+}
+
+bool known(const std::optional<ListTarget> &target)
+{
+    if (!target)
+        complain("that is not a list of the caller");
+    return target.has_value();
+}
+
+bool copyBytes(const FileDescriptor &from, const FileDescriptor &to)
+{
+    std::array<char, kCopyBytes> buffer;
+    for (;;) {
+        const ssize_t got = read(from.get(), buffer.data(), buffer.size());
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got <= 0)
+            return got == 0;
+        for (ssize_t done = 0; done < got;) {
+            const ssize_t written = write(to.get(), buffer.data() + done, static_cast<size_t>(got - done));
+            if (written < 0 && errno == EINTR)
+                continue;
+            if (written <= 0)
+                return false;
+            done += written;
+        }
+    }
+}
+
+// Makes the second file a byte copy of the first, by a new file of a name that only copies use and only under the lock.
+bool copyOver(const ListFolder &folder, const Caller &caller, const ListTarget &target, const std::string &from,
+              const std::string &to)
+{
+    const FoundFile source = folder.find(from, O_RDONLY, caller, target);
+    if (source.standing != Standing::Usable || folder.find(to, O_PATH, caller, target).standing == Standing::Foreign)
+        return false;
+    const std::string copyName = to + ".copy";
+    const FoundFile left = folder.find(copyName, O_PATH, caller, target); // by a copy that was killed
+    if (left.standing == Standing::Foreign ||
+        (left.standing == Standing::Usable && !folder.removeIfNamed(copyName, left.file)))
+        return false;
+
+    const FileDescriptor copy = folder.create(copyName, caller, target);
+    if (!copy)
+        return false;
+    if (copyBytes(source.file, copy)) {
+        if (folder.replace(copyName, copy, to))
+            return true;
+    } else {
+        complain("cannot copy the list", errno);
+    }
+    if (folder.stillNamed(copyName, copy))
+        folder.removeIfNamed(copyName, copy);
+    return false;
+}
+
+} // namespace
+
+Outcome answerIsAdmin(const Caller &caller, RequestArguments arguments)
+{
+    if (!known(caller.listOfCurrentPath(arguments[0])))
+        return outcomeOf(false);
+    const auto folder = ListFolder::open();
+    return outcomeOf(folder && folder->writableByCaller());
+}
+
+Outcome answerExist(const Caller &caller, RequestArguments arguments)
+{
+    const auto target = caller.listOfCurrentPath(arguments[0]);
+    if (!known(target))
+        return outcomeOf(false);
+    const auto folder = ListFolder::open();
+    return outcomeOf(folder &&
+                     folder->find(target->currentName(), O_PATH, caller, *target).standing == Standing::Usable);
+}
+
+Outcome answerRemove(const Caller &caller, RequestArguments arguments)
+{
+    const auto current = caller.listOfCurrentPath(arguments[0]);
+    const auto target = current ? current : caller.listOfPreviousPath(arguments[0]);
+    if (!known(target))
+        return outcomeOf(false);
+    const auto folder = openForWriting();
+    if (!folder)
+        return outcomeOf(false);
+    const std::string name = current ? target->currentName() : target->previousName();
+    const FoundFile found = folder->find(name, O_PATH, caller, *target);
+    if (found.standing != Standing::Usable || !folder->removeIfNamed(name, found.file))
+        return outcomeOf(false);
+    folder->flush(); // the file is gone, whether or not the disk knows it yet
+    return outcomeOf(true);
+}
+
+Outcome answerSwap(const Caller &caller, RequestArguments arguments)
+{
+    const std::string_view code = arguments[0];
+    const auto target = caller.listOfCurrentPath(arguments[1]);
+    if (!known(target) || target->previousPath != arguments[2] || (code != "2" && code != "3"))
+        return outcomeOf(false);
+    const auto folder = openForWriting();
+    if (!folder)
+        return outcomeOf(false);
+    const bool keepCurrent = code == "2";
+    const std::string current = target->currentName();
+    const std::string previous = target->previousName();
+    return outcomeOf(
+        copyOver(*folder, caller, *target, keepCurrent ? current : previous, keepCurrent ? previous : current));
+}
+
+Outcome answerPiece(const Caller &caller, RequestArguments arguments)
+{
+    const auto target = caller.listOfUrl(arguments[0]);
+    if (!known(target))
+        return outcomeOf(false);
+    const auto folder = openForWriting();
+    return outcomeOf(folder && StagingFile(*folder, caller, *target).add(arguments[1]));
+}
+
+Outcome answerCommit(const Caller &caller, RequestArguments arguments)
+{
+    const auto target = caller.listOfUrl(arguments[0]);
+    if (!known(target))
+        return outcomeOf(false);
+    const auto folder = openForWriting();
+    return outcomeOf(folder && StagingFile(*folder, caller, *target).commit());
+}
+
+} // namespace bv

@@ -1,0 +1,54 @@
+// What the helper does to its own process before it looks at a request.
+#include "helper/ProcessStart.h"
+
+#include "helper/Diagnostics.h"
+
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <sys/auxv.h>
+#include <unistd.h>
+
+namespace bv {
+
+namespace {
+
+bool openStandardDescriptors()
+{
+    for (int descriptor = STDIN_FILENO; descriptor <= STDERR_FILENO; ++descriptor) {
+        if (fcntl(descriptor, F_GETFD) < 0 && open("/dev/null", O_RDWR) != descriptor)
+            return false;
+    }
+    return true;
+}
+
+bool giveUpEffectiveIds()
+{
+    const uid_t user = getuid();
+    const gid_t group = getgid();
+    return setresgid(group, group, group) == 0 && setresuid(user, user, user) == 0;
+}
+
+} // namespace
+
+bool prepareProcess()
+{
+    if (!openStandardDescriptors())
+        return false;
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+
+    const bool idsDiffer = getuid() != geteuid() || getgid() != getegid();
+    // AT_SECURE: the kernel's own word for "started with more rights than the caller's", see getauxval(3).
+    if (!idsDiffer && getauxval(AT_SECURE) == 0)
+        return true;
+    clearenv();
+    if (idsDiffer && !giveUpEffectiveIds()) {
+        complain("cannot give up the effective ids", errno);
+        return false;
+    }
+    return true;
+}
+
+} // namespace bv

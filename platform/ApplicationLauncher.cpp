@@ -1,0 +1,21 @@
+// Existence test and detached start of an application.
+#include "platform/ApplicationLauncher.h"
+
+#include "platform/RootPath.h"
+
+#include <QFileInfo>
+#include <QProcess>
+
+namespace bv {
+
+bool openApplication(std::string_view logicalPath)
+{
+    QFileInfo program(QString::fromStdString(mapRootPath(logicalPath)));
+    if (program.isDir())
+        program.setFile(program.filePath() + QStringLiteral("/Contents/MacOS/") + program.completeBaseName());
+    if (!program.isFile() || !program.isExecutable())
+        return false;
+    return QProcess::startDetached(program.filePath(), {});
+}
+
+} // namespace bv

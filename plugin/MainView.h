@@ -1,0 +1,14 @@
+// MainView: the panel's container view, the root of the interface file.
+#pragma once
+
+#include "platform/ClassNames.h"
+
+#include <QWidget>
+
+class MainView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+};

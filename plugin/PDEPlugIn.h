@@ -1,0 +1,21 @@
+// PDEPlugIn: the root object of the plug-in, which hands out the panel.
+#pragma once
+
+#include "platform/ClassNames.h"
+
+#include "platform/HostProtocol.h"
+
+#include <QObject>
+
+class PDEPlugIn : public QObject, public bv::PrintPanelFactory
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID BV_PRINT_PANEL_FACTORY_IID)
+    Q_INTERFACES(bv::PrintPanelFactory)
+
+public:
+    bool initWithBundle(const bv::PluginBundle &bundle) override;
+    // One panel for the printer-module type, nothing for any other.
+    std::optional<std::vector<std::unique_ptr<bv::PrintPanel>>>
+    PDEPanelsForType(const QString &type, bv::PrintPanelCallback *hostInfo) override;
+};

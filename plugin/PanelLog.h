@@ -1,0 +1,40 @@
+// The panel's half of the diagnostic log: bracketing lines for objects, and a counter of control-table records.
+#pragma once
+
+#include "common/PDEControlItem.h"
+#include "platform/Log.h"
+#include "platform/PrintValue.h"
+
+class QObject;
+
+// Descriptions that "%@" writes (UTF-8).
+std::string describe(const QString &text);
+std::string describe(const QObject &object);
+namespace bv {
+std::string describe(const PrintValue &value);
+std::string describe(const PrintDictionary &dictionary);
+
+// "BEGIN self(object) format" and the like, formatted with the further arguments, as one line of the diagnostic log.
+void logBracket(std::string_view bracket, const LogArgument &object, std::string_view format,
+                std::initializer_list<LogArgument> arguments);
+} // namespace bv
+
+template <typename... Arguments>
+void _PDEProlog(const QObject *object, const char *format, const Arguments &...arguments)
+{
+    bv::logBracket("BEGIN self(%@) %@", bv::LogArgument(object), format, {bv::LogArgument(arguments)...});
+}
+
+template <typename... Arguments>
+void _PDEEpilog(const QObject *object, const char *format, const Arguments &...arguments)
+{
+    bv::logBracket("END self(%@) %@", bv::LogArgument(object), format, {bv::LogArgument(arguments)...});
+}
+
+template <typename... Arguments> void _PDELog(const QObject *object, const char *format, const Arguments &...arguments)
+{
+    bv::logBracket("LOG self(%@): %@", bv::LogArgument(object), format, {bv::LogArgument(arguments)...});
+}
+
+// Number of records up to and including the end record, counted by the control field; 1 for an empty table.
+int32_t _DEBUGControlTable(PDEControlTable table);

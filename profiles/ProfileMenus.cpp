@@ -1,0 +1,79 @@
+// PDECommon: the stored profiles behind the PPD's choices in the profile menus.
+#include "common/PDECommon.h"
+
+#include "platform/Bundle.h"
+#include "platform/Log.h"
+#include "profiles/ProfileKinds.h"
+#include "profiles/ProfileOperations.h"
+
+#include <QComboBox>
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <new>
+
+namespace {
+
+using ThreeLists = std::array<ProfileList, 3>;
+
+// The menu title of a profile: file name, profile name in parentheses, storage. The bytes are cut at 255.
+QString profileTitle(const ProfileRecord &record, const QString &storage)
+{
+    std::string title(bv::fieldText(record.FileName));
+    title.append("(").append(bv::fieldText(record.ProfileName)).append(")").append(storage.toStdString());
+    return QString::fromUtf8(title.data(), qsizetype(std::min(title.size(), size_t{255})));
+}
+
+// The localised name of a storage; an empty text for unknown storage, a null one when the name cannot be had.
+QString storageName(int32_t location)
+{
+    const char *key = location == kLocationDisk ? "Disk" : location == kLocationCard ? "Card" : nullptr;
+    if (!key)
+        return QStringLiteral("");
+    const QString name = localizedString(key);
+    return name.isEmpty() ? QString() : name;
+}
+
+// Appends the listed profiles; false when some storage name could not be had.
+bool appendProfiles(QComboBox *menu, const ProfileList &list)
+{
+    bool complete = true;
+    for (int32_t i = 0; i < std::min<int32_t>(list.count, kProfileSlots); ++i) {
+        const ProfileRecord &record = list.records[i];
+        if (!bv::shownInMenu(record.InMenu))
+            continue;
+        const QString storage = storageName(record.Location);
+        if (storage.isNull()) {
+            complete = false;
+            continue;
+        }
+        if (menu)
+            menu->addItem(profileTitle(record, storage));
+    }
+    return complete;
+}
+
+} // namespace
+
+int32_t PDECommon::commonAddMenuFromProfilePlist(PDEControlTable table)
+{
+    try {
+        const auto lists = std::make_unique<ThreeLists>();
+        const int32_t read =
+            BVPListReadProfile_All(&(*lists)[kProfileRGB], &(*lists)[kProfileSIM], &(*lists)[kProfileDST]);
+        if (read != 0)
+            return read;
+        int32_t result = noErr;
+        for (int16_t row = 0; table && table[row].control; ++row) {
+            const auto which = bv::profileClassOfKind(table[row].profileKind);
+            auto *menu = qobject_cast<QComboBox *>(table[row].control);
+            // Once set, the result stays: only the last value counts, and no profile row sets it back.
+            if (!which || !appendProfiles(menu, (*lists)[*which]))
+                result = paramErr;
+        }
+        return result;
+    } catch (const std::bad_alloc &) {
+        bv::diagnosticLine("no memory for the profile menus");
+        return paramErr;
+    }
+}

@@ -1,0 +1,118 @@
+// PDECommon: a chosen profile in the queue's dictionary of the ticket.
+#include "common/PDECommon.h"
+
+#include "platform/Log.h"
+#include "profiles/ProfileKinds.h"
+#include "profiles/ProfileOperations.h"
+
+#include <QStringDecoder>
+#include <algorithm>
+#include <memory>
+#include <new>
+
+namespace {
+
+constexpr size_t kEncodedPathLimit = 1023;
+
+QString entryKey(const PDEControlItem *item, const char *suffix)
+{
+    return QString::fromLatin1(item->ppdKey) + QLatin1String(suffix);
+}
+
+// The stored list of a row's class; null when memory runs out. A list that cannot be read is empty.
+std::unique_ptr<ProfileList> rowsList(ProfileClassIndex which)
+{
+    std::unique_ptr<ProfileList> list(new (std::nothrow) ProfileList());
+    if (list)
+        BVPListReadProfile_Dict(list.get(), which);
+    else
+        bv::diagnosticLine("no memory for a profile list");
+    return list;
+}
+
+// Calls `visit(record, number)` for each record that counts, numbered from 1, until it answers true.
+template <typename Visit> void visitNumbered(const ProfileList &list, Visit visit)
+{
+    int16_t number = 0;
+    for (int32_t i = 0; i < std::min<int32_t>(list.count, kProfileSlots); ++i) {
+        if (bv::countsInNumbering(list.records[i].InMenu) && visit(list.records[i], ++number))
+            return;
+    }
+}
+
+// The path that a stored entry stands for, as the printer's text; a null string when it stands for none.
+QString storedPath(const bv::PrintValue &entry)
+{
+    const QString *text = entry.string();
+    const bool ascii = text && std::all_of(text->begin(), text->end(), [](QChar c) { return c.unicode() < 0x80; });
+    if (!ascii || size_t(text->size()) > kEncodedPathLimit)
+        return {};
+    std::string path = bv::decodeDevicePath(text->toStdString());
+    path.resize(std::min(path.size(), path.find('\0')));
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    const QString decoded = decoder(QByteArrayView(path.data(), qsizetype(path.size())));
+    return decoder.hasError() ? QString() : decoded;
+}
+
+} // namespace
+
+int32_t PDECommon::commonSetTicketAddedProfile(const PDEControlItem *item, const bv::PrintDictionaryRef &dict,
+                                               int16_t select)
+{
+    const auto which = bv::profileClassOfKind(item->profileKind);
+    if (!dict || !which)
+        return -1;
+    std::string path;
+    if (const auto list = rowsList(*which)) {
+        visitNumbered(*list, [&](const ProfileRecord &record, int16_t number) {
+            if (number != select)
+                return false;
+            path = bv::devicePath(record);
+            return true;
+        });
+    }
+    if (item->ppdChoices && !item->ppdChoices->empty()) {
+        const PPDChoiceEntry &first = item->ppdChoices->front();
+        dict->setValue(first[0], bv::PrintValue(first[2]));
+    }
+    dict->setValue(entryKey(item, "CustomFilename"),
+                   bv::PrintValue(QString::fromStdString(bv::encodeDevicePath(path))));
+    commonSetTicketAddedProfileFlag(item, dict, QStringLiteral("True"));
+    return 0;
+}
+
+int16_t PDECommon::commonGetTicketAddedProfile(const PDEControlItem *item, const bv::PrintDictionaryRef &dict)
+{
+    const auto which = bv::profileClassOfKind(item->profileKind);
+    if (!dict || !which)
+        return -1;
+    const QString wanted = storedPath(dict->value(entryKey(item, "CustomFilename")));
+    const auto list = wanted.isEmpty() ? nullptr : rowsList(*which);
+    int16_t position = 0;
+    if (list) {
+        visitNumbered(*list, [&](const ProfileRecord &record, int16_t number) {
+            const bool known = record.Location == kLocationDisk || record.Location == kLocationCard;
+            if (!known || QString::fromStdString(bv::devicePath(record)) != wanted)
+                return false;
+            position = number;
+            return true;
+        });
+    }
+    return position;
+}
+
+int32_t PDECommon::commonSetTicketAddedProfileFlag(const PDEControlItem *item, const bv::PrintDictionaryRef &dict,
+                                                   const QString &flag)
+{
+    if (dict && bv::profileClassOfKind(item->profileKind))
+        dict->setValue(entryKey(item, "Custom"), bv::PrintValue(flag));
+    return 0;
+}
+
+bv::PrintValue PDECommon::commonGetTicketAddedProfileFlag(const PDEControlItem *item,
+                                                          const bv::PrintDictionaryRef &dict)
+{
+    if (!dict || !bv::profileClassOfKind(item->profileKind))
+        return {};
+    return dict->value(entryKey(item, "Custom"));
+}
