@@ -281,23 +281,4 @@ TEST_F(HelperChild, GetsItsWordsUnchanged)
     EXPECT_EQ(bv::runHelper("name", words), "[name][][two words][line\nend][--x]['\"$HOME\\][印刷]");
 }
 
-TEST(Answers, GiveTheIntegerBehindTheMarker)
-{
-    const std::pair<const char *, std::optional<int32_t>> rows[] = {
-        {"mibwalk_XPC=iRet=-3", -3},
-        {"SYS.0 = 3\nmibwalk_XPC=iRet=0\n", 0},
-        {"mibwalk_XPC=iRet=12x", 12},
-        {"mibwalk_XPC=iRet=", 0},
-        {"mibwalk_XPC=iRet=x", 0},
-        {"mibwalk_XPC=iRet=1mibwalk_XPC=iRet=2", 1},
-        {"mibwalk_XPC=FALSE", {}},
-        {"mibwalk_XPC=iRet=99999999999999999999999", 2147483647},
-        {"", {}},
-        {"mibwalk_XPC=iRet=-99999999999", -2147483647 - 1},
-    };
-    for (const auto &[answer, number] : rows)
-        EXPECT_EQ(bv::answerNumber(std::string(answer), "mibwalk_XPC=iRet="), number) << answer;
-    EXPECT_EQ(bv::answerNumber(std::nullopt, "mibwalk_XPC=iRet="), std::nullopt);
-}
-
 } // namespace
