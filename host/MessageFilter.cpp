@@ -11,8 +11,9 @@ namespace bv {
 namespace {
 
 // Beginnings of remarks that tell the user of this program nothing.
-constexpr std::array<const char *, 2> kDropped = {
+constexpr std::array<const char *, 3> kDropped = {
     "Detected locale ",                        // the locale "C" is one that this program is to work in
+    "This plugin does not support ",           // a window system without a display says so of each window
     "QStandardPaths: XDG_RUNTIME_DIR not set", // nothing is kept there
 };
 

@@ -139,6 +139,11 @@ void PpdOptionRows::updateConflicts(PMPrintSettings settings)
     m_conflict->setVisible(!sentences.isEmpty());
 }
 
+bool PpdOptionRows::hasConstraints() const
+{
+    return m_ppd && (m_ppd->num_consts > 0 || ppdFindAttr(m_ppd, "cupsUIConstraints", nullptr));
+}
+
 QString PpdOptionRows::conflictText() const
 {
     return m_conflict->text();

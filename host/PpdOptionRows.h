@@ -35,6 +35,8 @@ public:
     // choices do not go together with what; empty and hidden without such a conflict.
     void updateConflicts(PMPrintSettings settings);
     QString conflictText() const;
+    // Whether the PPD rules out anything at all.
+    bool hasConstraints() const;
 
     // The PPD keywords of the rows, in order; the pop-up of each has its keyword as object name, with "row_" before it.
     QStringList keywords() const;

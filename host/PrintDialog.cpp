@@ -291,6 +291,8 @@ void PrintDialog::say(const QString &problem)
 
 void PrintDialog::refreshSummary()
 {
+    if (m_current && m_current->state() == QueueRoom::State::Ready)
+        m_current->updateConflicts();
     if (m_current && m_current->pane())
         m_parts->summary->showSummary(m_current->summary());
     else

@@ -2,6 +2,7 @@
 #include "host/PrintJob.h"
 
 #include "host/QueueSession.h"
+#include "host/StandardAttributes.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -20,10 +21,11 @@ JobOptions ticketOptions(const PrintDictionary &ticket)
     return options;
 }
 
-JobOptions jobOptions(const PrintDictionary &ticket, ppd_file_t *, const JobOptions &extra)
+JobOptions jobOptions(const PrintDictionary &ticket, ppd_file_t *ppd, const JobOptions &extra)
 {
     JobOptions options = extra;
     options.merge(ticketOptions(ticket));
+    addStandardAttributes(options, ppd);
     return options;
 }
 

@@ -95,9 +95,19 @@ PrintDictionary QueueRoom::summary()
     return m_holder ? m_holder->panel().summaryInfo() : PrintDictionary();
 }
 
+void QueueRoom::updateConflicts()
+{
+    if (!m_rows || !m_rows->hasConstraints())
+        return;
+    // A panel that refuses now is asked again, and heard, before anything is printed.
+    if (m_holder)
+        m_holder->panel().saveValuesAndReturnError(nullptr);
+    m_rows->updateConflicts(m_session->printSettings());
+}
+
 void QueueRoom::choiceMade(const QString &keyword, const QString &choice)
 {
-    m_rows->updateConflicts(m_session->printSettings());
+    updateConflicts();
     if (m_holder)
         m_holder->panel().PPDOptionKeyValueDidChange(keyword, choice);
 }
@@ -110,7 +120,7 @@ void QueueRoom::restoreDefaults()
     m_rows->restoreDefaults();
     if (m_holder)
         m_holder->panel().restoreValuesAndReturnError(nullptr);
-    m_rows->updateConflicts(m_session->printSettings());
+    updateConflicts();
 }
 
 Result<PrintedJob> QueueRoom::print(JobSink &sink, const QStringList &documents, const JobOptions &extra)

@@ -58,6 +58,8 @@ public:
 
     // What the panel says of its settings; an empty dictionary without a panel.
     PrintDictionary summary();
+    // Has the panel write its choices into the ticket and looks whether they and the rows' go together.
+    void updateConflicts();
     // To be called when the user chose something in the rows: looks for conflicts again and tells the panel.
     void choiceMade(const QString &keyword, const QString &choice);
     // Empties the ticket and puts panel and rows on their defaults.

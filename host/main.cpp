@@ -1,8 +1,11 @@
 // bvprint: the print dialog, as a window or driven by a batch of commands.
+#include "host/BatchRunner.h"
 #include "host/CommandLine.h"
+#include "host/JobSink.h"
 #include "host/MessageFilter.h"
 #include "host/PanelLoader.h"
 #include "host/PrintDialogRunner.h"
+#include "host/SessionStart.h"
 
 #include <QApplication>
 #include <cstdio>
@@ -25,6 +28,21 @@ void chooseWindowSystem(bool batch)
         return;
     if (batch || (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+int runBatch(const bv::CommandLine &line, bv::PanelLoader &loader)
+{
+    const bv::Result<std::unique_ptr<bv::QueueSession>> session = bv::startSession(line);
+    if (!session)
+        return refuse(session.error());
+    bv::PrintServerSink printServer;
+    bv::FolderSink nowhere;
+    bv::JobSink &sink = line.ppd.isEmpty() ? static_cast<bv::JobSink &>(printServer) : nowhere;
+    bv::BatchCommands commands(*session.value(), loader, sink);
+    bv::BatchRunner runner(commands);
+    if (const QString error = runner.open(line.script); !error.isEmpty())
+        return refuse(error);
+    return runner.run();
 }
 
 } // namespace
@@ -55,5 +73,10 @@ int main(int argc, char **argv)
     bv::PanelLoader loader;
     if (const auto loaded = loader.load(line.plugin); !loaded)
         return refuse(loaded.error());
+    if (line.mode == Mode::Batch) {
+        // A file panel of the desktop could not be driven.
+        QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        return runBatch(line, loader);
+    }
     return bv::runPrintDialog(line, loader);
 }
