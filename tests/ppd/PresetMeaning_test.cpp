@@ -1,4 +1,6 @@
 // What the printer's PPD must offer so that Quick Color, which picks choices by position, means what its names say.
+#include "colorrules/QuickColorPresets.h"
+
 #include <cups/ppd.h>
 #include <gtest/gtest.h>
 
@@ -22,47 +24,40 @@ Ppd openPpd()
     return ppd;
 }
 
-struct Position
-{
-    int index;
-    const char *choice;
-};
-
-struct PresetRow
+struct Meaning
 {
     const char *option;
-    std::array<Position, 3> preset; // General, Photo, Presentation
-    bool economyClears[3];          // Economy takes it back to the first choice
+    std::array<const char *, kPresetCount> choice; // General, Photo, Presentation
 };
 
-constexpr std::array<const char *, 3> kQuickColors = {"General", "Photo", "Presentation"};
+constexpr std::array<const char *, kPresetCount> kQuickColors = {"General", "Photo", "Presentation"};
 
 // General: photos as a camera sees them, text and charts vivid and crisp, gray from black toner alone.
 // Photo: everything as an image: perceptual, gray from all four toners, smooth screens, no sharpened edges.
 // Presentation: everything as a slide: vivid colors, gray from black toner alone, fine screens, sharpened edges.
 // clang-format off
-constexpr PresetRow kPresets[] = {
-    {"BVImageRGBSource",             {{{1, "sRGB"},                 {1, "sRGB"},                 {1, "sRGB"}}},                 {}},
-    {"BVImageRenderIntent",          {{{0, "Perceptual"},           {0, "Perceptual"},           {1, "Saturation"}}},           {}},
-    {"BVImageGrayTreatment",         {{{1, "BlackOnly"},            {0, "FourColor"},            {1, "BlackOnly"}}},            {}},
-    {"BVImageDestinationProfile",    {{{0, "Auto"},                 {0, "Auto"},                 {0, "Auto"}}},                 {}},
-    {"BVImageHalftone",              {{{1, "Gradation"},            {1, "Gradation"},            {2, "Detail"}}},               {}},
-    {"BVImageEdgeEnhance",           {{{0, "Off"},                  {0, "Off"},                  {1, "On"}}},                   {false, false, true}},
-    {"BVTextRGBSource",              {{{1, "sRGB"},                 {1, "sRGB"},                 {1, "sRGB"}}},                 {}},
-    {"BVTextRenderIntent",           {{{1, "Saturation"},           {0, "Perceptual"},           {1, "Saturation"}}},           {}},
-    {"BVTextGrayTreatment",          {{{1, "BlackOnly"},            {0, "FourColor"},            {1, "BlackOnly"}}},            {}},
-    {"BVTextDestinationProfile",     {{{0, "Auto"},                 {0, "Auto"},                 {0, "Auto"}}},                 {}},
-    {"BVTextHalftone",               {{{2, "Detail"},               {1, "Gradation"},            {2, "Detail"}}},               {}},
-    {"BVTextEdgeEnhance",            {{{1, "On"},                   {0, "Off"},                  {1, "On"}}},                   {}},
-    {"BVGraphicsRGBSource",          {{{1, "sRGB"},                 {1, "sRGB"},                 {1, "sRGB"}}},                 {}},
-    {"BVGraphicsRenderIntent",       {{{1, "Saturation"},           {0, "Perceptual"},           {1, "Saturation"}}},           {}},
-    {"BVGraphicsGrayTreatment",      {{{1, "BlackOnly"},            {0, "FourColor"},            {1, "BlackOnly"}}},            {}},
-    {"BVGraphicsDestinationProfile", {{{0, "Auto"},                 {0, "Auto"},                 {0, "Auto"}}},                 {}},
-    {"BVGraphicsHalftone",           {{{1, "Gradation"},            {1, "Gradation"},            {2, "Detail"}}},               {}},
-    {"BVGraphicsEdgeEnhance",        {{{1, "On"},                   {0, "Off"},                  {1, "On"}}},                   {true, false, true}},
-    {"BVSimSource",                  {{{0, "None"},                 {0, "None"},                 {0, "None"}}},                 {}},
-    {"BVSimRenderIntent",            {{{0, "RelativeColorimetric"}, {0, "RelativeColorimetric"}, {0, "RelativeColorimetric"}}}, {}},
-    {"BVSimGrayTreatment",           {{{0, "AsSpecified"},          {0, "AsSpecified"},          {0, "AsSpecified"}}},          {}},
+constexpr Meaning kMeanings[] = {
+    {"BVImageRGBSource",             {"sRGB", "sRGB", "sRGB"}},
+    {"BVImageRenderIntent",          {"Perceptual", "Perceptual", "Saturation"}},
+    {"BVImageGrayTreatment",         {"BlackOnly", "FourColor", "BlackOnly"}},
+    {"BVImageDestinationProfile",    {"Auto", "Auto", "Auto"}},
+    {"BVImageHalftone",              {"Gradation", "Gradation", "Detail"}},
+    {"BVImageEdgeEnhance",           {"Off", "Off", "On"}},
+    {"BVTextRGBSource",              {"sRGB", "sRGB", "sRGB"}},
+    {"BVTextRenderIntent",           {"Saturation", "Perceptual", "Saturation"}},
+    {"BVTextGrayTreatment",          {"BlackOnly", "FourColor", "BlackOnly"}},
+    {"BVTextDestinationProfile",     {"Auto", "Auto", "Auto"}},
+    {"BVTextHalftone",               {"Detail", "Gradation", "Detail"}},
+    {"BVTextEdgeEnhance",            {"On", "Off", "On"}},
+    {"BVGraphicsRGBSource",          {"sRGB", "sRGB", "sRGB"}},
+    {"BVGraphicsRenderIntent",       {"Saturation", "Perceptual", "Saturation"}},
+    {"BVGraphicsGrayTreatment",      {"BlackOnly", "FourColor", "BlackOnly"}},
+    {"BVGraphicsDestinationProfile", {"Auto", "Auto", "Auto"}},
+    {"BVGraphicsHalftone",           {"Gradation", "Gradation", "Detail"}},
+    {"BVGraphicsEdgeEnhance",        {"On", "Off", "On"}},
+    {"BVSimSource",                  {"None", "None", "None"}},
+    {"BVSimRenderIntent",            {"RelativeColorimetric", "RelativeColorimetric", "RelativeColorimetric"}},
+    {"BVSimGrayTreatment",           {"AsSpecified", "AsSpecified", "AsSpecified"}},
 };
 // clang-format on
 
@@ -79,24 +74,28 @@ TEST_P(Presets, MeanWhatTheirNameSaysAndConflictWithNothing)
     ASSERT_EQ(quickColor->num_choices, 4) << "the fourth is the free choice";
     EXPECT_STREQ(quickColor->choices[preset].choice, kQuickColors[preset]);
 
-    for (const bool economy : {false, true}) {
-        ppdMarkOption(ppd.get(), "BVQuickColor", kQuickColors[preset]);
-        ppdMarkOption(ppd.get(), "BVEconoMode", economy ? "True" : "False");
-        for (const PresetRow &row : kPresets) {
-            SCOPED_TRACE(row.option);
-            const ppd_option_t *option = ppdFindOption(ppd.get(), row.option);
-            ASSERT_TRUE(option);
-            const auto [index, expected] = row.preset[preset];
-            ASSERT_LT(index, option->num_choices);
-            EXPECT_STREQ(option->choices[index].choice, expected);
-            const int inForce = economy && row.economyClears[preset] ? 0 : index;
-            if (inForce != index) {
-                EXPECT_STREQ(option->choices[0].choice, "Off");
-            }
-            ppdMarkOption(ppd.get(), row.option, option->choices[inForce].choice);
-        }
-        EXPECT_EQ(ppdConflicts(ppd.get()), 0);
+    const std::span<const PresetRow> indexes = quickColorPresets();
+    ASSERT_EQ(indexes.size(), std::size(kMeanings));
+    ppdMarkOption(ppd.get(), "BVQuickColor", kQuickColors[preset]);
+    for (size_t i = 0; i < indexes.size(); ++i) {
+        SCOPED_TRACE(kMeanings[i].option);
+        const ppd_option_t *option = ppdFindOption(ppd.get(), kMeanings[i].option);
+        ASSERT_TRUE(option);
+        const int index = indexes[i].index[preset];
+        ASSERT_LT(index, option->num_choices);
+        EXPECT_STREQ(option->choices[index].choice, kMeanings[i].choice[preset]) << indexes[i].menu;
+        ppdMarkOption(ppd.get(), kMeanings[i].option, option->choices[index].choice);
     }
+    EXPECT_EQ(ppdConflicts(ppd.get()), 0);
+
+    // Economy takes some menus to their first choice: that must be the one that saves toner.
+    ppdMarkOption(ppd.get(), "BVEconoMode", "True");
+    for (const PresetRow *row : economyRows(static_cast<int16_t>(preset))) {
+        const ppd_option_t *option = ppdFindOption(ppd.get(), kMeanings[row - indexes.data()].option);
+        EXPECT_STREQ(option->choices[0].choice, "Off") << row->menu;
+        ppdMarkOption(ppd.get(), option->keyword, "Off");
+    }
+    EXPECT_EQ(ppdConflicts(ppd.get()), 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(QuickColor, Presets, testing::Values(0, 1, 2),
@@ -107,10 +106,10 @@ TEST(Defaults, AreTheGeneralPresetAndConflictWithNothing)
     const Ppd ppd = openPpd();
     ASSERT_TRUE(ppd);
     EXPECT_EQ(ppdConflicts(ppd.get()), 0);
-    for (const PresetRow &row : kPresets) {
+    for (const Meaning &row : kMeanings) {
         const ppd_option_t *option = ppdFindOption(ppd.get(), row.option);
         ASSERT_TRUE(option) << row.option;
-        EXPECT_STREQ(option->defchoice, row.preset[0].choice) << row.option;
+        EXPECT_STREQ(option->defchoice, row.choice[0]) << row.option;
     }
 }
 

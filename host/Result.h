@@ -1,0 +1,36 @@
+// The outcome of an operation that can fail: a value, or one sentence for people that says what was wrong.
+#pragma once
+
+#include <QString>
+#include <optional>
+#include <utility>
+
+namespace bv {
+
+template <typename T> class Result
+{
+public:
+    Result(T value) : m_value(std::move(value)) {}
+    // The sentence names the thing that failed and, where there is something to do about it, what to do.
+    static Result failure(QString sentence)
+    {
+        Result result;
+        result.m_error = std::move(sentence);
+        return result;
+    }
+
+    explicit operator bool() const { return m_value.has_value(); }
+    // Only to be asked for where the result holds one.
+    T &value() { return *m_value; }
+    const T &value() const { return *m_value; }
+    // Empty where the result holds a value.
+    const QString &error() const { return m_error; }
+
+private:
+    Result() = default;
+
+    std::optional<T> m_value;
+    QString m_error;
+};
+
+} // namespace bv

@@ -1,0 +1,98 @@
+// Lays the summary's items out as a table of two columns that wraps long texts.
+#include "host/SummaryView.h"
+
+#include "platform/HostProtocol.h"
+
+#include <QScrollBar>
+
+namespace bv {
+
+namespace {
+
+// A summary value as a text for people; nothing for what has no plain text (arrays, dictionaries, no value).
+std::optional<QString> displayText(const PrintValue &value)
+{
+    if (const QString *text = value.string())
+        return *text;
+    if (const int64_t *number = value.integer())
+        return QString::number(*number);
+    if (const double *number = value.real())
+        return QString::number(*number);
+    if (const bool *flag = value.boolean())
+        return *flag ? SummaryView::tr("Yes") : SummaryView::tr("No");
+    return std::nullopt;
+}
+
+} // namespace
+
+SummaryView::Items summaryItems(const PrintDictionary &summary)
+{
+    SummaryView::Items items;
+    const auto add = [&](const QString &name) {
+        if (std::optional<QString> text = displayText(summary.value(name)))
+            items.emplace_back(name, std::move(*text));
+    };
+    const QString orderKey = QString::fromLatin1(kSummaryDisplayOrder);
+    const PrintValue order = summary.value(orderKey);
+    if (const PrintArray *names = order.array()) {
+        for (const PrintValue &name : *names) {
+            if (const QString *text = name.string())
+                add(*text);
+        }
+        return items;
+    }
+    for (const auto &entry : summary.entries) {
+        if (entry.first != orderKey)
+            add(entry.first);
+    }
+    return items;
+}
+
+SummaryView::SummaryView(QWidget *parent) : QTextEdit(parent)
+{
+    setObjectName(QStringLiteral("summaryView"));
+    setReadOnly(true);
+    setTabChangesFocus(true);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setAccessibleName(tr("Summary"));
+    setSizeAdjustPolicy(QAbstractScrollArea::AdjustIgnored);
+    document()->setDocumentMargin(6);
+}
+
+void SummaryView::showSummary(const PrintDictionary &summary)
+{
+    Items items = summaryItems(summary);
+    if (items == m_items && !items.empty())
+        return;
+    m_items = std::move(items);
+    if (m_items.empty()) {
+        showNote(tr("There is nothing to sum up."));
+        return;
+    }
+    QString html = QStringLiteral("<table cellspacing=\"0\" cellpadding=\"1\" width=\"100%\">");
+    for (const auto &[name, value] : m_items) {
+        html += QStringLiteral("<tr><td width=\"52%\">%1</td><td><b>%2</b></td></tr>")
+                    .arg(name.toHtmlEscaped(), value.toHtmlEscaped());
+    }
+    const int position = verticalScrollBar()->value();
+    setHtml(html + QStringLiteral("</table>"));
+    verticalScrollBar()->setValue(position);
+}
+
+void SummaryView::showNote(const QString &note)
+{
+    m_items.clear();
+    setPlainText(note);
+}
+
+QString SummaryView::plainSummary() const
+{
+    if (m_items.empty())
+        return toPlainText();
+    QStringList lines;
+    for (const auto &[name, value] : m_items)
+        lines << name + QStringLiteral(": ") + value;
+    return lines.join(u'\n');
+}
+
+} // namespace bv

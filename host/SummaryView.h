@@ -1,0 +1,40 @@
+// The live summary: what a panel says about its settings, item by item, in the panel's order.
+#pragma once
+
+#include "platform/PrintValue.h"
+
+#include <QTextEdit>
+#include <QStringList>
+#include <utility>
+#include <vector>
+
+namespace bv {
+
+class SummaryView : public QTextEdit
+{
+    Q_OBJECT
+
+public:
+    // Item names and values, as shown.
+    using Items = std::vector<std::pair<QString, QString>>;
+
+    explicit SummaryView(QWidget *parent = nullptr);
+
+    // Shows a panel's summary. Items that are named twice in the order show twice, names without a value not at all;
+    // without an order array the items come in the dictionary's own order. The scroll position stays.
+    void showSummary(const PrintDictionary &summary);
+    // Shows a sentence in place of items.
+    void showNote(const QString &note);
+
+    const Items &items() const { return m_items; }
+    // One "name: value" a line, or the note: what is shown, for tests and scripts.
+    QString plainSummary() const;
+
+private:
+    Items m_items;
+};
+
+// The items of a summary in the order in which they are to be shown.
+SummaryView::Items summaryItems(const PrintDictionary &summary);
+
+} // namespace bv

@@ -1,0 +1,156 @@
+// The check of a text field after each change, with the caret and the undo steps around it.
+#include "profileui/BVTextField.h"
+
+#include "profileui/KeyFilters.h"
+
+#include <QDropEvent>
+#include <QInputMethodEvent>
+
+#include <algorithm>
+
+BVTextField::BVTextField(QWidget *parent) : QLineEdit(parent)
+{
+    // textEdited tells of every change by the user, whatever its way; textChanged of those by code as well.
+    connect(this, &QLineEdit::textEdited, this, &BVTextField::textDidChange);
+    connect(this, &QLineEdit::textChanged, this, [this] { m_settledText = text(); });
+}
+
+void BVTextField::setMaxLength(uint32_t total, uint32_t extension)
+{
+    maxLen = total;
+    maxExtension = extension;
+}
+
+void BVTextField::setInputKey(uint32_t filter)
+{
+    inputkey = filter;
+}
+
+void BVTextField::setOperateControl(QWidget *control)
+{
+    operateOutlet = control;
+}
+
+void BVTextField::setOldString(const QString &text)
+{
+    oldValue = text;
+}
+
+void BVTextField::putText(const QString &text)
+{
+    setText(text);
+    QInputMethodEvent nothingComposed;
+    inputMethodEvent(&nothingComposed);
+    setOldString(text);
+}
+
+bool BVTextField::textShouldBeginEditing(QLineEdit *editor)
+{
+    oldValue = m_settledText;
+    textObj = editor;
+    return true;
+}
+
+bool BVTextField::textShouldEndEditing(QLineEdit *editor)
+{
+    Q_UNUSED(editor);
+    textObj = nullptr;
+    return true;
+}
+
+bool BVTextField::breaksALimit(const QString &text) const
+{
+    const auto length = static_cast<uint32_t>(text.size());
+    const uint32_t stemLimit = maxLen - 1 - maxExtension;
+    const qsizetype dot = text.indexOf(u'.');
+    const bool roomForExtension = maxExtension > 0 && dot < 0;
+    if (length > (roomForExtension ? stemLimit : maxLen))
+        return true;
+    if (maxExtension == 0 || dot < 0)
+        return false;
+    const auto stem = static_cast<uint32_t>(dot);
+    if (stem > stemLimit || length - stem > maxExtension + 1)
+        return true;
+    return length >= 2 && text.indexOf(u'.', dot + 1) >= 0;
+}
+
+void BVTextField::textDidChange()
+{
+    if (m_replacing)
+        return;
+    // A change without the focus (a drop, say) is an editing session of its own.
+    const bool ownSession = !textObj;
+    if (ownSession)
+        textShouldBeginEditing(this);
+
+    const QString changed = text();
+    if (breaksALimit(changed)) {
+        const qsizetype caret = cursorPosition() - changed.size() + oldValue.size();
+        replaceText(oldValue, caret);
+        m_refusedCaret = cursorPosition();
+        updateOperateControl();
+    } else {
+        QString checked = changed;
+        const auto *units = reinterpret_cast<const char16_t *>(changed.utf16());
+        CheckUniCharString(units, static_cast<uint32_t>(changed.size()), inputkey, &checked);
+        if (checked != changed) {
+            // The caret stays behind what is left of the text before it.
+            QString before = changed.left(cursorPosition());
+            CheckUniCharString(units, static_cast<uint32_t>(before.size()), inputkey, &before);
+            replaceText(checked, before.size());
+        }
+        updateOperateControl();
+        oldValue = checked;
+    }
+    if (ownSession)
+        textShouldEndEditing(this);
+}
+
+void BVTextField::updateOperateControl()
+{
+    if (!operateOutlet)
+        return;
+    const QString now = text();
+    const bool usable = now.contains(u'.') ? now.indexOf(u'.') != 0 : !now.isEmpty();
+    if (operateOutlet->isEnabled() != usable)
+        operateOutlet->setEnabled(usable);
+}
+
+void BVTextField::replaceText(const QString &text, qsizetype caret)
+{
+    m_replacing = true;
+    // Going back first takes the change out of the undo steps, so that undoing never leads into a refused text. It may
+    // go back further than this one change; the text is then put in as one step.
+    undo();
+    if (this->text() != text) {
+        selectAll();
+        insert(text);
+    }
+    deselect();
+    setCursorPosition(static_cast<int>(std::clamp<qsizetype>(caret, 0, text.size())));
+    m_replacing = false;
+}
+
+void BVTextField::focusInEvent(QFocusEvent *event)
+{
+    if (!textObj)
+        textShouldBeginEditing(this);
+    QLineEdit::focusInEvent(event);
+}
+
+void BVTextField::focusOutEvent(QFocusEvent *event)
+{
+    // A pop-up of the field itself (its menu) takes the focus without ending the session.
+    if (event->reason() != Qt::PopupFocusReason)
+        textShouldEndEditing(this);
+    QLineEdit::focusOutEvent(event);
+}
+
+void BVTextField::dropEvent(QDropEvent *event)
+{
+    m_refusedCaret = -1;
+    QLineEdit::dropEvent(event);
+    // The toolkit selects the dropped text afterwards, which is not there after a refusal.
+    if (m_refusedCaret >= 0)
+        setCursorPosition(m_refusedCaret);
+}

@@ -1,0 +1,23 @@
+// The table cell that shows a 16 by 16 icon and nothing else.
+#pragma once
+
+#include "platform/ClassNames.h"
+
+#include <QStyledItemDelegate>
+
+class QImage;
+
+class IconedCell : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    // Draws the image, if there is one, 16 by 16 points large, 3 points right of the frame's left edge and at its top,
+    // source over.
+    static void drawInteriorWithFrame(QPainter *painter, const QRect &frame, const QImage &image);
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+};

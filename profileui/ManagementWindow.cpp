@@ -1,0 +1,85 @@
+// Texts, names and keys of the profile management window.
+#include "profileui/ManagementWindow.h"
+
+#include "platform/Bundle.h"
+#include "profileui/ProfileTableModel.h"
+
+#include <QKeyEvent>
+
+namespace bv {
+
+ManagementWindow::ManagementWindow(QWidget *parent) : QDialog(parent), model(new ProfileTableModel(this))
+{
+    controls.setupUi(this);
+    putTexts();
+    nameControls();
+    controls._profileMenu->addItems({localizedString("RGB"), localizedString("SIM"), localizedString("DST")});
+    controls._profileTableView->setModel(model);
+    setReturnConfirmsEntry(false);
+    resize(sizeHint().expandedTo({640, 560}));
+}
+
+void ManagementWindow::putTexts()
+{
+    const Ui::ProfileManagement &c = controls;
+    // clang-format off
+    const std::pair<QAbstractButton *, const char *> buttons[] = {
+        {c._addButton,    "Add"},
+        {c._editButton,   "Edit"},
+        {c._deleteButton, "Delete"},
+        {c._browse,       "Browse..."},
+        {c._localOK,      "Confirm Entry"},
+        {c._localCancel,  "Discard Entry"},
+        {c._windowOK,     "OK"},
+        {c._windowCancel, "Cancel"},
+    };
+    const std::pair<QLabel *, const char *> labels[] = {
+        {c.classText,        "Profile Class:"},
+        {c.tableText,        "Profiles:"},
+        {c._fileNameText,    "File Name:"},
+        {c._profileNameText, "Profile Name:"},
+        {c._locationText,    "Location:"},
+    };
+    // clang-format on
+    for (const auto &[button, key] : buttons)
+        button->setText(localizedString(key));
+    for (const auto &[label, key] : labels)
+        label->setText(localizedString(key));
+    controls.editArea->setTitle(localizedString("Entry"));
+}
+
+void ManagementWindow::nameControls()
+{
+    // What a label or a button shows is its control's name as well, without mnemonic and colon.
+    const auto plain = [](QString text) {
+        text.remove(u'&');
+        return text.endsWith(u':') ? text.chopped(1) : text;
+    };
+    for (const QLabel *label : findChildren<QLabel *>()) {
+        if (label->buddy())
+            label->buddy()->setAccessibleName(plain(label->text()));
+    }
+    for (QAbstractButton *button : findChildren<QPushButton *>())
+        button->setAccessibleName(plain(button->text()));
+}
+
+void ManagementWindow::setReturnConfirmsEntry(bool entry)
+{
+    (entry ? controls._localOK : controls._windowOK)->setDefault(true);
+}
+
+void ManagementWindow::explainDelete(const QString &reason)
+{
+    controls._deleteButton->setToolTip(reason);
+    controls._deleteButton->setAccessibleDescription(reason);
+}
+
+void ManagementWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Cancel))
+        emit escapePressed();
+    else
+        QDialog::keyPressEvent(event);
+}
+
+} // namespace bv

@@ -1,0 +1,188 @@
+// Cells of the management window's table.
+#include "profileui/ProfileTableModel.h"
+
+#include "platform/Bundle.h"
+#include "platform/HostProtocol.h"
+#include "platform/RootPath.h"
+
+#include <QFontDatabase>
+
+#include <algorithm>
+#include <array>
+
+namespace bv {
+
+namespace {
+
+constexpr char kIconPath[] = "/Library/Printers/BREVANE/QL70/Icons/fileExistqnQL70.icns";
+constexpr int kTextPoints = 12;
+
+struct ColumnRow
+{
+    const char *identifier; // by which scripts know the column
+    const char *title;      // localisation key
+};
+
+// clang-format off
+constexpr std::array<ColumnRow, ProfileTableModel::kColumns> kColumnRows = {{
+    {"icon",        "On Printer"},
+    {"filename",    "File Name"},
+    {"profilename", "Profile Name"},
+    {"location",    "Location"},
+    {"inmenu",      "In Menu"},
+}};
+// clang-format on
+
+QString textOf(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+// The other menu state of a profile: 1 and 3, 2 and 4, 5 and 6 belong together.
+int32_t flipped(int32_t inMenu)
+{
+    constexpr std::array<int32_t, 7> kOther = {0, 3, 4, 1, 2, 6, 5};
+    return inMenu >= 0 && inMenu < static_cast<int32_t>(kOther.size()) ? kOther[static_cast<size_t>(inMenu)] : inMenu;
+}
+
+} // namespace
+
+bool isInMenu(int32_t inMenu)
+{
+    return inMenu == 3 || inMenu == 4 || inMenu == 6;
+}
+
+bool isOnPrinter(int32_t inMenu)
+{
+    return inMenu == 2 || inMenu == 4;
+}
+
+bool isFromPrinter(int32_t inMenu)
+{
+    return inMenu >= 1 && inMenu <= 4;
+}
+
+ProfileTableModel::ProfileTableModel(QObject *parent)
+    : QAbstractTableModel(parent), m_icon(QString::fromStdString(mapRootPath(kIconPath))),
+      m_font(QFontDatabase::systemFont(QFontDatabase::GeneralFont)), m_disk(localizedString("Disk")),
+      m_card(localizedString("Card"))
+{
+    m_font.setPointSize(kTextPoints);
+}
+
+void ProfileTableModel::setList(ProfileList *list, bool showIcons)
+{
+    beginResetModel();
+    m_list = list;
+    m_showIcons = showIcons;
+    endResetModel();
+}
+
+int ProfileTableModel::rowCount(const QModelIndex &parent) const
+{
+    return m_list && !parent.isValid() ? std::clamp(m_list->count, 0, kProfileSlots) : 0;
+}
+
+int ProfileTableModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : kColumns;
+}
+
+QString ProfileTableModel::cellText(const ProfileRecord &record, int column) const
+{
+    switch (column) {
+    case kFileName:
+        return textOf(fieldText(record.FileName));
+    case kProfileName:
+        return textOf(fieldText(record.ProfileName));
+    case kLocation:
+        return record.Location == kLocationDisk ? m_disk : record.Location == kLocationCard ? m_card : QString();
+    default:
+        return {};
+    }
+}
+
+QVariant ProfileTableModel::iconCell(const ProfileRecord &record, int role) const
+{
+    // Shown or not is a matter of the record; the image file may be missing all the same.
+    const bool shown = m_showIcons && isOnPrinter(record.InMenu);
+    switch (role) {
+    case kIconShownRole:
+        return shown;
+    case Qt::DecorationRole:
+        return shown && !m_icon.isNull() ? QVariant(m_icon) : QVariant();
+    case Qt::AccessibleTextRole:
+        return localizedString(shown ? "On the printer" : "Not on the printer");
+    case Qt::ToolTipRole:
+        return shown ? QVariant(localizedString("On the printer")) : QVariant();
+    default:
+        return {};
+    }
+}
+
+QVariant ProfileTableModel::checkCell(const ProfileRecord &record, int role) const
+{
+    switch (role) {
+    case Qt::CheckStateRole:
+        return isInMenu(record.InMenu) ? Qt::Checked : Qt::Unchecked;
+    case Qt::AccessibleTextRole:
+        return localizedString(isInMenu(record.InMenu) ? "Shown in the menus" : "Not shown in the menus");
+    default:
+        return {};
+    }
+}
+
+QVariant ProfileTableModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid() || index.row() >= rowCount())
+        return {};
+    const ProfileRecord &record = m_list->records[index.row()];
+    if (index.column() == kIcon)
+        return iconCell(record, role);
+    if (index.column() == kInMenu)
+        return checkCell(record, role);
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::ToolTipRole:
+        return cellText(record, index.column());
+    case Qt::FontRole:
+        return m_font;
+    default:
+        return {};
+    }
+}
+
+bool ProfileTableModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (!index.isValid() || index.column() != kInMenu || role != Qt::CheckStateRole || index.row() >= rowCount())
+        return false;
+    ProfileRecord &record = m_list->records[index.row()];
+    if (isInMenu(record.InMenu) == (value.toInt() == Qt::Checked))
+        return true;
+    record.InMenu = flipped(record.InMenu);
+    emit dataChanged(index, index, {role, Qt::AccessibleTextRole});
+    return true;
+}
+
+QVariant ProfileTableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section < 0 || section >= kColumns)
+        return {};
+    const ColumnRow &column = kColumnRows[static_cast<size_t>(section)];
+    if (role == kColumnIdentifierRole)
+        return QString::fromLatin1(column.identifier);
+    // The icon's column is as narrow as its icon; its title is there for those who do not see it.
+    if (role == Qt::AccessibleTextRole || role == Qt::ToolTipRole || (role == Qt::DisplayRole && section != kIcon))
+        return localizedString(column.title);
+    return {};
+}
+
+Qt::ItemFlags ProfileTableModel::flags(const QModelIndex &index) const
+{
+    if (!index.isValid())
+        return Qt::NoItemFlags;
+    const Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    return index.column() == kInMenu ? flags | Qt::ItemIsUserCheckable : flags;
+}
+
+} // namespace bv

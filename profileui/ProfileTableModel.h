@@ -1,0 +1,53 @@
+// The management window's table over one profile list: icon, names, location and the check mark of the profile menus.
+#pragma once
+
+#include "profiles/ProfileList.h"
+
+#include <QAbstractTableModel>
+#include <QFont>
+#include <QImage>
+
+namespace bv {
+
+// Whether a profile of that state code is in the profile menus (3, 4 and 6).
+bool isInMenu(int32_t inMenu);
+// Whether the last walk found the profile on the printer (2 and 4).
+bool isOnPrinter(int32_t inMenu);
+// Whether the profile is known from the printer (1 to 4), not made by the user.
+bool isFromPrinter(int32_t inMenu);
+
+class ProfileTableModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { kIcon, kFileName, kProfileName, kLocation, kInMenu, kColumns };
+
+    explicit ProfileTableModel(QObject *parent = nullptr);
+
+    // Shows another list (borrowed, may be null) or the same one after a change; the rows stand as they are stored.
+    // Icons are shown only when asked for. Resets the model, which clears the selection.
+    void setList(ProfileList *list, bool showIcons);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    // Takes Qt::CheckStateRole in the last column: flips the state code between its two menu states.
+    bool setData(const QModelIndex &index, const QVariant &value, int role) override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+
+private:
+    QString cellText(const ProfileRecord &record, int column) const;
+    QVariant iconCell(const ProfileRecord &record, int role) const;
+    QVariant checkCell(const ProfileRecord &record, int role) const;
+
+    ProfileList *m_list = nullptr;
+    bool m_showIcons = false;
+    QImage m_icon;
+    QFont m_font;
+    QString m_disk;
+    QString m_card;
+};
+
+} // namespace bv

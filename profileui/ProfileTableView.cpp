@@ -1,0 +1,148 @@
+// Keys, mouse and columns of the management window's table.
+#include "profileui/ProfileTableView.h"
+
+#include "profileui/IconedCell.h"
+#include "profileui/ProfileTableModel.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include <algorithm>
+#include <memory>
+
+namespace bv {
+
+namespace {
+
+constexpr int kIconColumnWidth = 28;
+constexpr int kRowPadding = 6;
+
+} // namespace
+
+void GuardedSelectionModel::select(const QModelIndex &index, SelectionFlags command)
+{
+    if (!m_held)
+        QItemSelectionModel::select(index, command);
+}
+
+void GuardedSelectionModel::select(const QItemSelection &selection, SelectionFlags command)
+{
+    if (!m_held)
+        QItemSelectionModel::select(selection, command);
+}
+
+void GuardedSelectionModel::setCurrentIndex(const QModelIndex &index, SelectionFlags command)
+{
+    if (!m_held)
+        QItemSelectionModel::setCurrentIndex(index, command);
+}
+
+void GuardedSelectionModel::clear()
+{
+    if (!m_held)
+        QItemSelectionModel::clear();
+}
+
+void GuardedSelectionModel::clearCurrentIndex()
+{
+    if (!m_held)
+        QItemSelectionModel::clearCurrentIndex();
+}
+
+ProfileTableView::ProfileTableView(QWidget *parent) : QTableView(parent)
+{
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setAlternatingRowColors(true);
+    setShowGrid(false);
+    setWordWrap(false);
+    setItemDelegateForColumn(ProfileTableModel::kIcon, new IconedCell(this));
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setMinimumSectionSize(kIconColumnWidth);
+}
+
+void ProfileTableView::setModel(QAbstractItemModel *model)
+{
+    QTableView::setModel(model);
+    const std::unique_ptr<QItemSelectionModel> replaced(selectionModel());
+    setSelectionModel(new GuardedSelectionModel(model, this));
+}
+
+void ProfileTableView::setSelectionHeld(bool held)
+{
+    if (auto *selection = qobject_cast<GuardedSelectionModel *>(selectionModel()))
+        selection->setHeld(held);
+}
+
+int ProfileTableView::selectedRow() const
+{
+    const QModelIndexList rows = selectionModel() ? selectionModel()->selectedRows() : QModelIndexList();
+    return rows.isEmpty() ? -1 : rows.first().row();
+}
+
+void ProfileTableView::deselectRow()
+{
+    if (selectionModel())
+        selectionModel()->clear();
+}
+
+void ProfileTableView::fitColumns()
+{
+    const QFontMetrics metrics(model()->index(0, ProfileTableModel::kFileName).data(Qt::FontRole).value<QFont>());
+    verticalHeader()->setDefaultSectionSize(metrics.height() + kRowPadding);
+    resizeColumnsToContents();
+}
+
+void ProfileTableView::keyboardSearch(const QString &search)
+{
+    if (search.isEmpty() || !model() || model()->rowCount() == 0)
+        return;
+    const bool goesOn = m_sinceTyped.isValid() && m_sinceTyped.elapsed() <= QApplication::keyboardInputInterval();
+    m_sinceTyped.start();
+    m_typed = goesOn ? m_typed + search : search;
+    // The same letter again and again walks through the rows that begin with it.
+    const bool sameLetter = m_typed.count(m_typed.at(0)) == m_typed.size();
+    const QString wanted = sameLetter ? m_typed.left(1) : m_typed;
+    int start = std::max(selectedRow(), 0);
+    if (selectedRow() >= 0 && wanted.size() == 1)
+        start = (start + 1) % model()->rowCount();
+    const QModelIndexList found = model()->match(model()->index(start, ProfileTableModel::kFileName), Qt::DisplayRole,
+                                                 wanted, 1, Qt::MatchStartsWith | Qt::MatchWrap);
+    if (!found.isEmpty())
+        setCurrentIndex(found.first());
+}
+
+void ProfileTableView::toggleCheckMark()
+{
+    const int row = currentIndex().isValid() ? currentIndex().row() : selectedRow();
+    if (row < 0)
+        return;
+    const QModelIndex mark = model()->index(row, ProfileTableModel::kInMenu);
+    const bool checked = mark.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    model()->setData(mark, checked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+}
+
+void ProfileTableView::keyPressEvent(QKeyEvent *event)
+{
+    // Space is for the row's check mark, in whichever column the cursor is.
+    if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier)
+        toggleCheckMark();
+    else
+        QTableView::keyPressEvent(event);
+}
+
+void ProfileTableView::mousePressEvent(QMouseEvent *event)
+{
+    if (!indexAt(event->position().toPoint()).isValid() && event->button() == Qt::LeftButton)
+        deselectRow();
+    QTableView::mousePressEvent(event);
+}
+
+} // namespace bv

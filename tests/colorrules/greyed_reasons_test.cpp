@@ -1,0 +1,31 @@
+// What a greyed-out control says, and that it stops saying it.
+#include "RuleTable.h"
+#include "colorrules/GreyedReasons.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(GreyedReasons, NameTheConditionThatHoldsAndGoAway)
+{
+    bvtest::RuleTable t;
+    t.box("ColorAsGrayCheckBox")->setChecked(true);
+    vColorPresetConstraints(t.table());
+    bv::explainGreyedControls(t.table());
+    const QWidget *intent = t.control("ImageRenderIntentPopup");
+    EXPECT_EQ(intent->toolTip(), "Not available while ColorAsGrayCheckBox is on. Turn it off to use this setting.\n"
+                                 "Not available while ImageRGBSourcePopup is set to first. "
+                                 "Choose another to use this setting.");
+    EXPECT_EQ(intent->accessibleDescription(), intent->toolTip());
+    EXPECT_EQ(t.control("GoToAdvancedOptionsButton")->toolTip(),
+              "Available only while QuickColorPopup is set to fourth. Choose that to use this setting.");
+
+    t.box("ColorAsGrayCheckBox")->setChecked(false);
+    t.menu("ImageRGBSourcePopup")->setCurrentIndex(1);
+    vColorPresetConstraints(t.table());
+    bv::explainGreyedControls(t.table());
+    EXPECT_TRUE(intent->toolTip().isEmpty());
+    EXPECT_TRUE(intent->accessibleDescription().isEmpty());
+}
+
+} // namespace

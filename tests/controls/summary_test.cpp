@@ -1,0 +1,48 @@
+// Summary items of a table and single items.
+#include "platform/Bundle.h"
+#include "common/PDECommon.h"
+#include "support/PaneFixture.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+
+namespace {
+
+TEST(Summary, NeedsTheBundleThenListsRowsWithAName)
+{
+    QComboBox menu;
+    menu.addItems({"One", "Two"});
+    menu.setCurrentIndex(1);
+    QCheckBox oddBox;
+    QLabel label;
+    PDEControlItem table[] = {
+        {&menu, kPDEControlPopUp, "K", nullptr, "Same", "", 0, nullptr},
+        {&label, kPDEControlText, "", "Title", nullptr, "", 0, nullptr},
+        {&oddBox, kPDEControlCheckBox, "O", nullptr, "Odd", "", 0, nullptr}, // no True or False in the PPD
+        {&menu, kPDEControlPopUp, "K", nullptr, "Same", "", 0, nullptr},
+        endControlItem(),
+    };
+    bv::PrintDictionary dictionary;
+    bv::PrintArray order;
+    EXPECT_EQ(PDECommon::commonGetSummaryText(table, &dictionary, &order), noErr);
+    EXPECT_TRUE(order.empty()) << "without the plug-in's bundle nothing is added";
+
+    setPluginBundle({QStringLiteral("/first"), {}});
+    setPluginBundle({QStringLiteral("/second"), {}});
+    EXPECT_EQ(pluginBundle()->path(), "/first") << "the first bundle stays";
+
+    EXPECT_EQ(PDECommon::commonGetSummaryText(table, &dictionary, &order), paramErr);
+    ASSERT_EQ(order.size(), 2U);
+    EXPECT_EQ(*order[0].string(), "Same");
+    EXPECT_EQ(*order[1].string(), "Same");
+    EXPECT_EQ(dictionary.entries.size(), 1U);
+    EXPECT_EQ(*dictionary.value("Same").string(), "Two");
+
+    EXPECT_EQ(PDECommon::commonGetSummaryTextQuickColor("Same", "later", &dictionary, &order), noErr);
+    EXPECT_EQ(*dictionary.value("Same").string(), "later");
+    EXPECT_EQ(order.size(), 3U);
+    EXPECT_EQ(PDECommon::commonGetSummaryTextQuickColor(nullptr, "x", &dictionary, &order), paramErr);
+}
+
+} // namespace

@@ -1,0 +1,230 @@
+// Root mapping, file URLs, child processes, the guard in front of property lists.
+#include "platform/ChildProcess.h"
+#include "platform/FileContents.h"
+#include "platform/FileUrl.h"
+#include "platform/PlistGuard.h"
+#include "platform/PropertyList.h"
+#include "platform/RootPath.h"
+#include "platform/UserName.h"
+#include "platform/Utf8.h"
+#include "support/TestRoot.h"
+
+#include <csignal>
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <pwd.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+TEST(RootPath, PutsAnAbsoluteRootInFront)
+{
+    struct Row
+    {
+        const char *root;
+        const char *mapped;
+    };
+    const Row rows[] = {
+        {nullptr, "/Library/x"},
+        {"", "/Library/x"},
+        {"/", "/Library/x"},
+        {"/tmp/a b", "/tmp/a b/Library/x"},
+        {"/tmp/a/", "/tmp/a/Library/x"},
+        {"tmp", "/Library/x"},
+        {"./tmp", "/Library/x"},
+    };
+    for (const Row &row : rows) {
+        row.root ? setenv("BVCO_ROOT", row.root, 1) : unsetenv("BVCO_ROOT");
+        EXPECT_EQ(bv::mapRootPath("/Library/x"), row.mapped) << (row.root ? row.root : "(unset)");
+    }
+    unsetenv("BVCO_ROOT");
+}
+
+TEST(RootPath, IsNotMovedInAProcessWithBorrowedRights)
+{
+    if (getuid() != 0)
+        GTEST_SKIP() << "only root can take on another effective user id";
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        setenv("BVCO_ROOT", "/tmp/elsewhere", 1);
+        _exit(seteuid(60001) == 0 && bv::mapRootPath("/Library/x") == "/Library/x" ? 0 : 1);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+}
+
+TEST(UserName, IsThatOfTheRealUserId)
+{
+    const passwd *entry = getpwuid(getuid());
+    EXPECT_EQ(bv::loginName(), entry ? entry->pw_name : "");
+}
+
+TEST(FileUrl, EncodesAllButUnreservedCharactersAndSlashes)
+{
+    EXPECT_EQ(bv::fileUrl("/Library/Printers/a-Z_0.9~"), "file:///Library/Printers/a-Z_0.9~");
+    EXPECT_EQ(bv::fileUrl("/a b/ü%20@+$&:;?#[]!'()*,=\\\n\xFF"),
+              "file:///a%20b/%C3%BC%2520%40%2B%24%26%3A%3B%3F%23%5B%5D%21%27%28%29%2A%2C%3D%5C%0A%FF");
+}
+
+TEST(Utf8, KnowsTheLimitsOfEachLength)
+{
+    for (const char *good : {"", "a", "\x7F", "\xC2\x80", "\xDF\xBF", "\xE0\xA0\x80", "\xED\x9F\xBF", "\xEE\x80\x80",
+                             "\xEF\xBF\xBF", "\xF0\x90\x80\x80", "\xF4\x8F\xBF\xBF", "eight by"})
+        EXPECT_TRUE(bv::isUtf8(good)) << good;
+    for (const char *bad : {"\x80", "\xBF", "\xC0\x80", "\xC1\xBF", "\xC2", "\xC2\xC0", "\xE0\x9F\xBF", "\xED\xA0\x80",
+                            "\xEF\xBF", "\xEF\xBF\xC0", "\xF0\x8F\xBF\xBF", "\xF4\x90\x80\x80", "\xF5\x80\x80\x80",
+                            "\xFF", "eight by\xE5", "1234567\xC3"})
+        EXPECT_FALSE(bv::isUtf8(bad)) << bad;
+}
+
+class Child : public testing::Test
+{
+protected:
+    static std::optional<bv::ChildResult> shell(const std::string &script)
+    {
+        const std::string words[] = {"-c", script};
+        return bv::runChild("/bin/sh", words);
+    }
+};
+
+TEST_F(Child, GivesItsOutputAndHowItEnded)
+{
+    struct Row
+    {
+        const char *script;
+        const char *output;
+        int exitCode;
+    };
+    const Row rows[] = {
+        {"echo out; echo err >/dev/null", "out\n", 0}, {"exit 7", "", 7},
+        {"printf half; kill -9 $$", "half", -1},       {"printf 'a\\0b'", "a", 0},
+        {"exec >&-; sleep 0.05; exit 4", "", 4}, // closes its output early: waited for all the same
+    };
+    for (const Row &row : rows) {
+        const auto result = shell(row.script);
+        ASSERT_TRUE(result) << row.script;
+        EXPECT_STREQ(result->output.c_str(), row.output);
+        EXPECT_EQ(result->exitCode, row.exitCode) << row.script;
+    }
+    EXPECT_EQ(shell("printf 'a\\0b'")->output.size(), 3u);
+    EXPECT_EQ(shell("head -c 3000000 /dev/zero")->output.size(), 3'000'000u); // far more than a pipe holds
+}
+
+TEST_F(Child, ThatCannotBeStartedIsNothing)
+{
+    const std::string tooLong[] = {std::string(140'000, 'x')};
+    EXPECT_FALSE(bv::runChild("/nonexistent/program", {}));
+    EXPECT_FALSE(bv::runChild("/etc/passwd", {}));
+    EXPECT_FALSE(bv::runChild("/bin/true", tooLong));
+}
+
+TEST_F(Child, LeavesNoDescriptorOpen)
+{
+    const int before = dup(STDIN_FILENO);
+    close(before);
+    EXPECT_TRUE(shell("true"));
+    EXPECT_FALSE(bv::runChild("/nonexistent/program", {}));
+    const int after = dup(STDIN_FILENO);
+    close(after);
+    EXPECT_EQ(before, after);
+}
+
+TEST_F(Child, AnswersInAHostWithoutStandardStreamsOrChildSignals)
+{
+    // In a process of its own, whose standard streams can be closed. What the child says comes back as the exit status.
+    const pid_t host = fork();
+    ASSERT_GE(host, 0);
+    if (host == 0) {
+        for (int fd = 0; fd <= 2; ++fd)
+            close(fd);
+        signal(SIGCHLD, SIG_IGN); // the kernel throws exit statuses away
+        const auto result = shell("echo yes");
+        _exit(result && result->output == "yes\n" && result->exitCode == -1 ? 0 : 1);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(host, &status, 0), host);
+    EXPECT_EQ(status, 0);
+}
+
+std::string nested(int depth, const std::string &open, const std::string &close)
+{
+    std::string text;
+    for (int level = 0; level < depth; ++level)
+        text += open;
+    for (int level = 0; level < depth; ++level)
+        text += close;
+    return "<plist>" + text + "</plist>";
+}
+
+TEST(PlistGuard, RefusesWhatTheParserMustNotSee)
+{
+    using bv::plistRefusal;
+    EXPECT_EQ(plistRefusal(nested(32, "<array>", "</array>")), nullptr);
+    EXPECT_STREQ(plistRefusal(nested(33, "<array>", "</array>")), "nested too deep");
+    EXPECT_STREQ(plistRefusal(nested(33, "<dict ><key>k</key>", "</dict>")), "nested too deep");
+    EXPECT_EQ(plistRefusal("<plist><array>" + std::string(40 * 7, ' ').replace(0, 7, "<dict/>") + "</array></plist>"),
+              nullptr);
+    // Tags that hide in comments, quotes and sections cannot lift the bound.
+    for (const char *open :
+         {"<array><!--</array>-->", "<array a='/>'>", "<array><![CDATA[</array>]]>", "<array><?x </array>?>"})
+        EXPECT_STRNE(plistRefusal(nested(5000, open, "")), nullptr) << open;
+    EXPECT_STREQ(plistRefusal("bplist00</plist>"), "a binary list");
+    EXPECT_STREQ(plistRefusal(std::string_view("<plist>\0</plist>", 16)), "a NUL byte in it");
+    EXPECT_STREQ(plistRefusal("<plist></plist"), "cut short");
+    EXPECT_EQ(plistRefusal("<plist></plist>\r\n\t "), nullptr);
+    EXPECT_STREQ(plistRefusal("<plist></plist>\n<!-- -->"), "something behind its end");
+    EXPECT_STREQ(plistRefusal(std::string(bv::kPlistMaximumBytes + 1, ' ')), "too large");
+    EXPECT_STREQ(plistRefusal(""), "cut short");
+}
+
+TEST(PropertyList, HandsOutNothingOfNothing)
+{
+    const bv::PropertyList none = bv::PropertyList::fromXml("");
+    EXPECT_FALSE(none);
+    EXPECT_FALSE(none.root().item("a").item("b"));
+    EXPECT_FALSE(none.root().number());
+    EXPECT_FALSE(none.root().text());
+    EXPECT_FALSE(none.toXml());
+    EXPECT_FALSE(bv::PropertyList::copyOf(none.root()));
+}
+
+TEST(PropertyList, KeepsItemsThroughMovesAndCopies)
+{
+    bv::PropertyList list = bv::PropertyList::dictionary();
+    bv::PropertyList inner = bv::PropertyList::dictionary();
+    inner.setNumber("n", -1);
+    inner.setText("t", "first");
+    inner.setText("t", "last <wins> &");
+    const bv::PropertyListNode node = list.setItem("inner", std::move(inner));
+    bv::PropertyList copy = bv::PropertyList::copyOf(node);
+    bv::PropertyList moved = std::move(list);
+    EXPECT_EQ(node.item("t").text(), "last <wins> &");
+    moved = bv::PropertyList::fromXml(moved.toXml().value());
+    EXPECT_EQ(moved.root().item("inner").item("n").number(), -1);
+    EXPECT_EQ(moved.root().item("inner").item("t").text(), "last <wins> &");
+    moved = bv::PropertyList();
+    EXPECT_EQ(copy.root().item("n").number(), -1);
+}
+
+TEST(PropertyList, TakesNoNulAsAnEntityEither)
+{
+    for (const char *value : {"<string>a&#0;b</string>", "<string>a&#x0;b</string>"})
+        EXPECT_FALSE(bv::PropertyList::fromXml(std::string("<plist><dict><key>k</key>") + value + "</dict></plist>"));
+}
+
+TEST(FileContents, AreBoundedByTheMaximum)
+{
+    const bvtest::TestRoot root;
+    const std::string path = root.folder() / "file";
+    std::ofstream(path) << "12345";
+    EXPECT_EQ(bv::fileContents(path, 5), "12345");
+    EXPECT_FALSE(bv::fileContents(path, 4));
+    EXPECT_FALSE(bv::fileContents(path + "x", 5));
+    EXPECT_FALSE(bv::fileContents("/proc/self/maps", 1)); // says that it has no bytes, and has more than one
+    EXPECT_TRUE(bv::fileContents("/proc/self/status", 100'000));
+}
+
+} // namespace

@@ -1,0 +1,109 @@
+// The plain log: formatting that never reads past its arguments, and the system's encoding.
+#include "platform/Log.h"
+
+#include <clocale>
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <string>
+
+namespace shop {
+
+struct Printer
+{
+    std::string name;
+};
+std::string describe(const Printer &printer)
+{
+    return "<Printer " + printer.name + ">";
+}
+
+} // namespace shop
+
+namespace {
+
+// What MyLog writes to a stream.
+template <typename... Arguments> std::string logged(const char *format, const Arguments &...arguments)
+{
+    char *bytes = nullptr;
+    size_t size = 0;
+    std::FILE *stream = open_memstream(&bytes, &size);
+    MyLog(stream, format, arguments...);
+    std::string text(bytes, size); // flushed, so it is all there before the stream is closed
+    std::fclose(stream);
+    std::free(bytes);
+    return text;
+}
+
+TEST(Log, FormatsAsPrintfDoes)
+{
+    const shop::Printer printer{"QL70"};
+    const shop::Printer *none = nullptr;
+    EXPECT_EQ(logged("plain"), "plain"); // no newline is added
+    EXPECT_EQ(logged("%d|%5d|%-5d|%05i|%+d|%.3d", 7, 7, 7, 7, 7, 7), "7|    7|7    |00007|+7|007");
+    EXPECT_EQ(logged("%u %x %#X %o %hhd %lld", 42U, 255, 255, 8, 5, int64_t{1} << 40), "42 ff 0XFF 10 5 1099511627776");
+    EXPECT_EQ(logged("%u %x %lx", -1, -1, -1), "4294967295 ffffffff ffffffffffffffff");
+    EXPECT_EQ(logged("%f %.2e %G", 1.5, 1234.5, 0.5), "1.500000 1.23e+03 0.5");
+    EXPECT_EQ(logged("%s %.3s|%6s|%-6s|%*s|%-*.*s|", "abc", "abcdef", "ab", "ab", 4, "x", 3, 1, "yz"),
+              "abc abc|    ab|ab    |   x|y  |");
+    EXPECT_EQ(logged("%c%c 100%%", 'o', 75), "oK 100%");
+    EXPECT_EQ(logged("%@ %@ %@ %@", printer, none, "text", 5), "<Printer QL70> (null) text 5");
+    EXPECT_EQ(logged("%@", &printer), "<Printer QL70>");
+}
+
+TEST(Log, SurvivesPlaceholdersThatDoNotFitTheirArguments)
+{
+    EXPECT_EQ(logged("%s and %d %@", "one"), "one and %d %@"); // missing: written as they stand
+    EXPECT_EQ(logged("%s %f %d %p %x", 5, "text", 2.5, "text", "text"), "5 text 2.5 text text");
+    EXPECT_EQ(logged("%n %q %", 1), "%n %q %");
+    EXPECT_EQ(logged("%s", static_cast<const char *>(nullptr)), "(null)");
+    EXPECT_EQ(logged("one", 1, 2), "one");
+    EXPECT_LT(logged("%999999999999d%.999999999999f", 1, 1.0).size(), 20'000u);
+    EXPECT_EQ(logged("%*", 1), "%*");
+}
+
+// Sets the locale for one test.
+class Locale
+{
+public:
+    explicit Locale(const char *name) { m_there = std::setlocale(LC_ALL, name) != nullptr; }
+    Locale(const Locale &) = delete;
+    Locale &operator=(const Locale &) = delete;
+    ~Locale() { std::setlocale(LC_ALL, "C"); }
+    bool isThere() const { return m_there; }
+
+private:
+    bool m_there;
+};
+
+TEST(Log, WritesAQuestionMarkForEachCharacterTheSystemLacks)
+{
+    {
+        const Locale ascii("C");
+        EXPECT_EQ(logged("%@", "Büro 印刷 😀!"), "B?ro ?? ?!");
+    }
+    const Locale utf8("C.UTF-8");
+    ASSERT_TRUE(utf8.isThere());
+    EXPECT_EQ(logged("%@", "Büro 印刷 😀!"), "Büro 印刷 😀!");
+    EXPECT_EQ(logged("%.2s|%.3s", "aé", "aé"), "a|aé"); // never half a character
+}
+
+TEST(Log, WritesNothingWhenTheTextIsNotUtf8)
+{
+    for (const char *text : {"caf\xE9", "\xC0\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "a\xE5\x8D"})
+        EXPECT_EQ(logged("before %s", text), "") << text;
+}
+
+TEST(Log, ADiagnosticLineIsOneLine)
+{
+    setenv("BVCO_LOG", "stderr", 1);
+    testing::internal::CaptureStderr();
+    bv::diagnosticLine("two\nlines %s");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "bvco: two lines %s\n");
+    unsetenv("BVCO_LOG");
+    testing::internal::CaptureStderr();
+    bv::diagnosticLine("for the system log");
+    MyDebugMessage("a trace point", 3);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+} // namespace

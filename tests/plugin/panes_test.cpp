@@ -1,0 +1,60 @@
+// The view switching controller before and after the panes have their tables.
+#include "plugin/PainChangeController.h"
+
+#include <QVBoxLayout>
+#include <gtest/gtest.h>
+
+namespace {
+
+class Panes : public testing::Test
+{
+protected:
+    Panes()
+    {
+        auto *layout = new QVBoxLayout(&container);
+        color = new ColorOptions(&container);
+        advanced = new AdvancedColorOptions(&container);
+        layout->addWidget(color);
+        advanced->hide();
+        controller.onMainCustomView = &container;
+        controller.onColorView = color;
+        controller.onAdvancedView = advanced;
+    }
+    QWidget container;
+    ColorOptions *color;
+    AdvancedColorOptions *advanced;
+    PainChangeController controller;
+};
+
+TEST_F(Panes, AreNotSwappedBeforeTheirTablesExist)
+{
+    controller.ColorToAdvancedView();
+    EXPECT_FALSE(advanced->isVisibleTo(&container));
+    controller.creatPDEControlTableEachView();
+    controller.ColorToAdvancedView();
+    EXPECT_TRUE(advanced->isVisibleTo(&container));
+    EXPECT_FALSE(color->isVisibleTo(&container));
+    controller.ColorToAdvancedView(); // once more changes nothing
+    EXPECT_TRUE(advanced->isVisibleTo(&container));
+    color->deallocPDEControlTable();
+    controller.AdvancedToColorView();
+    EXPECT_FALSE(color->isVisibleTo(&container));
+}
+
+TEST_F(Panes, GatherTwoTablesAndTheirRecords)
+{
+    controller.creatPDEControlTableEachView();
+    PDEControlItem marker;
+    PDEControlTable slots_[5] = {&marker, &marker, &marker, &marker, &marker};
+    EXPECT_EQ(controller.getControlDataEachView(slots_, 5), 2);
+    EXPECT_EQ(slots_[0], color->getControlData());
+    EXPECT_EQ(slots_[1], advanced->getControlData());
+    for (int slot = 2; slot < 5; ++slot)
+        EXPECT_EQ(slots_[slot], nullptr);
+    slots_[2] = &marker;
+    EXPECT_EQ(controller.getControlDataEachView(slots_, -1), 2) << "the tables are written whatever the count";
+    EXPECT_EQ(slots_[2], &marker);
+    EXPECT_EQ(controller.getControlCountEachView(), 14 + 47);
+}
+
+} // namespace

@@ -1,0 +1,222 @@
+// Stored profiles in the menus of profile rows, and a chosen profile in the ticket.
+#include "platform/RootPath.h"
+#include "profiles/ProfileKinds.h"
+#include "profiles/ProfileListFile.h"
+#include "profiles/ProfilePaths.h"
+#include "common/PDECommon.h"
+#include "support/PaneFixture.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <cstring>
+
+namespace {
+
+struct Entry
+{
+    int32_t inMenu;
+    const char *fileName;
+    int32_t location;
+};
+
+class ProfileMenus : public testing::Test
+{
+protected:
+    ProfileMenus()
+    {
+        qputenv("BVCO_ROOT", root.path().toUtf8());
+        for (const auto &[menu, kind] : {std::pair(&rgb, 1), {&dst, 2}, {&sim, 3}})
+            rows.push_back({menu, kPDEControlPopUp, "BVSrc", nullptr, nullptr, "", int16_t(kind), nullptr});
+        rows.push_back(endControlItem());
+        for (size_t i = 0; i < 3; ++i)
+            PDECommon::commonGetPPDArrayForUIOption(ppd.get(), "BVSrc", &rows[i].ppdChoices);
+    }
+    static void fill(ProfileList &list, const std::vector<Entry> &entries)
+    {
+        for (const Entry &entry : entries) {
+            ProfileRecord &record = list.records[list.count++];
+            record.InMenu = entry.inMenu;
+            record.Location = entry.location;
+            bv::setFieldText(record.FileName, entry.fileName);
+            bv::setFieldText(record.ProfileName, "Office");
+        }
+    }
+    void write(const std::vector<Entry> &rgbEntries, const std::vector<Entry> &simEntries = {},
+               const std::vector<Entry> &dstEntries = {})
+    {
+        auto lists = std::make_unique<std::array<ProfileList, 3>>();
+        fill((*lists)[0], rgbEntries);
+        fill((*lists)[1], simEntries);
+        fill((*lists)[2], dstEntries);
+        const QString path = QString::fromStdString(bv::mapRootPath(bv::profilePaths().current));
+        QDir().mkpath(QFileInfo(path).path());
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(QByteArray::fromStdString(*bv::profileListXml((*lists)[0], (*lists)[1], (*lists)[2])));
+    }
+    int32_t build()
+    {
+        PDECommon::commonBuildPDEItem(rows.data(), ppd.get());
+        return PDECommon::commonAddMenuFromProfilePlist(rows.data());
+    }
+    static QStringList items(const QComboBox &menu)
+    {
+        QStringList titles;
+        for (int i = 0; i < menu.count(); ++i)
+            titles.append(menu.itemText(i));
+        return titles;
+    }
+    int32_t save() { return PDECommon::commonSyncTicketFromPane(&ticket, &session, rows.data()); }
+    int32_t restore() { return PDECommon::commonSyncPaneFromTicket(&ticket, &session, rows.data()); }
+
+    QTemporaryDir root;
+    bvtest::TestPpd ppd{bvtest::ppdOption("BVSrc", "Off sRGB Auto Wide Last", "PickOne", "sRGB"), nullptr};
+    bvtest::TestTicket ticket;
+    bvtest::TestSession session;
+    QComboBox rgb, dst, sim;
+    std::vector<PDEControlItem> rows;
+};
+
+const QStringList kPpdItems = {"Off text", "sRGB text", "Auto text", "Wide text", "Last text"};
+
+TEST_F(ProfileMenus, WithoutAListTheMenusKeepThePpdsItems)
+{
+    EXPECT_EQ(build(), -1);
+    EXPECT_EQ(items(rgb), kPpdItems);
+}
+
+TEST_F(ProfileMenus, EachKindShowsItsListInOrderAndTwinsStayTwo)
+{
+    write({{3, "a.icc", 4}, {1, "b.icc", 4}, {6, "a.icc", 4}, {2, "c.icc", 4}, {5, "d.icc", 5}, {4, "e.icc", 5}},
+          {{4, "sim.icc", 5}}, {{3, "dst.icc", 7}});
+    EXPECT_EQ(build(), noErr);
+    EXPECT_EQ(items(rgb), kPpdItems + QStringList({"a.icc(Office)Disk", "a.icc(Office)Disk", "e.icc(Office)Card"}));
+    EXPECT_EQ(items(sim).mid(5), QStringList({"sim.icc(Office)Card"}));
+    EXPECT_EQ(items(dst).mid(5), QStringList({"dst.icc(Office)"})) << "unknown storage has no name";
+
+    rows[2].profileKind = 0; // a row that is no profile row is passed over, and tells
+    EXPECT_EQ(build(), paramErr);
+    EXPECT_EQ(items(sim), kPpdItems);
+}
+
+TEST_F(ProfileMenus, ACodeOfZeroIsShownButDoesNotCount)
+{
+    EXPECT_TRUE(bv::shownInMenu(0));
+    EXPECT_FALSE(bv::countsInNumbering(0));
+    for (int code : {1, 2, 5}) {
+        EXPECT_FALSE(bv::shownInMenu(code));
+        EXPECT_FALSE(bv::countsInNumbering(code));
+    }
+    for (int code : {3, 4, 6}) {
+        EXPECT_TRUE(bv::shownInMenu(code));
+        EXPECT_TRUE(bv::countsInNumbering(code));
+    }
+}
+
+TEST_F(ProfileMenus, AChosenProfileGoesIntoTheTicketAndComesBack)
+{
+    write({{3, "a.icc", 4}, {1, "b.icc", 4}, {6, "c.icc", 5}});
+    build();
+    rgb.setCurrentIndex(6); // the second profile, behind five choices
+    EXPECT_EQ(save(), noErr);
+    EXPECT_EQ(ticket.inQueue("BVSrcCustomFilename"),
+              QString::fromStdString(bv::encodeDevicePath("/ataCf1a/data/USfiles/Profiles/c.icc")));
+    rgb.setCurrentIndex(0);
+    rows[1].ppdKey = rows[2].ppdKey = ""; // these rows share the keyword in this test only
+    rgb.setCurrentIndex(6);
+    save();
+    EXPECT_EQ(ticket.atTop("BVSrcCustom"), "True");
+    EXPECT_EQ(ticket.atTop("BVSrc"), "Off") << "the first choice stands in for a profile";
+    rgb.setCurrentIndex(0);
+    restore();
+    EXPECT_EQ(rgb.currentIndex(), 6);
+
+    rgb.setCurrentIndex(2);
+    save();
+    EXPECT_EQ(ticket.atTop("BVSrcCustom"), "False");
+    EXPECT_NE(ticket.atTop("BVSrcCustomFilename"), "-") << "the old path stays; the flag decides";
+    rgb.setCurrentIndex(0);
+    restore();
+    EXPECT_EQ(rgb.currentIndex(), 2);
+}
+
+TEST_F(ProfileMenus, AProfileThatIsGoneGivesThePpdDefault)
+{
+    write({{3, "a.icc", 4}, {3, "x.icc", 7}});
+    build();
+    rows[1].ppdKey = rows[2].ppdKey = "";
+    rgb.setCurrentIndex(6);
+    save();
+    EXPECT_EQ(ticket.inQueue("BVSrcCustomFilename"), QString::fromStdString(bv::encodeDevicePath("x.icc")))
+        << "unknown storage has no folder";
+    restore();
+    EXPECT_EQ(rgb.currentIndex(), 1) << "and is never found again";
+
+    rgb.setCurrentIndex(5);
+    save();
+    write({{3, "other.icc", 4}});
+    restore();
+    EXPECT_EQ(rgb.currentIndex(), 1);
+}
+
+TEST_F(ProfileMenus, TicketEntriesOfAnyKindNameNoProfile)
+{
+    write({{3, "a.icc", 4}});
+    build();
+    rows[1].ppdKey = rows[2].ppdKey = "";
+    const QString good = QString::fromStdString(bv::encodeDevicePath("/ata1a/data/USfiles/Profiles/a.icc"));
+    struct
+    {
+        bv::PrintValue name;
+        int16_t position;
+    } const cases[] = {
+        {bv::PrintValue(good), 1},
+        {bv::PrintValue(good.toUpper() + QString()), 1},
+        {bv::PrintValue(good + "2"), 0},
+        {bv::PrintValue(QString()), 0},
+        {bv::PrintValue(QString(QChar(0xE9))), 0},
+        {bv::PrintValue(QString(5000, u'0')), 0},
+        {bv::PrintValue::integer(3), 0},
+        {bv::PrintValue(bv::PrintArray{}), 0},
+        {bv::PrintValue("?????"), 0}, // bytes that are no UTF-8, and an odd last character
+    };
+    for (const auto &row : cases) {
+        ticket.putInQueue("BVSrcCustomFilename", row.name);
+        const auto queue = PDECommon::commonGetModelDictionary(&ticket, &session);
+        EXPECT_EQ(PDECommon::commonGetTicketAddedProfile(rows.data(), queue), row.position);
+    }
+    EXPECT_EQ(PDECommon::commonGetTicketAddedProfile(rows.data(), nullptr), -1);
+    EXPECT_EQ(PDECommon::commonSetTicketAddedProfile(rows.data(), nullptr, 1), -1);
+    for (const auto &flag : {bv::PrintValue("true"), bv::PrintValue::boolean(true)}) {
+        ticket.putInQueue("BVSrcCustom", flag);
+        ticket.putInQueue("BVSrc", bv::PrintValue("Wide"));
+        restore();
+        EXPECT_EQ(rgb.currentIndex(), 3) << "only the text True names a profile";
+    }
+    PDEControlItem plain = rows[0];
+    plain.profileKind = 0;
+    EXPECT_TRUE(
+        PDECommon::commonGetTicketAddedProfileFlag(&plain, PDECommon::commonGetModelDictionary(&ticket, &session))
+            .isNone());
+}
+
+TEST(DevicePath, IsEncodedHalfByteByHalfByte)
+{
+    ProfileRecord record{};
+    record.Location = kLocationDisk;
+    bv::setFieldText(record.FileName, "a.icc");
+    const std::string path = bv::devicePath(record);
+    EXPECT_EQ(path, "/ata1a/data/USfiles/Profiles/a.icc");
+    const std::string text = bv::encodeDevicePath(path);
+    EXPECT_EQ(text.size(), 68U);
+    EXPECT_EQ(text.substr(0, 8), "2?617461");
+    EXPECT_EQ(bv::decodeDevicePath(text), path);
+    EXPECT_EQ(bv::encodeDevicePath("\xFF\x0A"), "??0:");
+    EXPECT_EQ(bv::decodeDevicePath("41"), "A");
+    EXPECT_EQ(bv::decodeDevicePath("414"), std::string("A\x10", 2));
+
+    std::memset(record.FileName, 'x', sizeof record.FileName); // all 32 bytes, as a walk may leave it
+    EXPECT_EQ(bv::devicePath(record).size(), 29U + 32U);
+}
+
+} // namespace

@@ -1,0 +1,51 @@
+// Profile lists for tests and benchmarks.
+#pragma once
+
+#include "profiles/ProfileList.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace bvtest {
+
+// Three lists of one user, zeroed at first; too large for a small stack.
+struct Lists
+{
+    ProfileList rgb{}, sim{}, dst{};
+};
+
+inline std::unique_ptr<Lists> makeLists()
+{
+    return std::make_unique<Lists>();
+}
+
+inline ProfileRecord makeRecord(int32_t inMenu, std::string_view fileName, int32_t location = kLocationDisk,
+                                int32_t indexOnDevice = 0, std::string_view profileName = "", int32_t profileClass = 1)
+{
+    ProfileRecord record{};
+    record.IndexOnDevice = indexOnDevice;
+    record.InMenu = inMenu;
+    record.ProfileClass = profileClass;
+    record.Location = location;
+    bv::setFieldText(record.FileName, fileName);
+    bv::setFieldText(record.ProfileName, profileName);
+    return record;
+}
+
+// Adds a record behind those that the count covers.
+inline void add(ProfileList &list, const ProfileRecord &record)
+{
+    list.records[list.count++] = record;
+}
+
+// 500 records in use, each with its own name; `profileName` is what all of them show.
+inline void fill(ProfileList &list, std::string_view profileName = "A profile of the shop")
+{
+    list = ProfileList{};
+    for (int slot = 0; slot < kProfileSlots; ++slot)
+        add(list, makeRecord(3 + slot % 4, "PROFILE" + std::to_string(slot) + ".ICC", slot % 2 ? 5 : 4, slot + 1,
+                             profileName, 1 + slot % 3));
+}
+
+} // namespace bvtest
