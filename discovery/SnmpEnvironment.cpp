@@ -12,19 +12,24 @@ namespace {
 struct Variable
 {
     const char *name;
-    bool callersOwn; // of use to a caller whose rights the process runs with
+    const char *value; // what it is set to; null: it is removed
+    bool callersOwn;   // left as it is in a process that runs with its caller's rights
 };
 
+// All variables that the library reads: snmp_config(5), netsnmp_config_api(3), netsnmp_mib_api(3).
+// Empty is not the same as removed: with empty MIB variables no MIB is loaded and no folder is searched for one. The
+// persistent folder is one that cannot exist, so the library makes none (as root it would) and finds nothing in it.
 // clang-format off
 constexpr Variable kVariables[] = {
-    // snmp_config(5), netsnmp_config_api(3), mib_api(3)
-    {"SNMPCONFPATH",         true },
-    {"SNMP_PERSISTENT_DIR",  true },
-    {"SNMP_PERSISTENT_FILE", true },
-    {"HOME",                 true },
-    {"MIBDIRS",              false},
-    {"MIBFILES",             false},
-    {"PREFIX",               false},
+    // name                  value        the caller's own
+    {"SNMPCONFPATH",         nullptr,     true },
+    {"HOME",                 nullptr,     true },
+    {"SNMP_PERSISTENT_DIR",  "/dev/null", false},
+    {"SNMP_PERSISTENT_FILE", nullptr,     false},
+    {"MIBS",                 "",          false},
+    {"MIBDIRS",              "",          false},
+    {"MIBFILES",             nullptr,     false},
+    {"PREFIX",               nullptr,     false},
 };
 // clang-format on
 
@@ -34,11 +39,13 @@ void bv::prepareSnmpEnvironment()
 {
     const bool ownRights = getuid() == geteuid() && getgid() == getegid();
     for (const Variable &variable : kVariables) {
-        if (!ownRights || !variable.callersOwn)
+        if (ownRights && variable.callersOwn)
+            continue;
+        if (variable.value)
+            setenv(variable.name, variable.value, 1);
+        else
             unsetenv(variable.name);
     }
-    // Set and empty, not unset: the library then loads no MIB files. The walk's identifiers are numbers.
-    setenv("MIBS", "", 1);
-    // The walk keeps nothing between two runs.
+    netsnmp_ds_set_boolean(NETSNMP_DS_LIBRARY_ID, NETSNMP_DS_LIB_DISABLE_PERSISTENT_LOAD, 1);
     netsnmp_ds_set_boolean(NETSNMP_DS_LIBRARY_ID, NETSNMP_DS_LIB_DISABLE_PERSISTENT_SAVE, 1);
 }

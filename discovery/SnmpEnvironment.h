@@ -3,8 +3,8 @@
 
 namespace bv {
 
-// Sets the environment for the SNMP library, before its first call: no MIB files, names or prefixes, and in a process
-// whose real and effective ids differ none of the variables that lead to configuration files.
+// Sets the environment for the SNMP library, before its first call: no MIB files, names or prefixes, no persistent
+// folder. In a process whose real and effective ids differ, none of the variables that lead to configuration either.
 void prepareSnmpEnvironment();
 
 } // namespace bv

@@ -1,6 +1,7 @@
 // Who asks, and whose list a path, a URL or a login name of the request stands for.
 #include "helper/Caller.h"
 
+#include "helper/FileDescriptor.h"
 #include "platform/FileUrl.h"
 #include "platform/UserName.h"
 #include "profiles/ProfilePaths.h"
@@ -10,8 +11,6 @@
 #include <fcntl.h>
 #include <pwd.h>
 #include <unistd.h>
-
-#include "helper/FileDescriptor.h"
 
 namespace bv {
 
@@ -102,14 +101,7 @@ std::string ListTarget::previousName() const
     return fileName(previousPath);
 }
 
-Caller::Caller(std::optional<ProcessIdentity> sequenceOwner) : m_user(getuid()), m_sequenceOwner(sequenceOwner) {}
-
-Caller Caller::withSequenceOwner(std::optional<ProcessIdentity> owner) const
-{
-    Caller caller = *this;
-    caller.m_sequenceOwner = owner;
-    return caller;
-}
+Caller::Caller(pid_t sequenceProcess) : m_user(getuid()), m_sequenceProcess(sequenceProcess) {}
 
 std::optional<ListTarget> Caller::ownList() const
 {

@@ -35,14 +35,13 @@ struct ListTarget
 class Caller
 {
 public:
-    // `sequenceOwner` is the process that the pieces of a write sequence belong to; nothing: no piece is taken.
-    explicit Caller(std::optional<ProcessIdentity> sequenceOwner);
+    // `sequenceProcess` is the process that the pieces of a write sequence belong to.
+    explicit Caller(pid_t sequenceProcess);
 
     uid_t user() const { return m_user; }
     bool isRoot() const { return m_user == 0; }
-    const std::optional<ProcessIdentity> &sequenceOwner() const { return m_sequenceOwner; }
-    // The same user, with the sequences of another process.
-    Caller withSequenceOwner(std::optional<ProcessIdentity> owner) const;
+    // Looked up anew at each call; nothing when that process cannot be told apart from others.
+    std::optional<ProcessIdentity> sequenceOwner() const { return identifyProcess(m_sequenceProcess); }
 
     // The list that the caller may touch under that name: his own, or for root that of any user in the password
     // database. Nothing for every other text; compared byte for byte.
@@ -59,7 +58,7 @@ private:
     std::optional<ListTarget> ownList() const;
 
     uid_t m_user;
-    std::optional<ProcessIdentity> m_sequenceOwner;
+    pid_t m_sequenceProcess;
 };
 
 } // namespace bv

@@ -88,8 +88,7 @@ FoundFile ListFolder::find(const std::string &name, int access, const Caller &ca
 
 FileDescriptor ListFolder::create(const std::string &name, const Caller &caller, const ListTarget &target) const
 {
-    FileDescriptor file(
-        openat(m_folder.get(), name.c_str(), O_RDWR | O_CREAT | O_EXCL | kNeverFollow, kListFileMode));
+    FileDescriptor file(openat(m_folder.get(), name.c_str(), O_RDWR | O_CREAT | O_EXCL | kNeverFollow, kListFileMode));
     if (!file) {
         complain("cannot make a file beside the list", errno);
         return file;
@@ -107,8 +106,8 @@ bool ListFolder::stillNamed(const std::string &name, const FileDescriptor &file)
 {
     struct stat named = {};
     struct stat opened = {};
-    return fstat(file.get(), &opened) == 0 &&
-           fstatat(m_folder.get(), name.c_str(), &named, AT_SYMLINK_NOFOLLOW) == 0 && isSameFile(named, opened);
+    return fstat(file.get(), &opened) == 0 && fstatat(m_folder.get(), name.c_str(), &named, AT_SYMLINK_NOFOLLOW) == 0 &&
+           isSameFile(named, opened);
 }
 
 bool ListFolder::removeIfNamed(const std::string &name, const FileDescriptor &file) const

@@ -64,8 +64,7 @@ bool copyOver(const ListFolder &folder, const Caller &caller, const ListTarget &
               const std::string &to)
 {
     const FoundFile source = folder.find(from, O_RDONLY, caller, target);
-    if (source.standing != Standing::Usable ||
-        folder.find(to, O_PATH, caller, target).standing == Standing::Foreign)
+    if (source.standing != Standing::Usable || folder.find(to, O_PATH, caller, target).standing == Standing::Foreign)
         return false;
     const std::string copyName = to + ".copy";
     const FoundFile left = folder.find(copyName, O_PATH, caller, target); // by a copy that was killed
@@ -136,8 +135,8 @@ Outcome answerSwap(const Caller &caller, RequestArguments arguments)
     const bool keepCurrent = code == "2";
     const std::string current = target->currentName();
     const std::string previous = target->previousName();
-    return outcomeOf(copyOver(*folder, caller, *target, keepCurrent ? current : previous,
-                              keepCurrent ? previous : current));
+    return outcomeOf(
+        copyOver(*folder, caller, *target, keepCurrent ? current : previous, keepCurrent ? previous : current));
 }
 
 Outcome answerPiece(const Caller &caller, RequestArguments arguments)

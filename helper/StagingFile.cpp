@@ -67,7 +67,8 @@ std::optional<std::string> readBytes(int descriptor, size_t offset, size_t size)
 } // namespace
 
 StagingFile::StagingFile(const ListFolder &folder, const Caller &caller, const ListTarget &target)
-    : m_folder(folder), m_caller(caller), m_target(target), m_name(target.currentName() + ".part")
+    : m_folder(folder), m_caller(caller), m_target(target), m_owner(caller.sequenceOwner()),
+      m_name(target.currentName() + ".part")
 {}
 
 StagingFile::Staged StagingFile::open() const
@@ -86,9 +87,7 @@ StagingFile::Staged StagingFile::open() const
     staged.textBytes = size - kNoteBytes;
     const auto note = readBytes(staged.file.get(), staged.textBytes, kNoteBytes);
     if (note && note->starts_with(kNoteBegin)) {
-        const auto &owner = m_caller.sequenceOwner();
-        staged.sequence =
-            owner && *note == noteOf(*owner, staged.textBytes) ? Sequence::Own : Sequence::Others;
+        staged.sequence = m_owner && *note == noteOf(*m_owner, staged.textBytes) ? Sequence::Own : Sequence::Others;
     }
     return staged;
 }
@@ -96,7 +95,7 @@ StagingFile::Staged StagingFile::open() const
 bool StagingFile::write(const FileDescriptor &file, size_t offset, std::string_view piece) const
 {
     std::string bytes(piece);
-    bytes += noteOf(*m_caller.sequenceOwner(), offset + piece.size());
+    bytes += noteOf(*m_owner, offset + piece.size());
     if (offset + piece.size() > kTextLimit)
         complain("the list is too long");
     else if (writeAll(file.get(), bytes, offset))
@@ -121,7 +120,7 @@ bool StagingFile::start(std::string_view piece)
 
 bool StagingFile::add(std::string_view piece)
 {
-    if (!m_caller.sequenceOwner()) {
+    if (!m_owner) {
         complain("the calling process cannot be told apart from others");
         return false;
     }

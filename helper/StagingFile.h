@@ -45,6 +45,7 @@ private:
     const ListFolder &m_folder;
     const Caller &m_caller;
     const ListTarget &m_target;
+    std::optional<ProcessIdentity> m_owner; // of the caller's sequences
     std::string m_name;
 };
 

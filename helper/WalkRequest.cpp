@@ -4,11 +4,11 @@
 #include "discovery/ProfileWalk.h"
 #include "helper/Diagnostics.h"
 #include "helper/DirectTransport.h"
+#include "helper/SnmpLibrary.h"
 #include "profiles/ProfilePaths.h"
 
 #include <array>
 #include <cstdio>
-#include <cstdlib>
 #include <unistd.h>
 
 namespace bv {
@@ -52,11 +52,12 @@ Outcome answerWalk(const Caller &caller, RequestArguments arguments)
         return outcomeOf(false);
     }
 
-    // No MIB files: the walk needs none, and reading them takes longer than all the rest.
-    setenv("MIBS", "", 1);
+    if (!loadSnmpLibrary())
+        return outcomeOf(false);
+
     setProfileLogin(target->login);
     // The pieces that the walk writes are its own sequence and not its parent's.
-    DirectTransport transport(caller.withSequenceOwner(identifyProcess(getpid())));
+    DirectTransport transport{Caller(getpid())};
     HelperTransport *before = setHelperTransport(&transport);
 
     std::array<std::string, kWords.size()> words;

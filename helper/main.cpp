@@ -33,7 +33,7 @@ int answerCommandLine(std::span<char *const> commandLine)
         return bv::kExitUnknown;
     }
     const std::string_view name = words[1];
-    const bv::Caller caller(bv::identifyProcess(getppid()));
+    const bv::Caller caller(getppid());
     bv::Outcome outcome = bv::outcomeOf(false);
     try {
         outcome = bv::answerRequest(name, bv::RequestArguments(words).subspan(2), caller);

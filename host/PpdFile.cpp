@@ -11,6 +11,42 @@
 
 namespace bv {
 
+namespace {
+
+// What a file that ends too early leaves open. libcups takes such a file for a smaller printer; "" when all is closed.
+// Keywords begin their line, and a quoted value may go over several lines (PPD 4.3, sections 3.2 and 3.6).
+QString leftOpen(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QByteArray option;
+    QByteArray group;
+    bool quoted = false;
+    const QByteArray text = file.readAll().replace('\r', '\n');
+    for (const QByteArray &line : text.split('\n')) {
+        if (!quoted && line.startsWith("*%"))
+            continue;
+        if (!quoted && (line.startsWith("*OpenUI") || line.startsWith("*JCLOpenUI")))
+            option = line;
+        else if (!quoted && (line.startsWith("*CloseUI") || line.startsWith("*JCLCloseUI")))
+            option.clear();
+        else if (!quoted && line.startsWith("*OpenGroup"))
+            group = line;
+        else if (!quoted && line.startsWith("*CloseGroup"))
+            group.clear();
+        // A translation in front of the colon may hold a quote that opens nothing.
+        const QByteArray value = quoted ? line : line.mid(line.indexOf(':') + 1).trimmed();
+        if (quoted || value.startsWith('"'))
+            quoted = quoted != (value.count('"') % 2 == 1);
+    }
+    if (quoted)
+        return QStringLiteral("a quoted value");
+    return QString::fromUtf8(option.isEmpty() ? group : option).simplified();
+}
+
+} // namespace
+
 Result<PpdFile> PpdFile::open(const QString &path)
 {
     using Ppd = Result<PpdFile>;
@@ -26,6 +62,9 @@ Result<PpdFile> PpdFile::open(const QString &path)
                                 ? QStringLiteral("The PPD %1 cannot be used: %2, line %3.").arg(path, reason).arg(line)
                                 : QStringLiteral("The PPD %1 cannot be read: %2.").arg(path, reason));
     }
+    PpdFile ppd(file);
+    if (const QString open = leftOpen(path); !open.isEmpty())
+        return Ppd::failure(QStringLiteral("The PPD %1 is cut off: %2 is not closed.").arg(path, open));
     // libcups has converted every text to UTF-8, whether the file says what it was in or not, but tells so only in the
     // first case. The PPD owns the string and frees it with free(3).
     if (!file->lang_encoding)
@@ -33,7 +72,7 @@ Result<PpdFile> PpdFile::open(const QString &path)
     if (!messageLocale().isEmpty())
         ppdLocalize(file);
     ppdMarkDefaults(file);
-    return PpdFile(file);
+    return ppd;
 }
 
 } // namespace bv

@@ -78,6 +78,10 @@ namespace bv {
 // readable as one.
 PropertyList readProfileListFile();
 
+// Fills the three lists from an open list file. 0, or -1 when a class or one of its field dictionaries is missing; then
+// no list is touched.
+int32_t readLists(const PropertyList &file, ProfileList *rgb, ProfileList *sim, ProfileList *dst);
+
 // Whether a text is a property list whose root holds the three class dictionaries, each with its six field
 // dictionaries. Lenient about the XML itself, as the parser is.
 bool isCompleteProfileList(std::string_view xml);

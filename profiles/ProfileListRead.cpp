@@ -71,20 +71,22 @@ private:
 
 } // namespace
 
+int32_t bv::readLists(const PropertyList &file, ProfileList *rgb, ProfileList *sim, ProfileList *dst)
+{
+    std::array<ClassReader, 3> readers = {ClassReader(file, kProfileRGB), ClassReader(file, kProfileSIM),
+                                          ClassReader(file, kProfileDST)};
+    // No list is touched before all three classes are known to be whole.
+    if (!std::all_of(readers.begin(), readers.end(), [](const ClassReader &reader) { return reader.complete(); }))
+        return -1;
+    readers[kProfileRGB].readAllSlots(rgb);
+    readers[kProfileSIM].readAllSlots(sim);
+    readers[kProfileDST].readAllSlots(dst);
+    return 0;
+}
+
 int32_t BVPListReadProfile_All(ProfileList *rgb, ProfileList *sim, ProfileList *dst)
 {
-    return bv::withoutThrowing(-1, [&] {
-        const bv::PropertyList file = bv::readProfileListFile();
-        std::array<ClassReader, 3> readers = {ClassReader(file, kProfileRGB), ClassReader(file, kProfileSIM),
-                                              ClassReader(file, kProfileDST)};
-        // No list is touched before all three classes are known to be whole.
-        if (!std::all_of(readers.begin(), readers.end(), [](const ClassReader &reader) { return reader.complete(); }))
-            return -1;
-        readers[kProfileRGB].readAllSlots(rgb);
-        readers[kProfileSIM].readAllSlots(sim);
-        readers[kProfileDST].readAllSlots(dst);
-        return 0;
-    });
+    return bv::withoutThrowing(-1, [&] { return bv::readLists(bv::readProfileListFile(), rgb, sim, dst); });
 }
 
 int32_t BVPListReadProfile_Dict(ProfileList *list, int32_t which)

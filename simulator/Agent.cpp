@@ -61,7 +61,10 @@ int boundPort(int socket)
 Agent::Agent(const Fault *fault) : m_fault(fault)
 {
     theAgent = this;
-    setenv("MIBS", "", 1);
+    // No MIB files, and none of the library's folders looked through for them; nothing kept in its persistent folder.
+    for (const char *variable : {"MIBS", "MIBDIRS"})
+        setenv(variable, "", 1);
+    setenv("SNMP_PERSISTENT_DIR", "/dev/null", 1);
     for (const int flag : {NETSNMP_DS_LIB_DONT_READ_CONFIGS, NETSNMP_DS_LIB_DISABLE_PERSISTENT_LOAD,
                            NETSNMP_DS_LIB_DISABLE_PERSISTENT_SAVE})
         netsnmp_ds_set_boolean(NETSNMP_DS_LIBRARY_ID, flag, 1);

@@ -42,7 +42,8 @@ TEST(Rules, GrayGreysOutAllColourMenusAndLeavesTheirValues)
     t.box("ColorAsGrayCheckBox")->setChecked(true);
     vColorPresetConstraints(t.table());
     for (const char *object : {"Image", "Text", "Graphics"}) {
-        for (const char *setting : {"RGBSourcePopup", "RenderIntentPopup", "GrayTreatmentPopup", "DestinationProfilePopup"})
+        for (const char *setting :
+             {"RGBSourcePopup", "RenderIntentPopup", "GrayTreatmentPopup", "DestinationProfilePopup"})
             EXPECT_FALSE(t.enabled(std::string(object) + setting)) << object << setting;
     }
     for (const char *name : {"SimulationSourcePopup", "SimulationRenderIntentPopup", "SimulationGrayTreatmentPopup"})
@@ -113,10 +114,10 @@ TEST(Evaluator, OperatorsAndExpressions)
         int32_t operation, value;
         bool holds;
     } const comparisons[] = {
-        {kCSTEqual, 3, true},          {kCSTEqual, 2, false},         {kCSTNotEqual, 2, true},
-        {kCSTLess, 4, true},           {kCSTLess, 3, false},          {kCSTGreater, 2, true},
-        {kCSTGreater, 3, false},       {kCSTLessEqual1, 3, true},     {kCSTLessEqual2, 2, false},
-        {kCSTGreaterEqual1, 3, true},  {kCSTGreaterEqual2, 4, false}, {kCSTSet, 3, false},
+        {kCSTEqual, 3, true},         {kCSTEqual, 2, false},         {kCSTNotEqual, 2, true},
+        {kCSTLess, 4, true},          {kCSTLess, 3, false},          {kCSTGreater, 2, true},
+        {kCSTGreater, 3, false},      {kCSTLessEqual1, 3, true},     {kCSTLessEqual2, 2, false},
+        {kCSTGreaterEqual1, 3, true}, {kCSTGreaterEqual2, 4, false}, {kCSTSet, 3, false},
     };
     for (const auto &row : comparisons) {
         const CSTCondition condition{"EdgeTypePopup", row.value, row.operation};
@@ -137,9 +138,9 @@ TEST(Evaluator, OperatorsAndExpressions)
         {trueFalse, 2, {0, 1, kCSTAnd, kCSTEnd}, 0},
         {falseTrue, 2, {0, 1, kCSTOr, kCSTEnd}, 1},
         {falseTrue, 2, {kCSTOpen, 0, 1, kCSTClose, kCSTOr, kCSTEnd}, 1},
-        {falseTrue, 1, {0, 1, kCSTOr, kCSTEnd}, 0},    // a condition beyond the count is false
+        {falseTrue, 1, {0, 1, kCSTOr, kCSTEnd}, 0}, // a condition beyond the count is false
         {falseTrue, 0, {kCSTEnd}, 0},
-        {trueFalse, 2, {kCSTAnd, kCSTEnd}, 0},         // an operator without an operand takes false
+        {trueFalse, 2, {kCSTAnd, kCSTEnd}, 0}, // an operator without an operand takes false
         {falseTrue, 2, {999, kCSTOr, 1, kCSTOr, kCSTEnd}, 1},
         {falseTrue, 2, std::vector<int32_t>(45, 0), 0}, // no end token: forty are read
     };

@@ -58,7 +58,8 @@ TEST(ControlTable, ConstraintUnitsCountPopUpItemsFromOne)
     {
         const PDEControlItem *item;
         int32_t control, units, back;
-    } const rows[] = {{&popUp, -1, 0, 0}, {&popUp, 0, 1, 0}, {&popUp, 3, 4, 3}, {&check, 1, 1, 1}, {nullptr, -7, -7, -7}};
+    } const rows[] = {
+        {&popUp, -1, 0, 0}, {&popUp, 0, 1, 0}, {&popUp, 3, 4, 3}, {&check, 1, 1, 1}, {nullptr, -7, -7, -7}};
     for (const auto &row : rows) {
         EXPECT_EQ(PDECommon::commonConvertToCSTValue(row.item, row.control), row.units);
         EXPECT_EQ(PDECommon::commonConvertFromCSTValue(row.item, row.units), row.back);
@@ -81,10 +82,7 @@ protected:
             add<QLabel>(name);
         add<QPushButton>("button_AdvanceColorOptions");
     }
-    template <typename Control> void add(const char *name)
-    {
-        (new Control(&pane))->setObjectName(QLatin1String(name));
-    }
+    template <typename Control> void add(const char *name) { (new Control(&pane))->setObjectName(QLatin1String(name)); }
     ColorOptions pane;
     TestPpd ppd;
 };

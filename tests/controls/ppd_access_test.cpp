@@ -1,5 +1,6 @@
 // The PPD through libcups: encodings, choice lists, conflict marks, menus, defaults and current values.
 #include "controls/PpdEncoding.h"
+#include "common/PDECommon.h"
 #include "support/PaneFixture.h"
 
 #include <QCheckBox>
@@ -18,8 +19,8 @@ TEST(PpdEncoding, ComparesLanguageEncodingExactly)
         const char *name;
         uint32_t object, cf;
     } const rows[] = {
-        {"ISOLatin1", 5, 513},         {"WindowsANSI", 12, 1280}, {"JIS83-RKSJ", 8, 2561}, {"UTF-8", 4, 134217984},
-        {"UTF8", 4, 134217984},        {"utf8", 30, 0},           {"MacStandard", 30, 0},  {nullptr, 30, 0},
+        {"ISOLatin1", 5, 513},  {"WindowsANSI", 12, 1280}, {"JIS83-RKSJ", 8, 2561}, {"UTF-8", 4, 134217984},
+        {"UTF8", 4, 134217984}, {"utf8", 30, 0},           {"MacStandard", 30, 0},  {nullptr, 30, 0},
     };
     ppd_file_t ppd{};
     for (const auto &row : rows) {
@@ -39,7 +40,10 @@ TEST(PpdEncoding, DecodesEachEncodingAndSurvivesWhatIsNoText)
         const char16_t *text;
     } const rows[] = {
         {"ISOLatin1", "Gr\xFC\xDF", u"Gr\u00FC\u00DF"},
-        {"WindowsANSI", "\x93" "a\x94 \x80", u"\u201Ca\u201D \u20AC"},
+        {"WindowsANSI",
+         "\x93"
+         "a\x94 \x80",
+         u"\u201Ca\u201D \u20AC"},
         {"WindowsANSI", "a\x81z", u"a\uFFFDz"},
         {"JIS83-RKSJ", "\x8E\xCA\x90\x5E", u"\u5199\u771F"},
         {"JIS83-RKSJ", "a\x8E", u"a\uFFFD"},
@@ -144,9 +148,9 @@ TEST(PpdMenus, RebuildReplacesItemsOnlyWhenThePpdHasTheOption)
 
 TEST(PpdMenus, DefaultsAndCurrentValuesByKind)
 {
-    const QByteArray lines = ppdOption("BVA", "One Two", "PickOne", "Two") + ppdOption("BVLost", "One", "PickOne", "No") +
-                             ppdOption("BVOn", "False True", "Boolean", "True") +
-                             ppdOption("BVOdd", "Yes No", "Boolean", "Yes");
+    const QByteArray lines =
+        ppdOption("BVA", "One Two", "PickOne", "Two") + ppdOption("BVLost", "One", "PickOne", "No") +
+        ppdOption("BVOn", "False True", "Boolean", "True") + ppdOption("BVOdd", "Yes No", "Boolean", "Yes");
     const TestPpd ppd(lines, nullptr);
     QComboBox menu;
     QCheckBox box;

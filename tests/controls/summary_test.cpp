@@ -1,5 +1,6 @@
 // Summary items of a table and single items.
 #include "platform/Bundle.h"
+#include "common/PDECommon.h"
 #include "support/PaneFixture.h"
 
 #include <QCheckBox>

@@ -1,4 +1,5 @@
 // Controls into the ticket and back, with the carried value and with tickets of any shape.
+#include "common/PDECommon.h"
 #include "support/PaneFixture.h"
 
 #include <QCheckBox>
@@ -74,7 +75,8 @@ TEST_F(TicketBinding, AnEmptySelectionWritesNoChoice)
 
 TEST_F(TicketBinding, CheckBoxSpellings)
 {
-    for (const auto &[text, on] : {std::pair("True", true), {"TRUE", true}, {"true", true}, {"tRUE", false}, {"", false}}) {
+    for (const auto &[text, on] :
+         {std::pair("True", true), {"TRUE", true}, {"true", true}, {"tRUE", false}, {"", false}}) {
         ticket.putInQueue("BVOn", bv::PrintValue(text));
         restore();
         EXPECT_EQ(box.isChecked(), on) << text;

@@ -10,7 +10,8 @@ TEST(PanelLog, DescribesObjectsDictionariesAndNull)
 {
     QObject object;
     object.setObjectName("pane");
-    const std::string text = bv::formatLog("%@ %d", {bv::LogArgument(static_cast<const QObject *>(&object)), bv::LogArgument(7)});
+    const std::string text =
+        bv::formatLog("%@ %d", {bv::LogArgument(static_cast<const QObject *>(&object)), bv::LogArgument(7)});
     EXPECT_NE(text.find("QObject"), std::string::npos);
     EXPECT_NE(text.find("pane"), std::string::npos);
     EXPECT_EQ(bv::formatLog("%@", {bv::LogArgument(static_cast<const QObject *>(nullptr))}), "(null)");

@@ -54,7 +54,8 @@ protected:
     QStringList order() const
     {
         QStringList names;
-        for (const bv::PrintValue &name : *panel->summaryInfo().value(bv::kSummaryDisplayOrder).array())
+        const bv::PrintValue list = panel->summaryInfo().value(bv::kSummaryDisplayOrder);
+        for (const bv::PrintValue &name : *list.array())
             names.append(*name.string());
         return names;
     }
@@ -164,8 +165,11 @@ TEST_F(Panel, PrintingAppliesThePresetAndOnlyThen)
     };
     open();
     for (const auto &row : rows) {
-        for (const auto &[menu, index] : {std::pair("menu_iEdgeEnhancement", 1), {"menu_tEdgeEnhancement", 0},
-                                          {"menu_gEdgeEnhancement", 1}, {"menu_iHalftone", 3}, {"menu_tHalftone", 3}})
+        for (const auto &[menu, index] : {std::pair("menu_iEdgeEnhancement", 1),
+                                          {"menu_tEdgeEnhancement", 0},
+                                          {"menu_gEdgeEnhancement", 1},
+                                          {"menu_iHalftone", 3},
+                                          {"menu_tHalftone", 3}})
             control<QComboBox>(menu)->setCurrentIndex(index);
         choose("menu_QuickColor", row.quickColor);
         control<QCheckBox>("check_EconomyPrint")->setChecked(row.economy);
@@ -197,8 +201,9 @@ TEST_F(Panel, SummaryFollowsThePresetUntilTheFreeChoice)
         EXPECT_EQ(names.size(), items) << quickColor << economy;
         EXPECT_EQ(names.mid(0, 8), own);
         EXPECT_EQ(names[8], "Image RGB Source");
-        if (items > 29)
+        if (items > 29) {
             EXPECT_EQ(names.last(), "Graphics EdgeEnhance") << "Economy comes last";
+        }
     }
     choose("menu_QuickColor", 1);
     choose("menu_iRGBIntent", 3);
@@ -211,7 +216,8 @@ TEST_F(Panel, WithoutSettingsOrSessionItShowsDefaultsAndAnEmptySummary)
 {
     callback.settings = nullptr;
     callback.session = nullptr;
-    for (bv::PrintPanelCallback *given : {static_cast<bv::PrintPanelCallback *>(&callback), static_cast<bv::PrintPanelCallback *>(nullptr)}) {
+    for (bv::PrintPanelCallback *given :
+         {static_cast<bv::PrintPanelCallback *>(&callback), static_cast<bv::PrintPanelCallback *>(nullptr)}) {
         panel = std::make_unique<PDEPlugInInterface>(given);
         open();
         EXPECT_TRUE(panel->saveValuesAndReturnError(nullptr));
@@ -252,15 +258,16 @@ TEST_P(PoorPanel, OpensSavesAndSummarisesWhatIsThere)
     for (const QString &name : order())
         EXPECT_NE(summary(qPrintable(name)), "-");
     EXPECT_EQ(ticket.atTop("BVSimSource"), "-");
-    EXPECT_EQ(ticket.atTop("BVSimSourceCustom"), "False") << "a profile row without a selection is flagged all the same";
+    EXPECT_EQ(ticket.atTop("BVSimSourceCustom"), "False")
+        << "a profile row without a selection is flagged all the same";
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    PoorPpds, PoorPanel,
-    testing::Values(QByteArray(), bvtest::ppdOption("BVQuickColor", "A B"),
-                    bvtest::ppdOption("BVQuickColor", "") + bvtest::ppdOption("BVImageHalftone", "One"),
-                    bvtest::ppdOption("BVQuickColor", "A B C D", "PickOne", "C") +
-                        bvtest::ppdOption("BVEconoMode", "On Off", "Boolean") +
-                        bvtest::ppdOption("BVBrightness", "Only", "PickOne", "Lost")));
+INSTANTIATE_TEST_SUITE_P(PoorPpds, PoorPanel,
+                         testing::Values(QByteArray(), bvtest::ppdOption("BVQuickColor", "A B"),
+                                         bvtest::ppdOption("BVQuickColor", "") +
+                                             bvtest::ppdOption("BVImageHalftone", "One"),
+                                         bvtest::ppdOption("BVQuickColor", "A B C D", "PickOne", "C") +
+                                             bvtest::ppdOption("BVEconoMode", "On Off", "Boolean") +
+                                             bvtest::ppdOption("BVBrightness", "Only", "PickOne", "Lost")));
 
 } // namespace

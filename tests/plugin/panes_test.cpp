@@ -57,16 +57,4 @@ TEST_F(Panes, GatherTwoTablesAndTheirRecords)
     EXPECT_EQ(controller.getControlCountEachView(), 14 + 47);
 }
 
-TEST_F(Panes, AdvancedPaneListsFortySixKeywordsTwentyFiveOfThemEmpty)
-{
-    // Every row needs its control, or the table ends early.
-    for (const char *name : {"tab_SwitchVew"})
-        (new QTabWidget(advanced))->setObjectName(QLatin1String(name));
-    advanced->createPDEControlTable();
-    QStringList keys;
-    advanced->createPPDKeyNSArrayAdvance(&keys);
-    EXPECT_TRUE(keys.isEmpty()) << "the first control is missing";
-    EXPECT_EQ(advanced->getControlCount(), 47);
-}
-
 } // namespace

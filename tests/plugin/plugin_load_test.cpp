@@ -31,7 +31,8 @@ TEST(PluginLoad, HandsOutOnePanelOfThePrinterModuleTypeOnly)
     const QWidget *view = panels->front()->panelView();
     EXPECT_EQ(view->objectName(), "pdeMainView");
     EXPECT_EQ(view->metaObject()->className(), "MainView" + kSuffix);
-    for (const auto &[name, type] : {std::pair("onColorView", "ColorOptions"), {"onAdvancedView", "AdvancedColorOptions"}}) {
+    for (const auto &[name, type] :
+         {std::pair("onColorView", "ColorOptions"), {"onAdvancedView", "AdvancedColorOptions"}}) {
         const auto *pane = view->findChild<QWidget *>(QLatin1String(name));
         ASSERT_TRUE(pane) << name;
         EXPECT_EQ(pane->metaObject()->className(), type + kSuffix);

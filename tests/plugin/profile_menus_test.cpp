@@ -3,6 +3,7 @@
 #include "profiles/ProfileKinds.h"
 #include "profiles/ProfileListFile.h"
 #include "profiles/ProfilePaths.h"
+#include "common/PDECommon.h"
 #include "support/PaneFixture.h"
 
 #include <QComboBox>
@@ -194,9 +195,9 @@ TEST_F(ProfileMenus, TicketEntriesOfAnyKindNameNoProfile)
     }
     PDEControlItem plain = rows[0];
     plain.profileKind = 0;
-    EXPECT_TRUE(PDECommon::commonGetTicketAddedProfileFlag(
-                    &plain, PDECommon::commonGetModelDictionary(&ticket, &session))
-                    .isNone());
+    EXPECT_TRUE(
+        PDECommon::commonGetTicketAddedProfileFlag(&plain, PDECommon::commonGetModelDictionary(&ticket, &session))
+            .isNone());
 }
 
 TEST(DevicePath, IsEncodedHalfByteByHalfByte)

@@ -8,6 +8,7 @@
 #include <expat.h>
 #include <gtest/gtest.h>
 #include <map>
+#include <plist/plist.h>
 #include <sys/stat.h>
 
 namespace {
@@ -72,6 +73,20 @@ bool isWellFormed(const std::string &xml)
     const bool fine = XML_Parse(parser, xml.data(), static_cast<int>(xml.size()), 1) == XML_STATUS_OK;
     XML_ParserFree(parser);
     return fine;
+}
+
+// The same list in the binary form.
+std::string binaryList(const std::string &xml)
+{
+    plist_t node = nullptr;
+    plist_from_xml(xml.data(), static_cast<uint32_t>(xml.size()), &node);
+    char *bytes = nullptr;
+    uint32_t length = 0;
+    plist_to_bin(node, &bytes, &length);
+    std::string binary(bytes, length);
+    plist_to_bin_free(bytes);
+    plist_free(node);
+    return binary;
 }
 
 class ListFile : public testing::Test
@@ -364,7 +379,7 @@ TEST_F(ListFile, DamagedAndHostileTextsAreUnreadable)
     const std::pair<const char *, std::string> rows[] = {
         {"empty", ""},
         {"blanks", " \n"},
-        {"binary", std::string("bplist00\xD1\x01\x02QaQb\x08\x0B\x0D\0\0\0\0\0\0\x01\x01\0\0\0\0\0\0\0\x03", 38)},
+        {"binary", binaryList(good)},
         {"plain text", "not a list"},
         {"root is an array", list("<array/>")},
         {"NUL in a string", list(dict(entry("a", "<string>x" + std::string(1, '\0') + "</string>")))},
@@ -388,6 +403,27 @@ TEST_F(ListFile, DamagedAndHostileTextsAreUnreadable)
     TestRoot::writeList(good);
     std::filesystem::resize_file(TestRoot::listFile(), 100'000'000);
     expectUnreadable("100 MB");
+}
+
+// The seeds of the fuzz targets, among them whatever once broke a reader.
+TEST_F(ListFile, EverySeedIsReadOrRefusedAndWhatWasReadCanBeWritten)
+{
+    size_t readable = 0;
+    size_t seeds = 0;
+    for (const auto &seed : std::filesystem::directory_iterator(path(BV_SOURCE_DIR) / "fuzz/seeds")) {
+        TestRoot::writeList(TestRoot::readFile(seed.path()));
+        *m_lists = Lists{};
+        ++seeds;
+        if (read() != 0)
+            continue;
+        ++readable;
+        const auto xml = bv::profileListXml(m_lists->rgb, m_lists->sim, m_lists->dst);
+        ASSERT_TRUE(xml) << seed.path();
+        EXPECT_TRUE(isWellFormed(*xml)) << seed.path();
+        EXPECT_TRUE(bv::isCompleteProfileList(*xml)) << seed.path();
+    }
+    EXPECT_GE(readable, 9u);
+    EXPECT_GT(seeds, readable);
 }
 
 TEST_F(ListFile, AFileCutAtAnyByteIsUnreadable)

@@ -2,7 +2,6 @@
 // dialog's callback, all as plain values.
 #pragma once
 
-#include "common/PDECommon.h"
 #include "platform/HostProtocol.h"
 
 #include <QFile>

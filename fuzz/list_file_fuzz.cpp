@@ -1,0 +1,45 @@
+// Reads any bytes as a list file. What could be read keeps its promises, and writing and reading it again changes
+// nothing more than the texts that no file can carry.
+#include "profiles/ProfileListFile.h"
+
+#include <cstdlib>
+#include <cstring>
+
+namespace {
+
+ProfileList lists[3];
+ProfileList again[3];
+
+void require(bool holds)
+{
+    if (!holds)
+        std::abort();
+}
+
+std::string readAndWrite(std::string_view xml, ProfileList (&into)[3])
+{
+    std::memset(into, 0, sizeof into);
+    require(bv::readLists(bv::PropertyList::fromXml(xml), &into[0], &into[1], &into[2]) == 0);
+    return bv::profileListXml(into[0], into[1], into[2]).value();
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const std::string_view text(reinterpret_cast<const char *>(data), size);
+    const bool complete = bv::isCompleteProfileList(text);
+    std::memset(lists, 0, sizeof lists);
+    const bool read = bv::readLists(bv::PropertyList::fromXml(text), &lists[0], &lists[1], &lists[2]) == 0;
+    require(complete == read);
+    if (!read)
+        return 0;
+    for (const ProfileList &list : lists) {
+        require(list.count >= 0 && list.count <= kProfileSlots);
+        for (const ProfileRecord &record : list.records)
+            require(record.FileName[31] == '\0' && record.ProfileName[31] == '\0');
+    }
+    const std::string first = bv::profileListXml(lists[0], lists[1], lists[2]).value();
+    require(readAndWrite(first, again) == readAndWrite(readAndWrite(first, again), again));
+    return 0;
+}

@@ -1,0 +1,56 @@
+// The printer's rule for profile file names.
+#include "discovery/FileNameRule.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+struct NameCase
+{
+    std::string name;
+    bool accepted;
+};
+
+TEST(FileNameRule, JudgesStemAndExtension)
+{
+    const std::string stem27(27, 's');
+    const NameCase cases[] = {
+        {"PROFILE1.ICC", true},
+        {"a.b", true},
+        {"name.", true},
+        {"a.b.c", true},
+        {"a.b.cd", false},
+        {"noextension", true},
+        {stem27, true},
+        {stem27 + "s", false},
+        {stem27 + ".icc", true},
+        {stem27 + "s.icc", false},
+        {"x.icc4", false},
+        {".icc", false},
+        {"", false},
+        {".", false},
+        {"a b.icc", false},
+        {"a@b.icc", false},
+        {"a..", true},
+        {"a....", true},
+        {"a.....", false},
+        {"é.icc", false},
+        {std::string("a\0b", 3), false},
+    };
+    for (const NameCase &row : cases)
+        EXPECT_EQ(bJudgement8point3Format(row.name), row.accepted) << row.name;
+    EXPECT_FALSE(bJudgement8point3Format({})) << "a missing text";
+}
+
+TEST(FileNameRule, AcceptsExactlyTheseCharacters)
+{
+    const std::string accepted = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789!#$%&'()-.^_{}~`";
+    for (int code = 0; code < 256; ++code) {
+        const char character = static_cast<char>(code);
+        EXPECT_EQ(FileNameFilter(character), accepted.find(character) != std::string::npos) << code;
+    }
+}
+
+} // namespace

@@ -1,0 +1,194 @@
+// The refresh: what the helper is asked, and the whole way from a queue to the list file.
+#include "platform/ClassNames.h"
+
+#include "common/PDECommon.h"
+
+#include "support/ListRoot.h"
+
+#include "platform/UserName.h"
+#include "profiles/ProfileOperations.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <fstream>
+#include <sstream>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class LpdSession : public bv::PrintSession, public bv::Printer
+{
+public:
+    explicit LpdSession(QString uri) : m_uri(std::move(uri)) {}
+    const bv::Printer *currentPrinter() const override { return this; }
+    bv::PrintValue data(const QString & /*key*/) const override { return {}; }
+    QString identifier() const override { return QStringLiteral("QL70"); }
+    std::optional<QString> deviceUri() const override { return m_uri; }
+
+private:
+    QString m_uri;
+};
+
+// Answers every request and keeps it.
+class RecordingHelper : public bv::HelperTransport
+{
+public:
+    explicit RecordingHelper(std::optional<std::string> walkAnswer) : m_walkAnswer(std::move(walkAnswer))
+    {
+        m_before = bv::setHelperTransport(this);
+    }
+    ~RecordingHelper() override { bv::setHelperTransport(m_before); }
+
+    bool available() override { return m_available; }
+    std::optional<std::string> run(std::string_view request, std::span<const std::string> arguments) override
+    {
+        std::string line(request);
+        for (const std::string &argument : arguments)
+            line += ' ' + argument;
+        m_requests.push_back(line);
+        return request == "mibwalk_XPC" ? m_walkAnswer : std::string(request) + "=TRUE\n";
+    }
+
+    bool m_available = true;
+    std::vector<std::string> m_requests;
+
+private:
+    std::optional<std::string> m_walkAnswer;
+    bv::HelperTransport *m_before;
+};
+
+// What the diagnostic log says about a refresh of a queue.
+std::string logOfRefresh(const char *uri)
+{
+    setenv("BVCO_LOG", "stderr", 1);
+    testing::internal::CaptureStderr();
+    LpdSession session(QString::fromUtf8(uri));
+    EXPECT_EQ(PDECommon::commonGetProfilesFromMIB(&session), 0);
+    return testing::internal::GetCapturedStderr();
+}
+
+TEST(ProfileRefresh, SendsExactlyTheWalkRequestAfterTheSwap)
+{
+    RecordingHelper helper("mibwalk_XPC=iRet=0\n");
+    LpdSession session(QStringLiteral("lpd://user@10.0.0.7:515/queue"));
+    EXPECT_EQ(PDECommon::commonGetProfilesFromMIB(&session), 0);
+    ASSERT_EQ(helper.m_requests.size(), 3U);
+    EXPECT_THAT(helper.m_requests[1], testing::StartsWith("bvPListSwapProfile_XPC 2 /Library/Printers/"));
+    EXPECT_EQ(helper.m_requests[2], "mibwalk_XPC QL70 " + bv::loginName() +
+                                        " snmpwalk -Os -c mirror -v 1 10.0.0.7 1.3.6.1.4.1.39847.1.1.1.1.6.13.1.1");
+}
+
+TEST(ProfileRefresh, WithoutAHostThereIsOnlyTheSwap)
+{
+    for (const char *uri : {"usb://BREVANE/QL70", "lpd:///q", "lpd://-Lfname/q", "ipp://printer/ipp"}) {
+        RecordingHelper helper("mibwalk_XPC=iRet=0\n");
+        EXPECT_THAT(logOfRefresh(uri), HasSubstr("Device address: ")) << uri;
+        EXPECT_EQ(helper.m_requests.size(), 2U) << uri;
+    }
+    RecordingHelper helper("mibwalk_XPC=iRet=0\n");
+    EXPECT_EQ(PDECommon::commonGetProfilesFromMIB(nullptr), 0);
+    EXPECT_EQ(helper.m_requests.size(), 2U);
+}
+
+TEST(ProfileRefresh, EveryOutcomeIsSilentAndLeavesOneLineInTheLog)
+{
+    const std::pair<std::optional<std::string>, const char *> cases[] = {
+        {"mibwalk_XPC=iRet=0\n", "Profile refresh: the walk ended with 0\n"},
+        {"a value\nmibwalk_XPC=iRet=-3\n", "Profile refresh: the walk ended with -3\n"},
+        {"mibwalk_XPC=iRet=x", "Profile refresh: the walk ended with 0\n"},
+        {"mibwalk_XPC=FALSE\n", "Profile refresh: the helper gave no result\n"},
+        {"", "Profile refresh: the helper gave no result\n"},
+        {std::nullopt, "Profile refresh: the helper gave no result\n"},
+    };
+    for (const auto &[answer, line] : cases) {
+        RecordingHelper helper(answer);
+        EXPECT_THAT(logOfRefresh("lpd://10.0.0.7/q"), testing::EndsWith(line));
+    }
+    RecordingHelper missing(std::nullopt);
+    missing.m_available = false;
+    EXPECT_THAT(logOfRefresh("lpd://10.0.0.7/q"), testing::EndsWith("Profile refresh: no helper\n"));
+    EXPECT_THAT(missing.m_requests, IsEmpty());
+}
+
+// ---- With the real helper and a simulated printer ----
+
+class WholeRefresh : public testing::Test
+{
+protected:
+    void configure(long port)
+    {
+        m_root.folder().write("snmp/snmp.conf", "timeout 1\nretries 0\ndefaultPort " + std::to_string(port) + "\n");
+        setenv("SNMPCONFPATH", m_root.folder().file("snmp").c_str(), 1);
+    }
+
+    static void refresh()
+    {
+        LpdSession session(QStringLiteral("lpd://127.0.0.1:515/queue"));
+        EXPECT_EQ(PDECommon::commonGetProfilesFromMIB(&session), 0);
+    }
+
+    // File names of the RGB list with their states.
+    static std::vector<std::string> rgbList()
+    {
+        auto rgb = std::make_unique<ProfileList>();
+        auto sim = std::make_unique<ProfileList>();
+        auto dst = std::make_unique<ProfileList>();
+        EXPECT_EQ(BVPListReadProfile_All(rgb.get(), sim.get(), dst.get()), 0);
+        std::vector<std::string> names;
+        for (int slot = 0; slot < rgb->count; ++slot)
+            names.push_back(std::string(bv::fieldText(rgb->records[slot].FileName)) + '=' +
+                            std::to_string(rgb->records[slot].InMenu));
+        return names;
+    }
+
+    static std::string contents(const std::string &path)
+    {
+        std::ostringstream text;
+        text << std::ifstream(path).rdbuf();
+        return text.str();
+    }
+
+    bv::test::ListRoot m_root;
+};
+
+TEST_F(WholeRefresh, TheListFollowsThePrinter)
+{
+    const std::string list = m_root.folder().write("list", "1 disk ONE.ICC One 1 1\n2 disk TWO.ICC Two 1 1\n");
+    bv::test::ProgramUnderTest printer({BV_BUILD_DIR "/bin/ql70sim", "--port", "0", "--profiles", list});
+    ASSERT_TRUE(printer.waitFor("ready on"));
+    configure(printer.numberBehind(" port "));
+
+    refresh();
+    EXPECT_THAT(rgbList(), ElementsAre("ONE.ICC=2", "TWO.ICC=2"));
+    EXPECT_FALSE(std::filesystem::exists(m_root.previousFile())) << "there was nothing to keep before";
+    const std::string first = contents(m_root.currentFile());
+
+    m_root.folder().write("list", "1 card THREE.ICC Three 2 1\n2 disk TWO.ICC Two 1 1\n");
+    printer.signal(SIGHUP);
+    ASSERT_TRUE(printer.waitFor("list read again"));
+    refresh();
+    EXPECT_THAT(rgbList(), ElementsAre("ONE.ICC=1", "TWO.ICC=2", "THREE.ICC=2"));
+    EXPECT_EQ(contents(m_root.previousFile()), first);
+
+    EXPECT_EQ(printer.stop(), 0);
+    refresh();
+    EXPECT_THAT(rgbList(), IsEmpty()) << "profiles that nobody put into a menu go when the printer does not answer";
+}
+
+TEST_F(WholeRefresh, NothingThePrinterSendsBreaksTheFile)
+{
+    bv::test::ProgramUnderTest printer({BV_BUILD_DIR "/bin/ql70sim", "--port", "0", "--fault", "odd-texts"});
+    ASSERT_TRUE(printer.waitFor("ready on"));
+    configure(printer.numberBehind(" port "));
+    refresh();
+    // The one name of the eight that the rule takes: "D" before its zero byte, of class 2.
+    EXPECT_THAT(rgbList(), testing::Contains("D=2"));
+    EXPECT_EQ(printer.stop(), 0);
+}
+
+} // namespace

@@ -1,0 +1,116 @@
+// The spool's storing rules, cell by cell.
+#include "discovery/ProfileSpool.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string>
+#include <vector>
+
+namespace {
+
+// A variable as the library hands it out, with the storage of its value.
+class Variable
+{
+public:
+    explicit Variable(long number) : m_number(number)
+    {
+        m_variable.type = ASN_INTEGER;
+        m_variable.val.integer = &m_number;
+        m_variable.val_len = sizeof(m_number);
+    }
+    explicit Variable(std::string text) : m_text(std::move(text))
+    {
+        m_variable.type = ASN_OCTET_STR;
+        m_variable.val.string = reinterpret_cast<u_char *>(m_text.data());
+        m_variable.val_len = m_text.size();
+    }
+    Variable(const Variable &) = delete;
+    Variable &operator=(const Variable &) = delete;
+    const netsnmp_variable_list *get() const { return &m_variable; }
+
+private:
+    long m_number = 0;
+    std::string m_text;
+    netsnmp_variable_list m_variable{};
+};
+
+std::vector<oid> cell(oid column, std::initializer_list<oid> index)
+{
+    std::vector<oid> name(bv::kProfileEntryOid.begin(), bv::kProfileEntryOid.end());
+    name.push_back(column);
+    name.insert(name.end(), index);
+    return name;
+}
+
+template <typename Value> void spool(const std::vector<oid> &name, Value value)
+{
+    const Variable variable(value);
+    vSpoolPlist(name.data(), name.size(), variable.get(), 0);
+}
+
+class ProfileSpool : public testing::Test
+{
+protected:
+    ProfileSpool() { vSpoolPlist(nullptr, 0, nullptr, 1); }
+    static const ProfileRecord &row(int number) { return PlistForSpool.records[number - 1]; }
+    static std::string raw(const char (&field)[kProfileTextBytes]) { return {field, sizeof(field)}; }
+};
+
+TEST_F(ProfileSpool, AShorterTextLeavesTheOldTail)
+{
+    spool(cell(4, {1, 1}), std::string("LONGNAME.ICC"));
+    spool(cell(4, {1, 1}), std::string("AB"));
+    EXPECT_EQ(bv::fieldText(row(1).FileName), "ABNGNAME.ICC");
+}
+
+TEST_F(ProfileSpool, ATextOf32BytesFillsTheFieldAndNothingMore)
+{
+    spool(cell(5, {1, 1}), 3L);
+    spool(cell(3, {1, 1}), std::string(40, 'x'));
+    spool(cell(4, {1, 1}), std::string(33, 'y'));
+    EXPECT_EQ(raw(row(1).ProfileName), std::string(32, 'x'));
+    EXPECT_EQ(raw(row(1).FileName), std::string(32, 'y'));
+    EXPECT_EQ(row(1).Location, 0);
+    EXPECT_EQ(row(1).ProfileClass, 3);
+}
+
+TEST_F(ProfileSpool, OnlyColumnOneCountsAndItCountsTwice)
+{
+    for (int i = 0; i < 3; ++i)
+        spool(cell(1, {1, 7}), 42L);
+    spool(cell(2, {1, 8}), 4L);
+    EXPECT_EQ(PlistForSpool.count, 3);
+    EXPECT_EQ(row(7).IndexOnDevice, 42);
+    for (int i = 0; i < 600; ++i)
+        spool(cell(1, {1, 1}), 1L);
+    EXPECT_EQ(PlistForSpool.count, 603);
+}
+
+TEST_F(ProfileSpool, TheEighteenthSubIdentifierIsTheRow)
+{
+    spool(cell(1, {99, 500}), 1L);
+    EXPECT_EQ(row(500).IndexOnDevice, 1) << "the first index is not looked at";
+    spool(cell(1, {1, 2, 3}), 5L);
+    EXPECT_EQ(row(2).IndexOnDevice, 5) << "nor is what stands behind the second";
+    const ProfileList before = PlistForSpool;
+    for (const std::vector<oid> &name : {cell(1, {}), cell(1, {1}), cell(1, {1, 0}), cell(1, {1, 501}),
+                                         cell(1, {1, 0xffffffff}), cell(6, {1, 1}), cell(8, {1, 1}), cell(0, {1, 1})})
+        spool(name, 9L);
+    std::vector<oid> elsewhere = cell(1, {1, 1});
+    elsewhere[6] = 39848;
+    spool(elsewhere, 9L);
+    EXPECT_EQ(std::memcmp(&before, &PlistForSpool, sizeof(before)), 0);
+}
+
+TEST_F(ProfileSpool, AValueOfAnotherTypeIsIgnored)
+{
+    for (const oid column : {1, 2, 5, 7})
+        spool(cell(column, {1, 1}), std::string("1"));
+    for (const oid column : {3, 4})
+        spool(cell(column, {1, 1}), 1L);
+    EXPECT_EQ(PlistForSpool.count, 0);
+    EXPECT_EQ(std::memcmp(&row(1), &row(2), sizeof(ProfileRecord)), 0);
+}
+
+} // namespace

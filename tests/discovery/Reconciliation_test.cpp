@@ -1,0 +1,262 @@
+// The merge of a walk's rows into the stored lists, on list files of the test's own.
+#include "discovery/Reconciliation.h"
+
+#include "support/ListRoot.h"
+
+#include "discovery/ProfileSpool.h"
+#include "profiles/ProfileOperations.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+ProfileRecord record(int32_t index, int32_t inMenu, std::string_view fileName, int32_t location = kLocationDisk,
+                     int32_t profileClass = 1)
+{
+    ProfileRecord made{};
+    made.IndexOnDevice = index;
+    made.InMenu = inMenu;
+    made.ProfileClass = profileClass;
+    made.Location = location;
+    bv::setFieldText(made.FileName, fileName);
+    bv::setFieldText(made.ProfileName, "stored");
+    return made;
+}
+
+void fill(ProfileList *list, std::initializer_list<ProfileRecord> records)
+{
+    *list = {};
+    std::copy(records.begin(), records.end(), list->records);
+    list->count = static_cast<int32_t>(records.size());
+}
+
+void spoolRows(std::initializer_list<ProfileRecord> rows)
+{
+    fill(&PlistForSpool, rows);
+}
+
+// The records in use as "file name/location=state".
+std::vector<std::string> shown(const ProfileList &list)
+{
+    std::vector<std::string> texts;
+    for (const ProfileRecord &row : list.records) {
+        if (row.InMenu != 0 || !bv::fieldText(row.FileName).empty())
+            texts.push_back(std::string(bv::fieldText(row.FileName)) + '/' + std::to_string(row.Location) + '=' +
+                            std::to_string(row.InMenu));
+    }
+    return texts;
+}
+
+// ---- One list in memory ----
+
+TEST(Reconciliation, MarksStoredProfilesBeforeTheMerge)
+{
+    const auto list = std::make_unique<ProfileList>();
+    const auto states = [&list](int32_t status) {
+        fill(list.get(), {});
+        for (int32_t state = 0; state <= 6; ++state)
+            list->records[state == 6 ? kProfileSlots - 1 : state].InMenu = state;
+        list->count = 3;
+        vDeleteMIBprofilesTemporary(status, list.get());
+        EXPECT_EQ(list->count, 3);
+        std::vector<int32_t> after;
+        for (int32_t state = 0; state <= 6; ++state)
+            after.push_back(list->records[state == 6 ? kProfileSlots - 1 : state].InMenu);
+        return after;
+    };
+    EXPECT_THAT(states(0), ElementsAre(0, 1, 1, 3, 3, 5, 6));
+    EXPECT_THAT(states(1), ElementsAre(0, 0, 0, 3, 6, 5, 6));
+    EXPECT_THAT(states(2), ElementsAre(0, 0, 0, 3, 6, 5, 6));
+}
+
+TEST(Reconciliation, ADroppedRecordKeepsItsOtherFields)
+{
+    const auto list = std::make_unique<ProfileList>();
+    fill(list.get(), {record(3, 2, "A.ICC")});
+    vDeleteMIBprofilesTemporary(1, list.get());
+    EXPECT_EQ(bv::fieldText(list->records[0].FileName), "A.ICC");
+    EXPECT_EQ(list->records[0].IndexOnDevice, 3);
+}
+
+TEST(Reconciliation, AMatchChangesTheStateAlone)
+{
+    const auto list = std::make_unique<ProfileList>();
+    const int32_t after[] = {0, 2, 2, 4, 4, 2, 4};
+    for (int32_t state = 0; state <= 6; ++state) {
+        fill(list.get(), {record(1, state, "A.ICC")});
+        ProfileRecord row = record(9, 0, "A.ICC", kLocationDisk, 2);
+        bv::setFieldText(row.ProfileName, "reported");
+        spoolRows({row});
+        vRestructDetail(0, list.get());
+        EXPECT_EQ(list->records[0].InMenu, after[state]) << state;
+        EXPECT_EQ(list->records[0].IndexOnDevice, 1);
+        EXPECT_EQ(bv::fieldText(list->records[0].ProfileName), "stored");
+        EXPECT_EQ(list->records[1].FileName[0], '\0') << "nothing is added, for a covered slot in state 0 either";
+    }
+}
+
+TEST(Reconciliation, WhatDoesNotMatchIsAddedInTheFirstFreeSlot)
+{
+    const auto list = std::make_unique<ProfileList>();
+    fill(list.get(), {record(1, 1, "A.ICC"), record(0, 0, ""), record(2, 5, "B.ICC")});
+    ProfileRecord row = record(9, 0, "A.ICC", kLocationCard, 3);
+    row.Availability = 1;
+    spoolRows({row, record(9, 0, "B.ICC"), record(9, 0, "A.ICC", kLocationCard)});
+    for (int32_t number = 0; number < 3; ++number)
+        vRestructDetail(number, list.get());
+    EXPECT_THAT(shown(*list), ElementsAre("A.ICC/4=1", "A.ICC/5=2", "B.ICC/4=2"))
+        << "another location is another profile; the third row matches what the first added";
+    EXPECT_EQ(list->count, 4);
+    row.InMenu = 2;
+    EXPECT_EQ(std::memcmp(&list->records[1], &row, sizeof(row)), 0) << "all seven fields are copied";
+}
+
+TEST(Reconciliation, NamesAreComparedOverTheWholeField)
+{
+    const auto list = std::make_unique<ProfileList>();
+    fill(list.get(), {record(1, 1, "A.ICC")});
+    list->records[0].FileName[20] = 'x'; // behind the NUL
+    spoolRows({record(2, 0, "A.ICC")});
+    vRestructDetail(0, list.get());
+    EXPECT_THAT(shown(*list), ElementsAre("A.ICC/4=1", "A.ICC/4=2"));
+}
+
+TEST(Reconciliation, CountsOutOfRangeAndFullListsAreSafe)
+{
+    const auto list = std::make_unique<ProfileList>();
+    for (const int32_t count : {-5, 0}) {
+        fill(list.get(), {record(1, 1, "A.ICC")});
+        list->count = count;
+        spoolRows({record(2, 0, "A.ICC")});
+        vRestructDetail(0, list.get());
+        EXPECT_EQ(list->records[0].InMenu, 1) << "no slot is covered by the count, so nothing matches";
+        EXPECT_EQ(list->records[1].InMenu, 2);
+        EXPECT_EQ(list->count, count + 1);
+    }
+    for (ProfileRecord &slot : list->records)
+        slot = record(1, 6, "FULL.ICC");
+    for (const int32_t count : {500, 100000}) {
+        list->count = count;
+        vRestructDetail(0, list.get());
+        EXPECT_EQ(list->count, count);
+    }
+    EXPECT_EQ(list->records[499].InMenu, 6);
+}
+
+// ---- The three lists through their file ----
+
+class ReconciliationOfFile : public testing::Test
+{
+protected:
+    struct Lists
+    {
+        ProfileList rgb, sim, dst;
+    };
+
+    void store(const Lists &lists) { ASSERT_EQ(BVPListWriteProfile_All(&lists.rgb, &lists.sim, &lists.dst), 0); }
+
+    std::unique_ptr<Lists> reconciled(int32_t status)
+    {
+        EXPECT_EQ(vRestructPlistSpool2Current(status), 0);
+        auto lists = std::make_unique<Lists>();
+        EXPECT_EQ(BVPListReadProfile_All(&lists->rgb, &lists->sim, &lists->dst), 0);
+        return lists;
+    }
+
+    bv::test::ListRoot m_root;
+    std::unique_ptr<Lists> m_stored = std::make_unique<Lists>();
+};
+
+TEST_F(ReconciliationOfFile, AGoodWalkMarksWhatIsThereAndWhatIsNot)
+{
+    fill(&m_stored->rgb,
+         {record(1, 1, "NOT1.ICC"), record(2, 2, "NOT2.ICC"), record(3, 4, "NOT4.ICC"), record(4, 6, "USER.ICC"),
+          record(5, 1, "IS1.ICC"), record(6, 4, "IS4.ICC"), record(7, 5, "IS5.ICC"), record(8, 6, "IS6.ICC")});
+    store(*m_stored);
+    spoolRows({record(11, 0, "IS1.ICC"), record(12, 0, "IS4.ICC"), record(13, 0, "IS5.ICC"), record(14, 0, "IS6.ICC"),
+               record(15, 0, "NEW.ICC", kLocationCard, 2), record(16, 0, "SIMDST.ICC", kLocationDisk, 3)});
+    const auto lists = reconciled(0);
+    EXPECT_THAT(shown(lists->rgb),
+                ElementsAre("NOT1.ICC/4=1", "NOT2.ICC/4=1", "NOT4.ICC/4=6", "USER.ICC/4=6", "IS1.ICC/4=2",
+                            "IS4.ICC/4=4", "IS5.ICC/4=2", "IS6.ICC/4=4", "NEW.ICC/5=2"));
+    EXPECT_EQ(lists->rgb.count, 9);
+    EXPECT_THAT(shown(lists->sim), ElementsAre("SIMDST.ICC/4=2"));
+    EXPECT_THAT(shown(lists->dst), ElementsAre("SIMDST.ICC/4=2"));
+}
+
+TEST_F(ReconciliationOfFile, AFailedWalkKeepsMenuProfilesAsUserEntries)
+{
+    fill(&m_stored->rgb, {record(1, 1, "NOT1.ICC"), record(2, 4, "MENU.ICC"), record(3, 5, "OWN.ICC")});
+    fill(&m_stored->sim, {record(2, 2, "GONE.ICC", kLocationDisk, 3)});
+    store(*m_stored);
+    spoolRows({record(11, 0, "ARRIVED.ICC")});
+    const auto lists = reconciled(1);
+    EXPECT_THAT(shown(lists->rgb), ElementsAre("ARRIVED.ICC/4=2", "MENU.ICC/4=6", "OWN.ICC/4=5"))
+        << "what came before the failure is merged";
+    EXPECT_THAT(shown(lists->sim), IsEmpty());
+}
+
+TEST_F(ReconciliationOfFile, EachListDecidesForItself)
+{
+    fill(&m_stored->sim, {record(1, 4, "BOTH.ICC", kLocationDisk, 3)});
+    store(*m_stored);
+    spoolRows({record(2, 0, "BOTH.ICC", kLocationDisk, 3)});
+    const auto lists = reconciled(0);
+    EXPECT_THAT(shown(lists->sim), ElementsAre("BOTH.ICC/4=4"));
+    EXPECT_THAT(shown(lists->dst), ElementsAre("BOTH.ICC/4=2"));
+}
+
+TEST_F(ReconciliationOfFile, RowsThatAreNotKept)
+{
+    spoolRows({record(1, 0, "X.ICC", 3), record(2, 0, "X.ICC", 6), record(3, 0, "X.ICC", kLocationDisk, 0),
+               record(4, 0, "X.ICC", kLocationDisk, 4), record(5, 0, "bad name.icc"), record(6, 0, ""),
+               record(7, 0, "LONG.ICC8")});
+    // A name of 32 bytes has no NUL in its field; it is too long for the rule.
+    std::fill_n(PlistForSpool.records[5].FileName, kProfileTextBytes, 'L');
+    PlistForSpool.count = 100000;
+    const auto lists = reconciled(0);
+    EXPECT_THAT(shown(lists->rgb), IsEmpty());
+    EXPECT_THAT(shown(lists->sim), IsEmpty());
+    EXPECT_THAT(shown(lists->dst), IsEmpty());
+}
+
+// A record with a name that the rule refuses leaves a hole. In the RGB list the hole is closed before the merge; in the
+// other lists it stays, the count covers one slot less, and the last record is not found again.
+TEST_F(ReconciliationOfFile, OnlyTheRgbListIsPackedBeforeTheMerge)
+{
+    const ProfileRecord last = record(2, 4, "LAST.ICC", kLocationDisk, 3);
+    fill(&m_stored->rgb, {record(1, 6, "bad name.icc"), last});
+    fill(&m_stored->sim, {record(1, 6, "bad name.icc"), last});
+    store(*m_stored);
+    spoolRows({record(9, 0, "LAST.ICC", kLocationDisk, 3), record(9, 0, "LAST.ICC", kLocationDisk, 1)});
+    const auto lists = reconciled(0);
+    EXPECT_THAT(shown(lists->rgb), ElementsAre("LAST.ICC/4=4"));
+    EXPECT_THAT(shown(lists->sim), ElementsAre("LAST.ICC/4=2", "LAST.ICC/4=6"));
+}
+
+TEST_F(ReconciliationOfFile, RecordsWithoutADeviceIndexAreCleanedAway)
+{
+    fill(&m_stored->rgb, {record(0, 6, "USER.ICC"), record(0, 4, "MENU.ICC"), record(3, 6, "KEPT.ICC")});
+    store(*m_stored);
+    spoolRows({});
+    const auto lists = reconciled(0);
+    EXPECT_THAT(shown(lists->rgb), ElementsAre("MENU.ICC/4=6", "KEPT.ICC/4=6"));
+    EXPECT_EQ(lists->rgb.records[0].IndexOnDevice, 501);
+}
+
+TEST_F(ReconciliationOfFile, AListThatCannotBeReadStartsEmpty)
+{
+    m_root.folder().write(bv::profilePaths().current.substr(1), "<plist>broken");
+    spoolRows({record(1, 0, "NEW.ICC")});
+    EXPECT_THAT(shown(reconciled(0)->rgb), ElementsAre("NEW.ICC/4=2"));
+}
+
+} // namespace

@@ -1,0 +1,110 @@
+// Bonjour for real: publishes services by the Avahi daemon of this network namespace, resolves them, and walks a
+// printer that one of them names. To be run by in_bonjour_namespace.sh.
+#include "platform/ClassNames.h"
+
+#include "common/PDECommon.h"
+
+#include "support/ListRoot.h"
+
+#include "discovery/DeviceAddress.h"
+#include "profiles/ProfileOperations.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QUrl>
+#include <chrono>
+#include <cstdio>
+
+namespace {
+
+using bv::test::ProgramUnderTest;
+using testing::Eq;
+using testing::Optional;
+
+constexpr char kAddress[] = "10.99.0.1";
+
+class Publisher
+{
+public:
+    explicit Publisher(const std::string &name)
+        : m_program({"avahi-publish", "-s", name, "_pdl-datastream._tcp", "9100", "txtvers=1"})
+    {
+        EXPECT_TRUE(m_program.waitFor("Established")) << m_program.output();
+    }
+
+private:
+    ProgramUnderTest m_program;
+};
+
+// A URI as the print server writes it: all that is no letter or digit of the name is escaped, dots too.
+QString uriOf(const std::string &name)
+{
+    QByteArray host = QUrl::toPercentEncoding(QString::fromStdString(name));
+    host.replace('.', "%2E");
+    return QStringLiteral("dnssd://%1._pdl-datastream._tcp.local./?uuid=1").arg(QString::fromLatin1(host));
+}
+
+class BonjourSession : public bv::PrintSession, public bv::Printer
+{
+public:
+    explicit BonjourSession(QString uri) : m_uri(std::move(uri)) {}
+    const bv::Printer *currentPrinter() const override { return this; }
+    bv::PrintValue data(const QString & /*key*/) const override { return {}; }
+    QString identifier() const override { return QStringLiteral("QL70"); }
+    std::optional<QString> deviceUri() const override { return m_uri; }
+
+private:
+    QString m_uri;
+};
+
+TEST(Bonjour, ResolvesNamesOfEveryKind)
+{
+    for (const char *name : {"QL70", "QL 70 (é) lab", "QL70 rev. 1.2", "100% \"color\" / プリンタ"}) {
+        const Publisher publisher(name);
+        EXPECT_THAT(bv::walkHost(uriOf(name)), Optional(Eq(kAddress))) << name;
+    }
+}
+
+TEST(Bonjour, ADotThatIsNotEscapedShiftsTheComponents)
+{
+    const Publisher publisher("QL.70");
+    EXPECT_EQ(bv::walkHost(QStringLiteral("dnssd://QL.70._pdl-datastream._tcp.local./")), std::nullopt);
+    EXPECT_THAT(bv::walkHost(uriOf("QL.70")), Optional(Eq(kAddress)));
+}
+
+TEST(Bonjour, ANameThatIsNotThereEndsAtTheLimit)
+{
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_EQ(bv::walkHost(uriOf("nobody")), std::nullopt);
+    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - begin;
+    std::printf("an unknown name took %.3f s\n", taken.count());
+}
+
+TEST(Bonjour, NamesThatCannotBeServicesAreRefused)
+{
+    EXPECT_EQ(bv::walkHost(QStringLiteral("dnssd://._pdl-datastream._tcp.local./")), std::nullopt);
+    EXPECT_EQ(bv::walkHost(QStringLiteral("dnssd://x.nonsense.type.local./")), std::nullopt);
+    EXPECT_EQ(bv::walkHost(uriOf(std::string(200, 'x'))), std::nullopt);
+}
+
+TEST(Bonjour, TheRefreshReachesThePrinterBehindTheName)
+{
+    const bv::test::ListRoot root;
+    root.folder().write("snmp/snmp.conf", ""); // the library's own port: here it may be opened
+    setenv("SNMPCONFPATH", root.folder().file("snmp").c_str(), 1);
+    ProgramUnderTest printer({BV_BUILD_DIR "/bin/ql70sim", "--port", "161", "--address", kAddress, "--count"});
+    ASSERT_TRUE(printer.waitFor("ready on")) << printer.output();
+    const Publisher publisher("QL70 walk");
+    BonjourSession session(uriOf("QL70 walk"));
+    EXPECT_EQ(PDECommon::commonGetProfilesFromMIB(&session), 0);
+    auto lists = std::make_unique<ProfileList[]>(3);
+    EXPECT_EQ(BVPListReadProfile_All(&lists[0], &lists[1], &lists[2]), 0);
+    EXPECT_EQ(lists[kProfileRGB].count, 4);
+    EXPECT_EQ(lists[kProfileSIM].count, 3);
+    EXPECT_EQ(lists[kProfileDST].count, 3);
+    EXPECT_EQ(printer.stop(), 0);
+    EXPECT_EQ(printer.numberBehind("requests="), 50);
+}
+
+} // namespace

@@ -1,0 +1,223 @@
+// Runs the built helper as a child of the test, in a root of its own.
+#include "helper/HelperFixture.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <grp.h>
+#include <poll.h>
+#include <pwd.h>
+#include <sstream>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace bvtest {
+
+namespace {
+
+constexpr char kFolder[] = "/Library/Printers/BREVANE/Preferences/vnd.brevane.printers.QL70";
+constexpr char kHelper[] = BV_BUILD_DIR "/bin/QL70Helper";
+constexpr gid_t kSharedGroup = 60007; // of the folder, and of every user that a test becomes
+
+std::string ownLogin()
+{
+    const passwd *entry = getpwuid(getuid());
+    return entry ? entry->pw_name : "";
+}
+
+[[noreturn]] void becomeHelper(const std::vector<std::string> &arguments, const RunOptions &options,
+                               const std::string &root, std::array<int, 2> output)
+{
+    dup2(output[0], STDOUT_FILENO);
+    dup2(output[1], STDERR_FILENO);
+    if (options.user && (setgroups(1, &kSharedGroup) != 0 || setgid(kSharedGroup) != 0 || setuid(*options.user) != 0))
+        _exit(99);
+    setenv("BVCO_ROOT", root.c_str(), 1);
+    for (const auto &[name, value] : options.environment)
+        setenv(name.c_str(), value.c_str(), 1);
+    if (options.onlyStandardOutput) {
+        close(STDIN_FILENO);
+        close(STDERR_FILENO);
+    }
+    const std::string program = options.program.empty() ? kHelper : options.program;
+    std::vector<char *> words = {const_cast<char *>(program.c_str())};
+    for (const std::string &argument : arguments)
+        words.push_back(const_cast<char *>(argument.c_str()));
+    words.push_back(nullptr);
+    execv(program.c_str(), words.data());
+    _exit(98);
+}
+
+// Reads both pipes to their ends.
+void collect(std::array<int, 2> descriptors, RunResult *result)
+{
+    std::array<std::string *, 2> texts = {&result->output, &result->errors};
+    std::array<pollfd, 2> open = {pollfd{descriptors[0], POLLIN, 0}, pollfd{descriptors[1], POLLIN, 0}};
+    while (open[0].fd >= 0 || open[1].fd >= 0) {
+        poll(open.data(), open.size(), -1);
+        for (size_t i = 0; i < open.size(); ++i) {
+            std::array<char, 4096> buffer;
+            const ssize_t got = open[i].revents ? read(open[i].fd, buffer.data(), buffer.size()) : -1;
+            if (got > 0)
+                texts[i]->append(buffer.data(), static_cast<size_t>(got));
+            else if (open[i].revents)
+                open[i].fd = -1;
+        }
+    }
+}
+
+} // namespace
+
+HelperTest::HelperTest() : m_isRoot(getuid() == 0), m_login(ownLogin())
+{
+    std::string pattern = ::testing::TempDir() + "bvhelperXXXXXX";
+    m_root = mkdtemp(pattern.data());
+    std::filesystem::create_directories(folder());
+    chmod(m_root.c_str(), 0755);
+    if (m_isRoot && chown(folder().c_str(), 0, kSharedGroup) == 0)
+        chmod(folder().c_str(), 03775);
+    EXPECT_NE(m_login, "") << "the user who runs the tests needs an entry in the password database";
+}
+
+HelperTest::~HelperTest()
+{
+    chmod(folder().c_str(), 0755);
+    std::error_code ignored;
+    std::filesystem::remove_all(m_root, ignored);
+}
+
+RunResult HelperTest::run(const std::vector<std::string> &arguments, const RunOptions &options) const
+{
+    std::array<int, 2> output = {};
+    std::array<int, 2> errors = {};
+    if (pipe2(output.data(), O_CLOEXEC) != 0 || pipe2(errors.data(), O_CLOEXEC) != 0)
+        return {};
+    const pid_t child = fork();
+    if (child == 0)
+        becomeHelper(arguments, options, m_root, {output[1], errors[1]});
+    close(output[1]);
+    close(errors[1]);
+    if (options.killAfterMicroseconds) {
+        usleep(static_cast<useconds_t>(*options.killAfterMicroseconds));
+        kill(child, SIGKILL);
+    }
+    RunResult result;
+    collect({output[0], errors[0]}, &result);
+    close(output[0]);
+    close(errors[0]);
+    int status = 0;
+    waitpid(child, &status, 0);
+    result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return result;
+}
+
+::testing::AssertionResult HelperTest::answers(bool expected, const std::vector<std::string> &arguments,
+                                               const RunOptions &options) const
+{
+    const RunResult result = run(arguments, options);
+    if (result.output == arguments[0] + (expected ? "=TRUE\n" : "=FALSE\n") && result.exitCode == (expected ? 0 : 1))
+        return ::testing::AssertionSuccess();
+    return ::testing::AssertionFailure() << "printed \"" << result.output << "\", exit status " << result.exitCode
+                                         << ", diagnostics \"" << result.errors << '"';
+}
+
+bool HelperTest::answersElsewhere(bool expected, const std::vector<std::string> &arguments) const
+{
+    return inAnotherProcess([&] { return static_cast<bool>(answers(expected, arguments)); });
+}
+
+bool HelperTest::writeList(const std::string &text, const RunOptions &options, size_t pieceBytes) const
+{
+    for (size_t begin = 0; begin < text.size(); begin += pieceBytes) {
+        if (!answers(true, {"writeDataToPlistFile_XPC", url(), text.substr(begin, pieceBytes)}, options))
+            return false;
+    }
+    return static_cast<bool>(answers(true, {"writeDataToPlistFileRename_XPC", url()}, options));
+}
+
+std::string HelperTest::currentPath(const std::string &login) const
+{
+    return std::string(kFolder) + "/" + login + "-QL70-profile.plist";
+}
+
+std::string HelperTest::previousPath(const std::string &login) const
+{
+    return std::string(kFolder) + "/" + login + "-QL70-profile.prev.plist";
+}
+
+std::string HelperTest::url(const std::string &login) const
+{
+    return "file://" + currentPath(login);
+}
+
+std::string HelperTest::folder() const
+{
+    return real(kFolder);
+}
+
+std::optional<std::string> HelperTest::contents(const std::string &logical) const
+{
+    std::ifstream file(real(logical), std::ios::binary);
+    if (!file)
+        return std::nullopt;
+    return (std::ostringstream() << file.rdbuf()).str();
+}
+
+void HelperTest::put(const std::string &logical, std::string_view contents) const
+{
+    std::ofstream(real(logical), std::ios::binary) << contents;
+}
+
+std::string HelperTest::names() const
+{
+    std::vector<std::string> names;
+    for (const auto &entry : std::filesystem::directory_iterator(folder()))
+        names.push_back(entry.path().filename());
+    std::sort(names.begin(), names.end());
+    std::string joined;
+    for (const std::string &name : names)
+        joined += (joined.empty() ? "" : " ") + name;
+    return joined;
+}
+
+std::string listText(std::string_view mark, int entries)
+{
+    std::ostringstream text;
+    text << R"(<?xml version="1.0" encoding="UTF-8"?>)"
+         << "\n<plist version=\"1.0\">\n<dict>\n";
+    for (const char *list : {"RGB", "SIM", "DST"}) {
+        text << "<key>" << list << "</key><dict><key>iNum</key><integer>0</integer>\n";
+        for (const char *field : {"IndexOnDevice", "InMenu", "ProfileClass", "Location"}) {
+            text << "<key>" << field << "</key><dict>";
+            for (int i = 0; i < entries; ++i)
+                text << "<key>" << field << i << "</key><integer>0</integer>\n";
+            text << "</dict>";
+        }
+        for (const char *field : {"FileName", "ProfileName"}) {
+            text << "<key>" << field << "</key><dict>";
+            for (int i = 0; i < entries; ++i)
+                text << "<key>" << field << i << "</key><string>" << mark << "</string>\n";
+            text << "</dict>";
+        }
+        text << "</dict>\n";
+    }
+    text << "<key>PlistVersion</key><integer>1</integer>\n</dict>\n</plist>\n";
+    return text.str();
+}
+
+bool inAnotherProcess(const std::function<bool()> &function)
+{
+    const pid_t child = fork();
+    if (child == 0)
+        _exit(function() ? 0 : 1);
+    int status = 0;
+    waitpid(child, &status, 0);
+    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+} // namespace bvtest

@@ -1,0 +1,236 @@
+// What each request answers, and what it leaves in the folder.
+#include "helper/HelperFixture.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <sys/stat.h>
+
+namespace bvtest {
+
+namespace {
+
+constexpr char kAdmin[] = "bvPListIsAdminProfile_XPC";
+constexpr char kExist[] = "bvPListExistProfile_XPC";
+constexpr char kRemove[] = "bvPListRemove_XPC";
+constexpr char kSwap[] = "bvPListSwapProfile_XPC";
+constexpr char kPiece[] = "writeDataToPlistFile_XPC";
+constexpr char kCommit[] = "writeDataToPlistFileRename_XPC";
+
+} // namespace
+
+using Requests = HelperTest;
+
+TEST_F(Requests, WritesTheListInPiecesAndCommitsIt)
+{
+    const std::string text = listText("first", 90);
+    umask(0077);
+    EXPECT_TRUE(answers(true, {kPiece, url(), text.substr(0, 40000)}));
+    EXPECT_EQ(names(), m_login + "-QL70-profile.plist.part");
+    EXPECT_TRUE(answers(true, {kPiece, url(), text.substr(40000)}));
+    EXPECT_TRUE(answers(true, {kPiece, url(), ""}));
+    EXPECT_TRUE(answers(true, {kCommit, url()}));
+    EXPECT_EQ(contents(current()), text);
+    EXPECT_EQ(names(), m_login + "-QL70-profile.plist");
+    struct stat status = {};
+    ASSERT_EQ(stat(real(current()).c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777, 0644U);
+    umask(022);
+    EXPECT_TRUE(answers(false, {kCommit, url()}));
+    EXPECT_TRUE(writeList(listText("second")));
+    EXPECT_EQ(contents(current()), listText("second"));
+}
+
+TEST_F(Requests, ExistAndRemoveAnswerForTheFileThatIsNamed)
+{
+    EXPECT_TRUE(answers(true, {kAdmin, current()}));
+    EXPECT_TRUE(answers(false, {kExist, current()}));
+    EXPECT_TRUE(answers(false, {kRemove, current()}));
+    put(current(), "any text");
+    put(previous(), "older");
+    EXPECT_TRUE(answers(true, {kExist, current()}));
+    EXPECT_TRUE(answers(false, {kExist, previous()}));
+    EXPECT_TRUE(answers(true, {kRemove, previous()}));
+    EXPECT_EQ(names(), m_login + "-QL70-profile.plist");
+    EXPECT_TRUE(answers(true, {kRemove, current()}));
+    EXPECT_EQ(names(), "");
+}
+
+TEST_F(Requests, SwapCopiesOneFileOverTheOther)
+{
+    const std::string bytes = std::string("not a list \0 at all", 19) + std::string(200000, 'x');
+    EXPECT_TRUE(answers(false, {kSwap, "2", current(), previous()}));
+    put(current(), bytes);
+    EXPECT_TRUE(answers(false, {kSwap, "3", current(), previous()}));
+    EXPECT_TRUE(answers(true, {kSwap, "2", current(), previous()}));
+    EXPECT_EQ(contents(previous()), bytes);
+    EXPECT_EQ(contents(current()), bytes);
+    put(current(), "changed");
+    put(current() + ".copy", "left by a copy that was killed");
+    for (const char *code : {"", "1", "02", "2 ", "+2", "4", "2\n"})
+        EXPECT_TRUE(answers(false, {kSwap, code, current(), previous()})) << code;
+    EXPECT_TRUE(answers(false, {kSwap, "3", previous(), current()}));
+    EXPECT_EQ(contents(current()), "changed");
+    EXPECT_TRUE(answers(true, {kSwap, "3", current(), previous()}));
+    EXPECT_EQ(contents(current()), bytes);
+    EXPECT_EQ(names(), m_login + "-QL70-profile.plist " + m_login + "-QL70-profile.prev.plist");
+}
+
+TEST_F(Requests, OnlyTheExactPathOfAListIsTaken)
+{
+    put(current(), "old");
+    const std::string folder = current().substr(0, current().rfind('/'));
+    const std::string file = current().substr(folder.size() + 1);
+    const std::vector<std::string> paths = {
+        "",
+        file,
+        folder,
+        folder + "//" + file,
+        folder + "/./" + file,
+        folder + "/../vnd.brevane.printers.QL70/" + file,
+        current() + "\n",
+        "\n" + current(),
+        current() + "/",
+        current() + ".part",
+        current().substr(1),
+        real(current()),
+        url(),
+        currentPath(""),
+        currentPath("/../" + m_login),
+        currentPath("no-such-user"),
+        currentPath("../" + m_login),
+    };
+    for (const std::string &path : paths) {
+        EXPECT_TRUE(answers(false, {kAdmin, path})) << path;
+        EXPECT_TRUE(answers(false, {kExist, path})) << path;
+        EXPECT_TRUE(answers(false, {kRemove, path})) << path;
+        EXPECT_TRUE(answers(false, {kSwap, "2", path, previous()})) << path;
+        EXPECT_TRUE(answers(false, {kSwap, "2", current(), path})) << path;
+    }
+    EXPECT_EQ(names(), file);
+}
+
+TEST_F(Requests, OnlyTheExactUrlOfAListIsTaken)
+{
+    const std::string escaped = url().substr(0, url().rfind('/') + 1) + "%" + "0123456789ABCDEF"[m_login[0] >> 4] +
+                                "0123456789ABCDEF"[m_login[0] & 15] + url().substr(url().rfind('/') + 2);
+    const std::vector<std::string> urls = {
+        "",
+        current(),
+        "file:" + current(),
+        "FILE://" + current(),
+        "file://localhost" + current(),
+        "file:///" + current(),
+        "file://" + real(current()),
+        url() + "?x",
+        url() + "#x",
+        url() + "%00",
+        url() + "\n",
+        escaped,
+        "file://" + previous(),
+        "file://" + staging(),
+        "http://" + current(),
+    };
+    for (const std::string &wrong : urls) {
+        EXPECT_TRUE(answers(false, {kPiece, wrong, listText("x")})) << wrong;
+        EXPECT_TRUE(answers(false, {kCommit, wrong})) << wrong;
+    }
+    EXPECT_EQ(names(), "");
+}
+
+TEST_F(Requests, WhatIsNoRequestPrintsFalseInOneLineAndTouchesNothing)
+{
+    put(current(), "old");
+    const RunResult nothing = run({});
+    EXPECT_EQ(nothing.output, "");
+    EXPECT_EQ(nothing.exitCode, 2);
+
+    struct Case
+    {
+        std::vector<std::string> arguments;
+        std::string printed;
+    };
+    std::vector<Case> cases = {
+        {{""}, "=FALSE\n"},
+        {{"bvplistexistprofile_xpc", current()}, "bvplistexistprofile_xpc=FALSE\n"},
+        {{"bvPListExistProfile_XPC ", current()}, "bvPListExistProfile_XPC =FALSE\n"},
+        {{"x\nbvPListIsAdminProfile_XPC=TRUE\n", current()}, "x?bvPListIsAdminProfile_XPC=TRUE?=FALSE\n"},
+    };
+    const std::map<std::string, size_t> needed = {{kAdmin, 1}, {kExist, 1},  {kRemove, 1},        {kSwap, 3},
+                                                  {kPiece, 2}, {kCommit, 1}, {"mibwalk_XPC", 10}, {"other", 99}};
+    for (const auto &[name, number] : needed) {
+        for (size_t given = 0; given <= 20; ++given) {
+            if (given == number)
+                continue;
+            std::vector<std::string> arguments(given + 1, current());
+            arguments[0] = name;
+            cases.push_back({arguments, name + "=FALSE\n"});
+        }
+    }
+    for (const Case &row : cases) {
+        const RunResult result = run(row.arguments);
+        EXPECT_EQ(result.output, row.printed);
+        EXPECT_EQ(result.exitCode, 2) << row.printed;
+        EXPECT_NE(result.errors, "");
+    }
+    EXPECT_EQ(contents(current()), "old");
+    EXPECT_EQ(names(), m_login + "-QL70-profile.plist");
+}
+
+TEST_F(Requests, ARefusedTextLeavesTheOldListAndNoStagingFile)
+{
+    const std::string whole = listText("new");
+    put(current(), "old");
+    const std::vector<std::string> texts = {
+        whole.substr(0, whole.size() - 10), whole + "x", whole.substr(0, whole.find("<key>DST")) + "</dict></plist>",
+        "<?xml version=\"1.0\"?><plist/>",  "<?xml",
+    };
+    for (const std::string &text : texts) {
+        EXPECT_FALSE(writeList(text));
+        EXPECT_EQ(contents(current()), "old");
+        EXPECT_EQ(names(), m_login + "-QL70-profile.plist");
+    }
+}
+
+TEST_F(Requests, AListThatIsTooLongIsNotGathered)
+{
+    ASSERT_TRUE(answers(true, {kPiece, url(), "<?xml version=\"1.0\"?><!--"}));
+    const std::string piece(120000, 'x');
+    int taken = 0;
+    while (taken < 100 && answers(true, {kPiece, url(), piece}))
+        ++taken;
+    EXPECT_EQ(taken, (4 << 20) / 120000);
+    EXPECT_EQ(names(), "");
+    EXPECT_TRUE(answers(false, {kPiece, url(), piece}));
+}
+
+TEST_F(Requests, ALinkedOrCopiedHelperWorksAlone)
+{
+    RunOptions options;
+    options.program = m_root + "/QL70Helper";
+    std::filesystem::create_symlink(BV_BUILD_DIR "/bin/QL70Helper", options.program);
+    EXPECT_TRUE(answers(true, {kAdmin, current()}, options));
+    std::filesystem::remove(options.program);
+    std::filesystem::copy_file(BV_BUILD_DIR "/bin/QL70Helper", options.program);
+    EXPECT_TRUE(writeList(listText("copied"), options));
+    EXPECT_EQ(contents(current()), listText("copied"));
+}
+
+TEST_F(Requests, WorksWithoutStandardInputAndError)
+{
+    RunOptions options;
+    options.onlyStandardOutput = true;
+    EXPECT_TRUE(writeList(listText("x"), options));
+    EXPECT_TRUE(answers(false, {kPiece, url(), "a diagnostic that nobody reads"}, options));
+    EXPECT_EQ(contents(current()), listText("x"));
+}
+
+TEST_F(Requests, WithoutTheFolderEverythingIsFalse)
+{
+    std::filesystem::remove(folder());
+    EXPECT_TRUE(answers(false, {kAdmin, current()}));
+    EXPECT_TRUE(answers(false, {kExist, current()}));
+    EXPECT_TRUE(answers(false, {kPiece, url(), listText("x")}));
+    EXPECT_FALSE(std::filesystem::exists(folder()));
+}
+
+} // namespace bvtest

@@ -1,0 +1,89 @@
+// To whom a sequence of pieces belongs, and what becomes of one that was given up.
+#include "helper/HelperFixture.h"
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace bvtest {
+
+namespace {
+
+constexpr char kPiece[] = "writeDataToPlistFile_XPC";
+constexpr char kCommit[] = "writeDataToPlistFileRename_XPC";
+
+} // namespace
+
+using Sequences = HelperTest;
+
+TEST_F(Sequences, AFirstPieceStartsANewTextAfterAnAbandonedOne)
+{
+    ASSERT_TRUE(answers(true, {kPiece, url(), listText("given up").substr(0, 900)}));
+    EXPECT_TRUE(writeList(listText("new")));
+    EXPECT_EQ(contents(current()), listText("new"));
+}
+
+TEST_F(Sequences, ALaterPieceOrCommitNeedsASequence)
+{
+    EXPECT_TRUE(answers(false, {kPiece, url(), "later"}));
+    EXPECT_TRUE(answers(false, {kPiece, url(), ""}));
+    EXPECT_TRUE(answers(false, {kCommit, url()}));
+    EXPECT_EQ(names(), "");
+}
+
+TEST_F(Sequences, AnotherProcessCanOnlyTakeOver)
+{
+    const std::string text = listText("ours");
+    ASSERT_TRUE(answers(true, {kPiece, url(), text.substr(0, 500)}));
+    EXPECT_TRUE(answersElsewhere(false, {kPiece, url(), text.substr(500)}));
+    EXPECT_TRUE(answersElsewhere(false, {kCommit, url()}));
+    ASSERT_TRUE(answers(true, {kPiece, url(), text.substr(500)}));
+    EXPECT_TRUE(answersElsewhere(true, {kPiece, url(), listText("theirs")}));
+    EXPECT_TRUE(answers(false, {kPiece, url(), "late"}));
+    EXPECT_TRUE(answers(false, {kCommit, url()}));
+    EXPECT_EQ(contents(current()), std::nullopt);
+    EXPECT_TRUE(writeList(text));
+    EXPECT_EQ(contents(current()), text);
+}
+
+TEST_F(Sequences, AFileThatNoRequestLeftIsNobodysSequence)
+{
+    put(staging(), listText("planted"));
+    EXPECT_TRUE(answers(false, {kPiece, url(), " "}));
+    EXPECT_TRUE(answers(false, {kCommit, url()}));
+    EXPECT_EQ(contents(current()), std::nullopt);
+    put(staging(), listText("planted"));
+    EXPECT_TRUE(writeList(listText("new")));
+    EXPECT_EQ(contents(current()), listText("new"));
+}
+
+TEST_F(Sequences, WritersAtOnceNeverMixTheirTexts)
+{
+    // Each process begins anew whenever another one took over, until it got one list through.
+    constexpr int kWriters = 4;
+    std::vector<pid_t> writers;
+    for (int writer = 0; writer < kWriters; ++writer) {
+        const pid_t child = fork();
+        if (child == 0) {
+            const std::string text = listText("writer " + std::to_string(writer), 100);
+            for (int attempt = 0; attempt < 200; ++attempt) {
+                if (writeList(text, {}, 60000))
+                    _exit(0);
+                usleep(static_cast<useconds_t>((writer * 37 + attempt * 11) % 50) * 1000);
+            }
+            _exit(1);
+        }
+        writers.push_back(child);
+    }
+    for (const pid_t writer : writers) {
+        int status = -1;
+        waitpid(writer, &status, 0);
+        EXPECT_EQ(status, 0);
+    }
+    const std::string last = contents(current()).value_or("");
+    bool isWhole = false;
+    for (int writer = 0; writer < kWriters; ++writer)
+        isWhole = isWhole || last == listText("writer " + std::to_string(writer), 100);
+    EXPECT_TRUE(isWhole);
+}
+
+} // namespace bvtest

@@ -1,0 +1,160 @@
+// Two real users of one group, and root, in one folder. Needs root: only root can become another user.
+#include "helper/HelperFixture.h"
+
+#include <pwd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace bvtest {
+
+namespace {
+
+constexpr char kAdmin[] = "bvPListIsAdminProfile_XPC";
+constexpr char kExist[] = "bvPListExistProfile_XPC";
+constexpr char kRemove[] = "bvPListRemove_XPC";
+constexpr char kSwap[] = "bvPListSwapProfile_XPC";
+constexpr char kPiece[] = "writeDataToPlistFile_XPC";
+constexpr char kCommit[] = "writeDataToPlistFileRename_XPC";
+constexpr uid_t kNamelessUser = 60011; // in no password database
+
+} // namespace
+
+// Alice and Bob are accounts that every Debian system has.
+class Users : public HelperTest
+{
+protected:
+    void SetUp() override
+    {
+        if (!m_isRoot)
+            GTEST_SKIP() << "needs root, which alone can become another user";
+        for (User *user : {&m_alice, &m_bob}) {
+            const passwd *entry = getpwnam(user->login.c_str());
+            ASSERT_TRUE(entry) << user->login;
+            user->as.user = entry->pw_uid;
+            // The build folder need not be open to everybody.
+            user->as.program = m_root + "/QL70Helper";
+        }
+        ASSERT_EQ(link(BV_BUILD_DIR "/bin/QL70Helper", m_alice.as.program.c_str()) == 0 ||
+                      symlink(BV_BUILD_DIR "/bin/QL70Helper", m_alice.as.program.c_str()) == 0,
+                  true);
+        ASSERT_EQ(chmod(real("/Library/Printers").c_str(), 0755), 0);
+    }
+
+    struct User
+    {
+        std::string login;
+        RunOptions as;
+    };
+
+    bool writes(const User &user, const std::string &login, const std::string &text) const
+    {
+        return answers(true, {kPiece, url(login), text}, user.as) && answers(true, {kCommit, url(login)}, user.as);
+    }
+
+    uid_t ownerOf(const std::string &logical) const
+    {
+        struct stat status = {};
+        return lstat(real(logical).c_str(), &status) == 0 ? status.st_uid : static_cast<uid_t>(-1);
+    }
+
+    User m_alice{"daemon", {}};
+    User m_bob{"bin", {}};
+    const User m_superuser{"root", {}};
+};
+
+TEST_F(Users, EachOfOneGroupWritesHisOwnListOnly)
+{
+    ASSERT_TRUE(writes(m_alice, m_alice.login, listText("alice")));
+    ASSERT_TRUE(writes(m_bob, m_bob.login, listText("bob")));
+    EXPECT_EQ(ownerOf(currentPath(m_alice.login)), *m_alice.as.user);
+    const std::string path = currentPath(m_alice.login);
+    EXPECT_TRUE(answers(false, {kAdmin, path}, m_bob.as));
+    EXPECT_TRUE(answers(false, {kExist, path}, m_bob.as));
+    EXPECT_TRUE(answers(false, {kRemove, path}, m_bob.as));
+    EXPECT_TRUE(answers(false, {kSwap, "2", path, previousPath(m_alice.login)}, m_bob.as));
+    EXPECT_TRUE(answers(false, {kSwap, "2", currentPath(m_bob.login), previousPath(m_alice.login)}, m_bob.as));
+    EXPECT_TRUE(answers(false, {kPiece, url(m_alice.login), listText("bob")}, m_bob.as));
+    ASSERT_TRUE(answers(true, {kPiece, url(m_alice.login), listText("alice 2")}, m_alice.as));
+    EXPECT_TRUE(answers(false, {kCommit, url(m_alice.login)}, m_bob.as));
+    EXPECT_TRUE(answers(true, {kCommit, url(m_alice.login)}, m_alice.as));
+    EXPECT_EQ(contents(path), listText("alice 2"));
+    EXPECT_EQ(contents(currentPath(m_bob.login)), listText("bob"));
+}
+
+TEST_F(Users, AFileThatAnotherUserPutInTheWayStays)
+{
+    for (const std::string &path : {currentPath(m_alice.login), currentPath(m_alice.login) + ".part",
+                                    previousPath(m_alice.login), previousPath(m_alice.login) + ".copy"}) {
+        ASSERT_TRUE(writes(m_alice, m_alice.login, listText("alice")));
+        put(path, "planted");
+        ASSERT_EQ(chown(real(path).c_str(), *m_bob.as.user, 0), 0);
+        ASSERT_EQ(chmod(real(path).c_str(), 0666), 0);
+        if (path == currentPath(m_alice.login)) {
+            EXPECT_TRUE(answers(false, {kExist, path}, m_alice.as));
+            EXPECT_TRUE(answers(false, {kRemove, path}, m_alice.as));
+        }
+        if (path.ends_with("profile.plist") || path.ends_with(".part"))
+            EXPECT_FALSE(writes(m_alice, m_alice.login, listText("alice"))) << path;
+        else
+            EXPECT_TRUE(
+                answers(false, {kSwap, "2", currentPath(m_alice.login), previousPath(m_alice.login)}, m_alice.as))
+                << path;
+        EXPECT_EQ(contents(path), "planted");
+        EXPECT_EQ(ownerOf(path), *m_bob.as.user);
+        unlink(real(path).c_str());
+    }
+}
+
+TEST_F(Users, RootWritesForAnyUserOfThePasswordDatabase)
+{
+    ASSERT_TRUE(writes(m_superuser, m_alice.login, listText("by root")));
+    EXPECT_EQ(ownerOf(currentPath(m_alice.login)), *m_alice.as.user);
+    ASSERT_TRUE(writes(m_alice, m_alice.login, listText("by alice")));
+    ASSERT_TRUE(answers(true, {kSwap, "2", currentPath(m_alice.login), previousPath(m_alice.login)}));
+    EXPECT_EQ(ownerOf(previousPath(m_alice.login)), *m_alice.as.user);
+    EXPECT_TRUE(answers(false, {kSwap, "2", currentPath(m_alice.login), previousPath(m_bob.login)}));
+
+    // What root began and gave up does not stand in her way.
+    ASSERT_TRUE(answers(true, {kPiece, url(m_alice.login), "<?xml"}));
+    EXPECT_TRUE(writes(m_alice, m_alice.login, listText("again")));
+    EXPECT_TRUE(answers(true, {kRemove, currentPath(m_alice.login)}));
+
+    for (const std::string &login : {std::string("no-such-user"), std::string("../daemon"), std::string("x/../daemon")})
+        EXPECT_TRUE(answers(false, {kAdmin, currentPath(login)})) << login;
+    put(currentPath(m_alice.login), "bob's");
+    ASSERT_EQ(chown(real(currentPath(m_alice.login)).c_str(), *m_bob.as.user, 0), 0);
+    EXPECT_TRUE(answers(false, {kRemove, currentPath(m_alice.login)}));
+}
+
+TEST_F(Users, WhoIsNotOfTheGroupOrHasNoNameMayNotWrite)
+{
+    ASSERT_TRUE(writes(m_superuser, m_alice.login, listText("by root")));
+    ASSERT_EQ(chown(folder().c_str(), 0, 0), 0);
+    EXPECT_TRUE(answers(false, {kAdmin, currentPath(m_alice.login)}, m_alice.as));
+    EXPECT_TRUE(answers(true, {kExist, currentPath(m_alice.login)}, m_alice.as));
+    EXPECT_TRUE(answers(false, {kPiece, url(m_alice.login), listText("alice")}, m_alice.as));
+    EXPECT_TRUE(answers(false, {kRemove, currentPath(m_alice.login)}, m_alice.as));
+
+    ASSERT_EQ(chmod(folder().c_str(), 01777), 0);
+    RunOptions nameless = m_alice.as;
+    nameless.user = kNamelessUser;
+    for (const char *login : {"", "daemon", "60011"}) {
+        EXPECT_TRUE(answers(false, {kAdmin, currentPath(login)}, nameless)) << login;
+        EXPECT_TRUE(answers(false, {kPiece, url(login), listText("x")}, nameless)) << login;
+    }
+}
+
+TEST_F(Users, ASetIdHelperActsWithItsCallersRightsAndWithoutHisEnvironment)
+{
+    RunOptions options = m_alice.as;
+    options.program = m_root + "/set-id";
+    ASSERT_EQ(std::system(("cp '" BV_BUILD_DIR "/bin/QL70Helper' '" + options.program + "'").c_str()), 0);
+    ASSERT_EQ(chown(options.program.c_str(), 0, 0), 0);
+    ASSERT_EQ(chmod(options.program.c_str(), 06755), 0);
+    // Without BVCO_ROOT the system's own folder is meant, in which this user may not write.
+    EXPECT_TRUE(answers(false, {kAdmin, currentPath(m_alice.login)}, options));
+    EXPECT_TRUE(answers(false, {kPiece, url(m_alice.login), listText("x")}, options));
+    EXPECT_EQ(names(), "");
+}
+
+} // namespace bvtest

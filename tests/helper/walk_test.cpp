@@ -1,0 +1,121 @@
+// The walk request: its words, its login name, and what it writes without a printer.
+#include "helper/HelperFixture.h"
+
+#include <fstream>
+#include <filesystem>
+
+namespace bvtest {
+
+namespace {
+
+using Arguments = std::vector<std::string>;
+
+constexpr size_t kLogin = 2;
+constexpr size_t kHost = 9;
+
+} // namespace
+
+class WalkRequest : public HelperTest
+{
+protected:
+    Arguments request(const std::string &host) const
+    {
+        return {"mibwalk_XPC",
+                "QL70",
+                m_login,
+                "snmpwalk",
+                "-Os",
+                "-c",
+                "mirror",
+                "-v",
+                "1",
+                host,
+                "1.3.6.1.4.1.39847.1.1.1.1.6.13.1.1"};
+    }
+
+    // The SNMP library's files and settings in the test's own folder.
+    RunOptions privateSettings() const
+    {
+        std::filesystem::create_directories(real("/snmp"));
+        std::ofstream(real("/snmp/snmp.conf")) << "defaultPort 9\nretries 0\ntimeout 1\n";
+        RunOptions options;
+        options.environment = {{"SNMPCONFPATH", real("/snmp")}, {"SNMP_PERSISTENT_DIR", real("/snmp")}};
+        return options;
+    }
+};
+
+TEST_F(WalkRequest, OtherWordsAreNoRequest)
+{
+    const Arguments right = request("127.0.0.1");
+    std::vector<Arguments> wrong;
+    for (size_t word = 1; word < right.size(); ++word) {
+        if (word == kLogin)
+            continue;
+        for (const char *text : {"", "-h", "-CiLo"}) {
+            wrong.push_back(right);
+            wrong.back()[word] = text;
+        }
+    }
+    wrong.push_back(right);
+    wrong.back()[kHost] = "-Lf" + real("/written");
+    wrong.push_back(right);
+    std::swap(wrong.back()[4], wrong.back()[5]);
+    for (const Arguments &arguments : wrong) {
+        const RunResult result = run(arguments, privateSettings());
+        EXPECT_EQ(result.output, "mibwalk_XPC=FALSE\n");
+        EXPECT_EQ(result.exitCode, 2);
+    }
+    EXPECT_EQ(names(), "");
+    EXPECT_FALSE(std::filesystem::exists(real("/written")));
+}
+
+TEST_F(WalkRequest, AnotherLoginNameIsRefused)
+{
+    for (const char *login : {"", "no-such-user", "../root", "root\n"}) {
+        Arguments arguments = request("127.0.0.1");
+        arguments[kLogin] = login;
+        EXPECT_TRUE(answers(false, arguments, privateSettings())) << login;
+    }
+    EXPECT_EQ(names(), "");
+}
+
+TEST_F(WalkRequest, AHostThatDoesNotResolveIsAWalkThatRan)
+{
+    const RunResult result = run(request("no-such-host.invalid"), privateSettings());
+    EXPECT_EQ(result.output, "mibwalk_XPC=iRet=1\n");
+    EXPECT_EQ(result.exitCode, 0);
+    // The reconciliation wrote an empty list through the same commit.
+    EXPECT_EQ(names(), m_login + "-QL70-profile.plist");
+    EXPECT_TRUE(contents(current()).value_or("").starts_with("<?xml"));
+}
+
+TEST_F(WalkRequest, ItsListTakesOverFromTheParentsSequence)
+{
+    ASSERT_TRUE(answers(true, {"writeDataToPlistFile_XPC", url(), listText("half").substr(0, 500)}));
+    EXPECT_EQ(run(request("no-such-host.invalid"), privateSettings()).output, "mibwalk_XPC=iRet=1\n");
+    EXPECT_TRUE(answers(false, {"writeDataToPlistFileRename_XPC", url()}));
+    EXPECT_EQ(names(), m_login + "-QL70-profile.plist");
+}
+
+TEST_F(WalkRequest, RootWalksForAnotherUser)
+{
+    if (!m_isRoot)
+        GTEST_SKIP() << "needs root, who alone may name another user";
+    Arguments arguments = request("no-such-host.invalid");
+    arguments[kLogin] = "daemon";
+    EXPECT_EQ(run(arguments, privateSettings()).output, "mibwalk_XPC=iRet=1\n");
+    EXPECT_EQ(names(), "daemon-QL70-profile.plist");
+}
+
+TEST_F(WalkRequest, WithoutItsLibraryTheWalkIsRefused)
+{
+    RunOptions options = privateSettings();
+    // Something else under the library's name, found first.
+    std::filesystem::create_directories(real("/lib"));
+    std::ofstream(real("/lib/" BV_SNMP_LIBRARY)) << "no library";
+    options.environment["LD_LIBRARY_PATH"] = real("/lib");
+    EXPECT_TRUE(answers(false, request("127.0.0.1"), options));
+    EXPECT_EQ(names(), "");
+}
+
+} // namespace bvtest

@@ -1,0 +1,185 @@
+// A root of its own with the real helper and a list file in it, and the management window driven by keys and mouse.
+#pragma once
+
+#include "profileui/ManagementWindow.h"
+#include "profileui/ProfileControl.h"
+#include "profileui/ProfileTableModel.h"
+#include "platform/HostProtocol.h"
+#include "platform/RootPath.h"
+#include "platform/UserName.h"
+#include "profiles/HelperRequest.h"
+#include "profiles/ProfileOperations.h"
+#include "support/PaneFixture.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace bvtest {
+
+struct Lists
+{
+    ProfileList rgb{};
+    ProfileList sim{};
+    ProfileList dst{};
+};
+
+inline QString fileNameOf(const ProfileRecord &record)
+{
+    const std::string_view text = bv::fieldText(record.FileName);
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+inline QString profileNameOf(const ProfileRecord &record)
+{
+    const std::string_view text = bv::fieldText(record.ProfileName);
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+inline void append(ProfileList &list, int32_t inMenu, std::string_view fileName, std::string_view profileName,
+                   int32_t location = kLocationDisk)
+{
+    ProfileRecord &record = list.records[list.count];
+    record.IndexOnDevice = inMenu <= 4 ? list.count + 1 : list.count + 500;
+    record.InMenu = inMenu;
+    record.ProfileClass = 1;
+    bv::setFieldText(record.FileName, fileName);
+    bv::setFieldText(record.ProfileName, profileName);
+    record.Location = location;
+    ++list.count;
+}
+
+// The list as "NAME:CODE:LOCATION" words.
+inline QString summary(const ProfileList &list)
+{
+    QStringList words;
+    for (int row = 0; row < list.count; ++row) {
+        const ProfileRecord &record = list.records[row];
+        words += QStringLiteral("%1:%2:%3").arg(fileNameOf(record)).arg(record.InMenu).arg(record.Location);
+    }
+    return words.join(u' ');
+}
+
+class ProfileWindow : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(root.isValid());
+        qputenv("BVCO_ROOT", QFile::encodeName(root.path()));
+        ASSERT_TRUE(QDir().mkpath(QFileInfo(listFile()).path()));
+        ASSERT_TRUE(QDir().mkpath(QFileInfo(helperFile()).path()));
+        ASSERT_TRUE(QFile::link(QStringLiteral(BV_BUILD_DIR "/bin/QL70Helper"), helperFile()));
+        // RGB has one profile of each code that a file can hold; codes 2 and 4 are on the printer.
+        append(lists->rgb, 1, "one.icc", "One");
+        append(lists->rgb, 2, "two.icc", "Two", kLocationCard);
+        append(lists->rgb, 3, "three.icc", "Three");
+        append(lists->rgb, 4, "four.icc", "Four");
+        append(lists->rgb, 5, "five.icc", "Five", 7);
+        append(lists->rgb, 6, "six.icc", "Six", kLocationCard);
+        append(lists->sim, 4, "sim.icc", "Simulated");
+        append(lists->dst, 3, "dst.icc", "Destination");
+        useUri("lpd://192.0.2.1/lp");
+        control.setPMPrint(&ticket, &session);
+    }
+    void TearDown() override { qunsetenv("BVCO_ROOT"); }
+
+    void useUri(const char *uri) { session.uri = QString::fromLatin1(uri); }
+    QString listFile() const
+    {
+        return QString::fromStdString(
+            bv::mapRootPath("/Library/Printers/BREVANE/Preferences/vnd.brevane.printers.QL70/" + bv::loginName() +
+                            "-QL70-profile.plist"));
+    }
+    static QString helperFile() { return QString::fromStdString(bv::mapRootPath(kHelperPath)); }
+    void writeFile() { ASSERT_EQ(BVPListWriteProfile_All(&lists->rgb, &lists->sim, &lists->dst), 0); }
+    QByteArray fileBytes() const
+    {
+        QFile file(listFile());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    static std::unique_ptr<Lists> readFile()
+    {
+        auto read = std::make_unique<Lists>();
+        EXPECT_EQ(BVPListReadProfile_All(&read->rgb, &read->sim, &read->dst), 0);
+        return read;
+    }
+
+    // Opens the window, carries out the steps in it, and closes it where they have not.
+    void inWindow(const std::function<void()> &steps)
+    {
+        bool ran = false;
+        QTimer::singleShot(0, &control, [&] {
+            window = qobject_cast<bv::ManagementWindow *>(QApplication::activeModalWidget());
+            if (window && QTest::qWaitForWindowActive(window)) {
+                steps();
+                ran = true;
+            }
+            if (window && window->isVisible())
+                window->reject();
+        });
+        control.showProfileManagementWindow();
+        EXPECT_TRUE(ran);
+    }
+
+    const Ui::ProfileManagement &c() const { return window->controls; }
+    bv::ProfileTableView *table() const { return c()._profileTableView; }
+    static void press(QPushButton *button) { QTest::mouseClick(button, Qt::LeftButton); }
+    // To whatever has the focus.
+    void key(Qt::Key which, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(window->focusWidget() ? window->focusWidget() : window, which, modifiers);
+    }
+    void type(QWidget *field, const QString &text)
+    {
+        for (const QChar unit : text)
+            QTest::keyClick(field, unit.toLatin1());
+    }
+    void clickCell(int row, int column)
+    {
+        const QModelIndex cell = table()->model()->index(row, column);
+        table()->scrollTo(cell);
+        const QRect rect = table()->visualRect(cell);
+        QTest::mouseClick(table()->viewport(), Qt::LeftButton, {}, {rect.left() + 10, rect.center().y()});
+    }
+    void clickRow(int row) { clickCell(row, bv::ProfileTableModel::kFileName); }
+    QVariant cell(int row, int column, int role = Qt::DisplayRole) const
+    {
+        return table()->model()->index(row, column).data(role);
+    }
+    // Adds an entry by the keyboard, the focus being anywhere.
+    void add(const QString &fileName, const QString &profileName, bool onCard = false)
+    {
+        press(c()._addButton);
+        type(c()._fileNameEdit, fileName);
+        type(c()._profileNameEdit, profileName);
+        c()._locationMenu->setFocus();
+        key(onCard ? Qt::Key_End : Qt::Key_Home);
+    }
+    // The names of the enabled ones among the buttons, fields and menus.
+    QStringList enabledControls() const
+    {
+        QStringList names;
+        for (const QWidget *control : std::initializer_list<const QWidget *>{
+                 c()._profileMenu, c()._addButton, c()._editButton, c()._deleteButton, c()._fileNameEdit, c()._browse,
+                 c()._profileNameEdit, c()._locationMenu, c()._localOK, c()._localCancel}) {
+            if (control->isEnabled())
+                names += control->objectName().mid(1);
+        }
+        return names;
+    }
+
+    QTemporaryDir root;
+    std::unique_ptr<Lists> lists = std::make_unique<Lists>();
+    TestTicket ticket;
+    TestSession session;
+    ProfileControl control;
+    QPointer<bv::ManagementWindow> window;
+};
+
+} // namespace bvtest

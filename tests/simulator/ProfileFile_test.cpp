@@ -1,0 +1,94 @@
+// The readable list of profiles, its mistakes, and the table that is made of it.
+#include "simulator/ProfileFile.h"
+#include "simulator/ProfileTable.h"
+#include "simulator/Wire.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using sim::parseProfiles;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(ProfileFile, ReadsRowsGapsAndMissingCells)
+{
+    const sim::ProfileFile file =
+        parseProfiles("# a comment\n"
+                      "\n"
+                      "1 disk A.ICC \"Name with \\\"quotes\\\" \\\\ \\x00\\xff\" 1 1 # behind\n"
+                      "gap\n"
+                      "- card - - -3 -\r\n"
+                      "row 400\n"
+                      "  7\t9 \"\" \"-\" 2147483647 0");
+    ASSERT_EQ(file.error, "");
+    ASSERT_EQ(file.rows.size(), 3U);
+    EXPECT_EQ(file.rows[0].number, 1U);
+    EXPECT_EQ(file.rows[0].location, 4);
+    EXPECT_EQ(file.rows[0].profileName, std::string("Name with \"quotes\" \\ \0\xff", 23));
+    EXPECT_EQ(file.rows[1].number, 3U);
+    EXPECT_EQ(file.rows[1].indexOnDevice, std::nullopt);
+    EXPECT_EQ(file.rows[1].location, 5);
+    EXPECT_EQ(file.rows[1].fileName, std::nullopt);
+    EXPECT_EQ(file.rows[1].profileClass, -3);
+    EXPECT_EQ(file.rows[2].number, 400U);
+    EXPECT_EQ(file.rows[2].location, 9);
+    EXPECT_EQ(file.rows[2].fileName, "");
+    EXPECT_EQ(file.rows[2].profileName, "-") << "in quotes it is a text";
+    EXPECT_THAT(parseProfiles("").rows, IsEmpty());
+}
+
+TEST(ProfileFile, SaysWhichLineIsWrong)
+{
+    const std::pair<const char *, const char *> cases[] = {
+        {"1 disk A B 1", "line 1: a row has six fields"},
+        {"1 disk A B 1 1 1", "line 1: a row has six fields"},
+        {"#\n\nx disk A B 1 1", "line 3: the index is no number"},
+        {"1 tape A B 1 1", "line 1: the location is none of disk, card, a number"},
+        {"1 \"disk\" A B 1 1", "line 1: the location"},
+        {"1 disk A B 1x 1", "line 1: the class is no number"},
+        {"1 disk A B 1 99999999999", "line 1: the availability is no number"},
+        {"1 disk A \"open 1 1", "line 1: a quoted text is broken"},
+        {"1 disk A \"\\x4\" 1 1", "line 1: a quoted text is broken"},
+        {"1 disk A \"\\n\" 1 1", "line 1: a quoted text is broken"},
+        {"gap 2", "line 1: \"gap\" stands alone"},
+        {"row 0", "line 1: row numbers only go up"},
+        {"row x", "line 1: \"row\" wants one number"},
+        {"row -1", "line 1: \"row\" wants one number"},
+    };
+    for (const auto &[text, error] : cases) {
+        const sim::ProfileFile file = parseProfiles(text);
+        EXPECT_THAT(file.error, testing::StartsWith(error)) << text;
+        EXPECT_THAT(file.rows, IsEmpty()) << text;
+    }
+    EXPECT_EQ(sim::readProfiles("/nowhere/list").error, "it cannot be read");
+    EXPECT_EQ(sim::readProfiles("/").error, "it cannot be read");
+}
+
+TEST(ProfileTable, StepsThroughTheColumnsInOrder)
+{
+    const sim::Cells cells = sim::cellsOf(parseProfiles("1 disk A.ICC A 1 1\n2 disk B.ICC B 1 -\n").rows);
+    EXPECT_EQ(cells.size(), 13U) << "a missing cell is none";
+    sim::Identifier name(sim::printerRoot().begin(), sim::printerRoot().end());
+    size_t steps = 0;
+    for (const sim::Cell *cell; (cell = sim::nextCell(cells, name)); name = cell->name) {
+        EXPECT_EQ(cell, &cells[steps]) << steps;
+        EXPECT_EQ(sim::findCell(cells, cell->name), cell);
+        ++steps;
+    }
+    EXPECT_EQ(steps, cells.size());
+    EXPECT_EQ(sim::findCell(cells, sim::printerRoot()), nullptr);
+}
+
+TEST(Wire, EmptiesTheListOfVariablesOfAnAnswer)
+{
+    const std::vector<u_char> answer = {0x30, 0x1d, 2, 1, 0,    4, 1,    'm', 0xa2, 0x15, 2,    2, 0x12, 0x34, 2, 1,
+                                        0,    2,    1, 0, 0x30, 9, 0x30, 7,   6,    2,    0x2b, 6, 2,    1,    5};
+    EXPECT_THAT(sim::withoutVariables(answer),
+                ElementsAre(0x30, 0x14, 2, 1, 0, 4, 1, 'm', 0xa2, 0x0c, 2, 2, 0x12, 0x34, 2, 1, 0, 2, 1, 0, 0x30, 0));
+    for (size_t length = 0; length < answer.size(); ++length)
+        EXPECT_THAT(sim::withoutVariables(std::span(answer).first(length)), IsEmpty()) << length;
+}
+
+} // namespace

@@ -1,0 +1,130 @@
+// The program from outside: its arguments, its list that changes while it runs, and what a stock client sees.
+#include "support/ProgramUnderTest.h"
+
+#include "simulator/Fault.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <cstdlib>
+
+namespace {
+
+using bv::test::ProgramUnderTest;
+using bv::test::ScratchFolder;
+using testing::HasSubstr;
+
+constexpr char kSimulator[] = BV_BUILD_DIR "/bin/ql70sim";
+constexpr char kEntry[] = ".1.3.6.1.4.1.39847.1.1.1.1.6.13.1.1";
+
+class Ql70sim : public testing::Test
+{
+protected:
+    Ql70sim()
+    {
+        m_folder.write("snmp.conf", "mibs :\ntimeout 1\nretries 1\n");
+        setenv("SNMPCONFPATH", m_folder.path().c_str(), 1);
+        setenv("SNMP_PERSISTENT_DIR", "/dev/null", 1);
+    }
+
+    struct Ended
+    {
+        int status;
+        std::string output;
+    };
+    static Ended run(std::vector<std::string> command)
+    {
+        ProgramUnderTest program(command);
+        const int status = program.wait();
+        return {status, program.output()};
+    }
+    static Ended client(const char *tool, const ProgramUnderTest &printer, const std::string &community,
+                        std::vector<std::string> words)
+    {
+        std::vector<std::string> command = {
+            tool, "-v1", "-On", "-c", community, "127.0.0.1:" + std::to_string(printer.numberBehind(" port "))};
+        command.insert(command.end(), words.begin(), words.end());
+        return run(command);
+    }
+    static std::string cell(const std::string &suffix) { return kEntry + suffix; }
+
+    ScratchFolder m_folder;
+};
+
+TEST_F(Ql70sim, RefusesBadArgumentsAndLists)
+{
+    const std::string bad = m_folder.write("bad", "1 disk\n");
+    const std::vector<std::pair<std::vector<std::string>, const char *>> cases = {
+        {{}, "--port is missing"},
+        {{"--port", "x"}, "\"x\" is no port"},
+        {{"--port", "65536"}, "is no port"},
+        {{"--port", "0", "--fault", "nonsense"}, "there is no fault \"nonsense\""},
+        {{"--port", "0", "extra"}, "one argument too many"},
+        {{"--port", "0", "--profiles", bad}, "bad: line 1: a row has six fields"},
+        {{"--port", "0", "--profiles", "/nowhere"}, "/nowhere: it cannot be read"},
+        {{"--nonsense"}, "unrecognized option"},
+    };
+    for (const auto &[words, problem] : cases) {
+        std::vector<std::string> command = {kSimulator};
+        command.insert(command.end(), words.begin(), words.end());
+        const Ended ended = run(command);
+        EXPECT_EQ(ended.status, 2) << problem;
+        EXPECT_THAT(ended.output, HasSubstr(problem));
+    }
+}
+
+TEST_F(Ql70sim, HelpNamesEveryFault)
+{
+    const Ended help = run({kSimulator, "--help"});
+    EXPECT_EQ(help.status, 0);
+    for (const sim::Fault &fault : sim::faults())
+        EXPECT_THAT(help.output, HasSubstr(std::string("\n  ") + fault.name + ' '));
+}
+
+TEST_F(Ql70sim, APortThatIsTakenIsExitStatusOne)
+{
+    ProgramUnderTest first({kSimulator, "--port", "0"});
+    ASSERT_TRUE(first.waitFor("ready on 127.0.0.1 port "));
+    const Ended second = run({kSimulator, "--port", std::to_string(first.numberBehind(" port "))});
+    EXPECT_EQ(second.status, 1);
+    EXPECT_THAT(second.output, HasSubstr("cannot listen on udp:127.0.0.1:"));
+}
+
+TEST_F(Ql70sim, ReadsItsListAgainWhileItRuns)
+{
+    const std::string list = m_folder.write("list", "1 disk A.ICC Alpha 1 1\n2 disk B.ICC Beta 1 1\n");
+    ProgramUnderTest printer({kSimulator, "--port", "0", "--profiles", list});
+    ASSERT_TRUE(printer.waitFor("ready on"));
+    EXPECT_THAT(client("snmpget", printer, "mirror", {cell(".4.1.2")}).output, HasSubstr("STRING: \"B.ICC\""));
+
+    m_folder.write("list", "gap\nbroken\n");
+    printer.signal(SIGHUP);
+    ASSERT_TRUE(printer.waitFor("line 2: a row has six fields"));
+    EXPECT_THAT(client("snmpget", printer, "mirror", {cell(".4.1.2")}).output, HasSubstr("STRING: \"B.ICC\""));
+
+    m_folder.write("list", "9 card C.ICC Gamma 3 1\n");
+    printer.signal(SIGHUP);
+    ASSERT_TRUE(printer.waitFor("list read again, 1 rows"));
+    EXPECT_THAT(client("snmpget", printer, "mirror", {cell(".2.1.1")}).output, HasSubstr("INTEGER: 5"));
+    EXPECT_THAT(client("snmpget", printer, "mirror", {cell(".4.1.2")}).output, HasSubstr("noSuchName"));
+    EXPECT_EQ(printer.stop(), 0);
+}
+
+TEST_F(Ql70sim, AnswersOnlyItsCommunityAndTakesNoChanges)
+{
+    ProgramUnderTest printer({kSimulator, "--port", "0"});
+    ASSERT_TRUE(printer.waitFor("ready on"));
+    EXPECT_THAT(client("snmpset", printer, "mirror", {cell(".1.1.1"), "i", "5"}).output, HasSubstr("noSuchName"));
+    m_folder.write("snmp.conf", "mibs :\ntimeout 1\nretries 0\n");
+    EXPECT_THAT(client("snmpget", printer, "public", {cell(".1.1.1")}).output, HasSubstr("Timeout"));
+}
+
+TEST_F(Ql70sim, ListensOnOtherAddresses)
+{
+    ProgramUnderTest printer({kSimulator, "--port", "0", "--address", "127.0.0.2"});
+    ASSERT_TRUE(printer.waitFor("ready on 127.0.0.2 port "));
+    EXPECT_EQ(printer.stop(), 0);
+}
+
+} // namespace

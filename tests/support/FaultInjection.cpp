@@ -1,0 +1,167 @@
+// Preloaded into a program under test: makes one of its calls on files fail, fall short or never happen.
+//
+// FAULT=CALL:N:ACTION   the N-th call (counted from 1) of that name; CALL "any" counts all of them
+//   ACTION  ENOSPC, EIO, EROFS   the call fails with that error
+//           SHORT                a write takes only half of its bytes
+//           KILL                 the process dies by SIGKILL before the call
+//           TORN                 a write takes half of its bytes, then the process dies
+//           SWAP                 before the call, the name in FAULT_NAME becomes a symbolic link to FAULT_TARGET
+// FAULT_LOG=FILE        each call's name is appended to the file, one a line
+//
+// write and pwrite count as "write", fsync and fdatasync as "fsync", rename and renameat as "rename". Calls on
+// descriptors up to 2 are left alone and not counted.
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <string>
+#include <string_view>
+#include <sys/syscall.h>
+#include <sys/types.h>
+#include <unistd.h>
+
+namespace {
+
+struct ErrorRow
+{
+    std::string_view name;
+    int error;
+};
+constexpr ErrorRow kErrors[] = {{"ENOSPC", ENOSPC}, {"EIO", EIO}, {"EROFS", EROFS}};
+
+template <typename Function> Function *next(const char *name)
+{
+    return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
+}
+
+void logCall(std::string_view call)
+{
+    const char *file = std::getenv("FAULT_LOG");
+    if (!file)
+        return;
+    const int log = static_cast<int>(syscall(SYS_openat, AT_FDCWD, file, O_WRONLY | O_APPEND | O_CREAT, 0666));
+    const std::string line = std::string(call) + '\n';
+    syscall(SYS_write, log, line.data(), line.size());
+    syscall(SYS_close, log);
+}
+
+void swapName()
+{
+    const char *name = std::getenv("FAULT_NAME");
+    const char *target = std::getenv("FAULT_TARGET");
+    if (!name || !target)
+        std::abort();
+    syscall(SYS_unlinkat, AT_FDCWD, name, 0);
+    syscall(SYS_symlinkat, target, AT_FDCWD, name);
+}
+
+enum class Fate { Normal, Fail, Short, Torn };
+
+// What is to become of this call; dies or sets errno where that is the fault.
+Fate fateOf(std::string_view call)
+{
+    static int calls = 0;
+    logCall(call);
+    const char *setting = std::getenv("FAULT");
+    if (!setting)
+        return Fate::Normal;
+    const std::string_view fault(setting);
+    const size_t first = fault.find(':');
+    const size_t second = fault.find(':', first + 1);
+    const std::string_view action = fault.substr(second + 1);
+    if ((fault.substr(0, first) != call && fault.substr(0, first) != "any") ||
+        ++calls != std::atoi(setting + first + 1))
+        return Fate::Normal;
+    if (action == "KILL")
+        std::raise(SIGKILL);
+    if (action == "SWAP")
+        swapName();
+    for (const ErrorRow &row : kErrors) {
+        if (row.name == action) {
+            errno = row.error;
+            return Fate::Fail;
+        }
+    }
+    return action == "SHORT" ? Fate::Short : action == "TORN" ? Fate::Torn : Fate::Normal;
+}
+
+// A write of that many bytes, done by `write` for as many as the fault leaves.
+template <typename Write> ssize_t faultyWrite(int descriptor, size_t size, Write write)
+{
+    if (descriptor <= STDERR_FILENO)
+        return write(size);
+    const Fate fate = fateOf("write");
+    if (fate == Fate::Fail)
+        return -1;
+    const ssize_t written = write(fate == Fate::Normal || size < 2 ? size : size / 2);
+    if (fate == Fate::Torn)
+        std::raise(SIGKILL);
+    return written;
+}
+
+} // namespace
+
+#pragma GCC visibility push(default)
+extern "C" {
+
+ssize_t write(int descriptor, const void *bytes, size_t size)
+{
+    return faultyWrite(descriptor, size, [&](size_t part) {
+        return next<ssize_t(int, const void *, size_t)>("write")(descriptor, bytes, part);
+    });
+}
+
+ssize_t pwrite(int descriptor, const void *bytes, size_t size, off_t offset)
+{
+    return faultyWrite(descriptor, size, [&](size_t part) {
+        return next<ssize_t(int, const void *, size_t, off_t)>("pwrite")(descriptor, bytes, part, offset);
+    });
+}
+
+ssize_t pwrite64(int descriptor, const void *bytes, size_t size, off64_t offset)
+{
+    return pwrite(descriptor, bytes, size, offset);
+}
+
+int fsync(int descriptor)
+{
+    return fateOf("fsync") == Fate::Fail ? -1 : next<int(int)>("fsync")(descriptor);
+}
+
+int fdatasync(int descriptor)
+{
+    return fateOf("fsync") == Fate::Fail ? -1 : next<int(int)>("fdatasync")(descriptor);
+}
+
+int ftruncate(int descriptor, off_t size) noexcept
+{
+    return fateOf("ftruncate") == Fate::Fail ? -1 : next<int(int, off_t)>("ftruncate")(descriptor, size);
+}
+
+int rename(const char *from, const char *to) noexcept
+{
+    return fateOf("rename") == Fate::Fail ? -1 : next<int(const char *, const char *)>("rename")(from, to);
+}
+
+int renameat(int fromFolder, const char *from, int toFolder, const char *to) noexcept
+{
+    return fateOf("rename") == Fate::Fail
+               ? -1
+               : next<int(int, const char *, int, const char *)>("renameat")(fromFolder, from, toFolder, to);
+}
+
+int unlinkat(int folder, const char *name, int flags) noexcept
+{
+    return fateOf("unlink") == Fate::Fail ? -1 : next<int(int, const char *, int)>("unlinkat")(folder, name, flags);
+}
+
+int flock(int descriptor, int operation) noexcept
+{
+    return fateOf("flock") == Fate::Fail ? -1 : next<int(int, int)>("flock")(descriptor, operation);
+}
+
+} // extern "C"
+#pragma GCC visibility pop
