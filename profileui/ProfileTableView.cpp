@@ -108,7 +108,7 @@ void ProfileTableView::keyboardSearch(const QString &search)
     m_sinceTyped.start();
     m_typed = goesOn ? m_typed + search : search;
     // The same letter again and again walks through the rows that begin with it.
-    const bool sameLetter = m_typed.count(m_typed.at(0)) == m_typed.size();
+    const bool sameLetter = m_typed.count(m_typed.at(0), Qt::CaseInsensitive) == m_typed.size();
     const QString wanted = sameLetter ? m_typed.left(1) : m_typed;
     int start = std::max(selectedRow(), 0);
     if (selectedRow() >= 0 && wanted.size() == 1)
@@ -129,11 +129,27 @@ void ProfileTableView::toggleCheckMark()
     model()->setData(mark, checked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
 }
 
+int ProfileTableView::rowForKey(int key) const
+{
+    const int rows = model() ? model()->rowCount() : 0;
+    if (key == Qt::Key_Home)
+        return rows > 0 ? 0 : -1;
+    if (key == Qt::Key_End)
+        return rows - 1;
+    // The cursor stands on the first row already when the table gets the focus, so an arrow key would pass it by.
+    const bool arrow = key == Qt::Key_Down || key == Qt::Key_Up;
+    return arrow && selectedRow() < 0 && rows > 0 ? 0 : -1;
+}
+
 void ProfileTableView::keyPressEvent(QKeyEvent *event)
 {
+    const bool plain = event->modifiers() == Qt::NoModifier;
+    const int row = plain ? rowForKey(event->key()) : -1;
     // Space is for the row's check mark, in whichever column the cursor is.
-    if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier)
+    if (plain && event->key() == Qt::Key_Space)
         toggleCheckMark();
+    else if (row >= 0)
+        selectRow(row);
     else
         QTableView::keyPressEvent(event);
 }

@@ -54,6 +54,8 @@ protected:
 
 private:
     void toggleCheckMark();
+    // The row that a key goes to where the table's own keys would go elsewhere, or -1.
+    int rowForKey(int key) const;
 
     QString m_typed;
     QElapsedTimer m_sinceTyped;
