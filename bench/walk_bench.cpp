@@ -123,16 +123,16 @@ std::vector<std::string> printerCommand()
     return {BV_BUILD_DIR "/bin/ql70sim", "--port", "0", "--fault", "rows-500", "--count"};
 }
 
-void configure(const bv::test::ListRoot &root, long port)
+void configure(const bvtest::ListRoot &root, long port)
 {
-    root.folder().write("snmp/snmp.conf", "mibs :\ndefaultPort " + std::to_string(port) + "\n");
-    setenv("SNMPCONFPATH", root.folder().file("snmp").c_str(), 1);
+    root.write("snmp/snmp.conf", "mibs :\ndefaultPort " + std::to_string(port) + "\n");
+    setenv("SNMPCONFPATH", root.file("snmp").c_str(), 1);
 }
 
 // The requests that one run makes, counted by a printer of its own.
-long requestsOf(const bv::test::ListRoot &root, const std::vector<std::string> &command)
+long requestsOf(const bvtest::ListRoot &root, const std::vector<std::string> &command)
 {
-    bv::test::ProgramUnderTest printer(printerCommand());
+    bvtest::ProgramUnderTest printer(printerCommand());
     printer.waitFor("ready on");
     configure(root, printer.numberBehind(" port "));
     timed(command);
@@ -148,19 +148,19 @@ int main(int argc, char **argv)
         return walkHere(argv[2]);
     const int pairs = argc > 1 ? std::max(1, std::atoi(argv[1])) : 21;
 
-    const bv::test::ListRoot root;
-    setenv("SNMP_PERSISTENT_DIR", root.folder().path().c_str(), 1);
+    const bvtest::ListRoot root;
+    setenv("SNMP_PERSISTENT_DIR", root.folder().string().c_str(), 1);
     const std::string host = "127.0.0.1";
     Contender contenders[] = {
         {"snmpwalk", {"snmpwalk", "-Os", "-c", "mirror", "-v", "1", host, kRoot}},
         {"mib_walk", {argv[0], "--walk", host}},
         {"QL70Helper",
-         {root.folder().path() + kHelperPath, "mibwalk_XPC", "QL70", bv::loginName(), "snmpwalk", "-Os", "-c", "mirror",
-          "-v", "1", host, kRoot}},
+         {root.folder().string() + kHelperPath, "mibwalk_XPC", "QL70", bv::loginName(), "snmpwalk", "-Os", "-c",
+          "mirror", "-v", "1", host, kRoot}},
     };
 
     std::printf("%-12s %10s %10s %12s %11s %10s\n", "", "wall ms", "CPU ms", "wall ratio", "CPU ratio", "requests");
-    bv::test::ProgramUnderTest printer(printerCommand());
+    bvtest::ProgramUnderTest printer(printerCommand());
     if (!printer.waitFor("ready on")) {
         std::fputs(printer.output().c_str(), stderr);
         return 1;
