@@ -4,6 +4,7 @@
 #include "common/PDECommon.h"
 
 #include "support/ListRoot.h"
+#include "support/ProgramUnderTest.h"
 
 #include "platform/UserName.h"
 #include "profiles/ProfileOperations.h"
@@ -12,8 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
-#include <fstream>
-#include <sstream>
+#include <memory>
 
 namespace {
 
@@ -122,8 +122,8 @@ class WholeRefresh : public testing::Test
 protected:
     void configure(long port)
     {
-        m_root.folder().write("snmp/snmp.conf", "timeout 1\nretries 0\ndefaultPort " + std::to_string(port) + "\n");
-        setenv("SNMPCONFPATH", m_root.folder().file("snmp").c_str(), 1);
+        m_root.write("snmp/snmp.conf", "timeout 1\nretries 0\ndefaultPort " + std::to_string(port) + "\n");
+        setenv("SNMPCONFPATH", m_root.file("snmp").c_str(), 1);
     }
 
     static void refresh()
@@ -146,34 +146,29 @@ protected:
         return names;
     }
 
-    static std::string contents(const std::string &path)
-    {
-        std::ostringstream text;
-        text << std::ifstream(path).rdbuf();
-        return text.str();
-    }
+    static std::string previousFile() { return bv::mapRootPath(bv::profilePaths().previous); }
 
-    bv::test::ListRoot m_root;
+    bvtest::ListRoot m_root;
 };
 
 TEST_F(WholeRefresh, TheListFollowsThePrinter)
 {
-    const std::string list = m_root.folder().write("list", "1 disk ONE.ICC One 1 1\n2 disk TWO.ICC Two 1 1\n");
-    bv::test::ProgramUnderTest printer({BV_BUILD_DIR "/bin/ql70sim", "--port", "0", "--profiles", list});
+    const std::string list = m_root.write("list", "1 disk ONE.ICC One 1 1\n2 disk TWO.ICC Two 1 1\n");
+    bvtest::ProgramUnderTest printer({BV_BUILD_DIR "/bin/ql70sim", "--port", "0", "--profiles", list});
     ASSERT_TRUE(printer.waitFor("ready on"));
     configure(printer.numberBehind(" port "));
 
     refresh();
     EXPECT_THAT(rgbList(), ElementsAre("ONE.ICC=2", "TWO.ICC=2"));
-    EXPECT_FALSE(std::filesystem::exists(m_root.previousFile())) << "there was nothing to keep before";
-    const std::string first = contents(m_root.currentFile());
+    EXPECT_FALSE(std::filesystem::exists(previousFile())) << "there was nothing to keep before";
+    const std::string first = bvtest::TestRoot::readFile(bvtest::TestRoot::listFile());
 
-    m_root.folder().write("list", "1 card THREE.ICC Three 2 1\n2 disk TWO.ICC Two 1 1\n");
+    m_root.write("list", "1 card THREE.ICC Three 2 1\n2 disk TWO.ICC Two 1 1\n");
     printer.signal(SIGHUP);
     ASSERT_TRUE(printer.waitFor("list read again"));
     refresh();
     EXPECT_THAT(rgbList(), ElementsAre("ONE.ICC=1", "TWO.ICC=2", "THREE.ICC=2"));
-    EXPECT_EQ(contents(m_root.previousFile()), first);
+    EXPECT_EQ(bvtest::TestRoot::readFile(previousFile()), first);
 
     EXPECT_EQ(printer.stop(), 0);
     refresh();
@@ -182,7 +177,7 @@ TEST_F(WholeRefresh, TheListFollowsThePrinter)
 
 TEST_F(WholeRefresh, NothingThePrinterSendsBreaksTheFile)
 {
-    bv::test::ProgramUnderTest printer({BV_BUILD_DIR "/bin/ql70sim", "--port", "0", "--fault", "odd-texts"});
+    bvtest::ProgramUnderTest printer({BV_BUILD_DIR "/bin/ql70sim", "--port", "0", "--fault", "odd-texts"});
     ASSERT_TRUE(printer.waitFor("ready on"));
     configure(printer.numberBehind(" port "));
     refresh();

@@ -17,8 +17,8 @@
 
 namespace {
 
-using bv::test::ProgramUnderTest;
-using bv::test::ScratchFolder;
+using bvtest::ProgramUnderTest;
+using bvtest::ScratchFolder;
 using testing::ElementsAre;
 using testing::StartsWith;
 
@@ -321,7 +321,7 @@ TEST_F(ProfileWalk, ReadsTheTableOfTheStockDaemon)
     int port = 0;
     // Another process may take the port between the choice and the start.
     for (int attempt = 0; attempt < 5 && !daemon; ++attempt) {
-        port = bv::test::freeUdpPort();
+        port = bvtest::freeUdpPort();
         const std::string configuration =
             m_folder.write("snmpd/snmpd.conf", "agentAddress udp:" + at(port) +
                                                    "\nrocommunity mirror 127.0.0.1\n"

@@ -171,7 +171,7 @@ protected:
         return lists;
     }
 
-    bv::test::ListRoot m_root;
+    bvtest::ListRoot m_root;
     std::unique_ptr<Lists> m_stored = std::make_unique<Lists>();
 };
 
@@ -254,7 +254,7 @@ TEST_F(ReconciliationOfFile, RecordsWithoutADeviceIndexAreCleanedAway)
 
 TEST_F(ReconciliationOfFile, AListThatCannotBeReadStartsEmpty)
 {
-    m_root.folder().write(bv::profilePaths().current.substr(1), "<plist>broken");
+    bvtest::TestRoot::writeList("<plist>broken");
     spoolRows({record(1, 0, "NEW.ICC")});
     EXPECT_THAT(shown(reconciled(0)->rgb), ElementsAre("NEW.ICC/4=2"));
 }

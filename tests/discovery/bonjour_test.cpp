@@ -5,6 +5,7 @@
 #include "common/PDECommon.h"
 
 #include "support/ListRoot.h"
+#include "support/ProgramUnderTest.h"
 
 #include "discovery/DeviceAddress.h"
 #include "profiles/ProfileOperations.h"
@@ -18,7 +19,7 @@
 
 namespace {
 
-using bv::test::ProgramUnderTest;
+using bvtest::ProgramUnderTest;
 using testing::Eq;
 using testing::Optional;
 
@@ -90,9 +91,9 @@ TEST(Bonjour, NamesThatCannotBeServicesAreRefused)
 
 TEST(Bonjour, TheRefreshReachesThePrinterBehindTheName)
 {
-    const bv::test::ListRoot root;
-    root.folder().write("snmp/snmp.conf", ""); // the library's own port: here it may be opened
-    setenv("SNMPCONFPATH", root.folder().file("snmp").c_str(), 1);
+    const bvtest::ListRoot root;
+    root.write("snmp/snmp.conf", ""); // the library's own port: here it may be opened
+    setenv("SNMPCONFPATH", root.file("snmp").c_str(), 1);
     ProgramUnderTest printer({BV_BUILD_DIR "/bin/ql70sim", "--port", "161", "--address", kAddress, "--count"});
     ASSERT_TRUE(printer.waitFor("ready on")) << printer.output();
     const Publisher publisher("QL70 walk");

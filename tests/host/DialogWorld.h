@@ -1,6 +1,5 @@
 // The world of the dialog's tests: a folder of its own, PPD files, a source of queues that can fail, and a panel that
-// is not ours. TESTED_PANEL and TESTED_PPD in the environment put another plug-in and PPD in their place where a test
-// says so.
+// is not ours.
 #pragma once
 
 #include "host/PanelLoader.h"
@@ -18,7 +17,7 @@ namespace bvtest {
 // A PPD with the foreign panel's option, paper, two-sided printing and two rules of what does not go together.
 inline QByteArray panelPpd()
 {
-    return R"(*PPD-Adobe: "4.3"
+    return R"ppd(*PPD-Adobe: "4.3"
 *FormatVersion: "4.3"
 *FileVersion: "1.0"
 *LanguageVersion: English
@@ -53,7 +52,7 @@ inline QByteArray panelPpd()
 *UIConstraints: *Duplex DuplexNoTumble *PageSize A6
 *UIConstraints: *TPToner Save *PageSize A6
 *UIConstraints: *PageSize A6 *TPToner Save
-)";
+)ppd";
 }
 
 // The same without anything that the panel is for.

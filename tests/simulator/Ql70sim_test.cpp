@@ -11,8 +11,8 @@
 
 namespace {
 
-using bv::test::ProgramUnderTest;
-using bv::test::ScratchFolder;
+using bvtest::ProgramUnderTest;
+using bvtest::ScratchFolder;
 using testing::HasSubstr;
 
 constexpr char kSimulator[] = BV_BUILD_DIR "/bin/ql70sim";

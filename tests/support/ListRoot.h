@@ -1,36 +1,32 @@
-// A root folder of a test's own with the helper installed and the folder of the list files made.
+// A scratch root with the real helper in its place.
 #pragma once
 
-#include "support/ProgramUnderTest.h"
+#include "support/TestRoot.h"
 
-#include "profiles/HelperRequest.h"
-#include "profiles/ProfilePaths.h"
+namespace bvtest {
 
-#include <cstdlib>
-#include <filesystem>
-#include <memory>
-
-namespace bv::test {
-
-class ListRoot
+class ListRoot : public TestRoot
 {
 public:
     ListRoot()
     {
-        namespace fs = std::filesystem;
-        setenv("BVCO_ROOT", m_folder.path().c_str(), 1);
-        fs::create_directories(m_folder.path() + kProfileFolder);
-        const fs::path helper = m_folder.path() + kHelperPath;
-        fs::create_directories(helper.parent_path());
-        fs::create_symlink(BV_BUILD_DIR "/bin/QL70Helper", helper);
+        installHelper({}); // makes the folder
+        const std::filesystem::path helper = bv::mapRootPath(kHelperPath);
+        std::filesystem::remove(helper);
+        std::filesystem::create_symlink(BV_BUILD_DIR "/bin/QL70Helper", helper);
     }
 
-    const ScratchFolder &folder() const { return m_folder; }
-    std::string currentFile() const { return m_folder.path() + profilePaths().current; }
-    std::string previousFile() const { return m_folder.path() + profilePaths().previous; }
+    // The path of a file in the root's folder.
+    std::string file(std::string_view name) const { return (folder() / name).string(); }
 
-private:
-    ScratchFolder m_folder;
+    // Writes one and yields its path.
+    std::string write(std::string_view name, std::string_view text) const
+    {
+        const std::filesystem::path path = file(name);
+        std::filesystem::create_directories(path.parent_path());
+        std::ofstream(path, std::ios::binary) << text;
+        return path.string();
+    }
 };
 
-} // namespace bv::test
+} // namespace bvtest

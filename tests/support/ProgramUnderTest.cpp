@@ -21,7 +21,7 @@
 
 extern char **environ;
 
-namespace bv::test {
+namespace bvtest {
 
 using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
@@ -153,4 +153,4 @@ int freeUdpPort()
     return ntohs(address.sin_port);
 }
 
-} // namespace bv::test
+} // namespace bvtest

@@ -8,7 +8,7 @@
 
 #include <sys/types.h>
 
-namespace bv::test {
+namespace bvtest {
 
 class ProgramUnderTest
 {
@@ -64,4 +64,4 @@ private:
 // A UDP port of the loopback address that is free at this moment.
 int freeUdpPort();
 
-} // namespace bv::test
+} // namespace bvtest

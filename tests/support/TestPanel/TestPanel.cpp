@@ -43,6 +43,7 @@ QTableView *makeTable(QWidget *parent)
     table->setObjectName(QStringLiteral("paperTable"));
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->setTabKeyNavigation(false); // Tab leaves the table, so that no key is caught in it
     table->setModel(new PaperTable(table));
     table->setAccessibleName(QStringLiteral("Papers"));
     return table;

@@ -1,0 +1,100 @@
+// Takes any bytes as the variables of a walk and merges what the spool then holds. Nothing outside the slots may
+// change, and no list may get a profile that the name rule refuses.
+#include "discovery/FileNameRule.h"
+#include "discovery/ProfileSpool.h"
+#include "discovery/Reconciliation.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <vector>
+
+namespace {
+
+void require(bool holds)
+{
+    if (!holds)
+        std::abort();
+}
+
+// Reads the input piece by piece; zeros when it is at its end.
+class Input
+{
+public:
+    Input(const uint8_t *data, size_t size) : m_data(data), m_left(size) {}
+    bool atEnd() const { return m_left == 0; }
+    uint8_t byte()
+    {
+        if (m_left == 0)
+            return 0;
+        --m_left;
+        return *m_data++;
+    }
+    std::vector<u_char> bytes(size_t count)
+    {
+        std::vector<u_char> taken(std::min(count, m_left));
+        std::generate(taken.begin(), taken.end(), [this] { return byte(); });
+        return taken;
+    }
+
+private:
+    const uint8_t *m_data;
+    size_t m_left;
+};
+
+// One variable: column, row, length of the identifier, type, value.
+void spoolOne(Input *input)
+{
+    std::vector<oid> name(bv::kProfileEntryOid.begin(), bv::kProfileEntryOid.end());
+    name.push_back(input->byte() % 9);
+    name.push_back(1);
+    name.push_back(static_cast<oid>(input->byte()) << 1 | (input->byte() & 1U));
+    name.resize(input->byte() % 8 == 0 ? input->byte() % 24 : name.size());
+    long number = static_cast<int8_t>(input->byte());
+    const uint8_t kind = input->byte();
+    std::vector<u_char> text = input->bytes(kind >> 1);
+    netsnmp_variable_list variable{};
+    if (kind & 1) {
+        variable.type = ASN_INTEGER;
+        variable.val.integer = &number;
+        variable.val_len = sizeof(number);
+    } else {
+        variable.type = ASN_OCTET_STR;
+        variable.val.string = text.data();
+        variable.val_len = text.size();
+    }
+    vSpoolPlist(name.data(), name.size(), &variable, 0);
+}
+
+struct Guarded
+{
+    char before[64];
+    ProfileList list;
+    char after[64];
+};
+
+Guarded guarded;
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    Input input(data, size);
+    vSpoolPlist(nullptr, 0, nullptr, 1);
+    guarded = {};
+    guarded.list.count = static_cast<int8_t>(input.byte()) * 8; // counts are kept as they fall
+    const int32_t status = input.byte() & 1;
+    while (!input.atEnd())
+        spoolOne(&input);
+    vDeleteMIBprofilesTemporary(status, &guarded.list);
+    for (int32_t row = 0; row < kProfileSlots; ++row) {
+        if (bJudgement8point3Format(bv::fieldText(PlistForSpool.records[row].FileName)))
+            vRestructDetail(row, &guarded.list);
+    }
+    for (const ProfileRecord &record : guarded.list.records)
+        require(record.InMenu == 0 || bJudgement8point3Format(bv::fieldText(record.FileName)));
+    const Guarded clean{};
+    require(std::memcmp(guarded.before, clean.before, sizeof(clean.before)) == 0);
+    require(std::memcmp(guarded.after, clean.after, sizeof(clean.after)) == 0);
+    return 0;
+}

@@ -1,0 +1,192 @@
+// The keyboard alone: tabs through the whole dialog, with a foreign pane and with ours, and fails on a control that is
+// not reached or that nobody can name. BVPRINT_TESTED_PANEL and BVPRINT_TESTED_PPD put another plug-in to the test.
+#include "DialogWorld.h"
+
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTest>
+
+using namespace bv;
+
+namespace {
+
+struct TestedPane
+{
+    const char *name;
+    QString plugin;
+    QString ppd; // empty: the foreign panel's own
+    // Buttons that bring other controls into sight, pressed one after the other.
+    QStringList turnings;
+};
+
+std::vector<TestedPane> testedPanes()
+{
+    std::vector<TestedPane> panes = {
+        {"Foreign", BV_BUILD_DIR "/tests/testpanel.so", QString(), {}},
+        {"Ours", BV_BUILD_DIR "/lib/bvco/bvco.so", BV_SOURCE_DIR "/resources/QL70.ppd", {"button_AdvanceColorOptions"}},
+    };
+    const QString other = qEnvironmentVariable("BVPRINT_TESTED_PANEL");
+    if (!other.isEmpty())
+        panes.push_back({"Other", other, qEnvironmentVariable("BVPRINT_TESTED_PPD"), {}});
+    return panes;
+}
+
+class Keyboard : public bvtest::DialogTest, public ::testing::WithParamInterface<TestedPane>
+{
+protected:
+    void SetUp() override
+    {
+        // Whatever the pane would open of the system, it finds none of it here.
+        qputenv("BVCO_ROOT", folder.path().toUtf8());
+        DialogTest::SetUp();
+        loadPlugin(GetParam().plugin);
+        if (!GetParam().ppd.isEmpty())
+            source.ppdPaths["Paper"] = GetParam().ppd;
+        open();
+        dialog->resize(1024, 600);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
+    }
+
+    void TearDown() override
+    {
+        DialogTest::TearDown();
+        qunsetenv("BVCO_ROOT");
+    }
+
+    // The controls in sight that the keyboard is to reach.
+    QList<QWidget *> controls()
+    {
+        QList<QWidget *> found;
+        for (QWidget *widget : dialog->findChildren<QWidget *>()) {
+            const bool takesFocus = (widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->focusProxy();
+            if (takesFocus && widget->isVisible() && widget->isEnabled() && !qobject_cast<QScrollBar *>(widget) &&
+                !qobject_cast<QAbstractSpinBox *>(widget->parentWidget()) &&
+                !qobject_cast<QComboBox *>(widget->parentWidget()))
+                found << widget;
+        }
+        return found;
+    }
+
+    // Presses Tab until the focus comes round; the widgets that had it, in order.
+    QList<QWidget *> tabRound(Qt::Key key)
+    {
+        QList<QWidget *> reached;
+        for (int presses = 0; presses < 1000; ++presses) {
+            QWidget *focus = QApplication::focusWidget();
+            if (!focus || reached.contains(focus))
+                break;
+            reached << focus;
+            QTest::keyClick(focus, key);
+        }
+        return reached;
+    }
+
+    // Arrow keys go through a group of radio buttons, so one of them is enough.
+    static bool reachedByArrows(QWidget *widget, const QList<QWidget *> &reached)
+    {
+        if (!qobject_cast<QRadioButton *>(widget))
+            return false;
+        return std::any_of(reached.begin(), reached.end(), [widget](QWidget *other) {
+            return qobject_cast<QRadioButton *>(other) && other->parentWidget() == widget->parentWidget();
+        });
+    }
+
+    // A name that does not change with the value: a combo box without one would answer its current text.
+    bool hasName(const QWidget *widget)
+    {
+        if (!widget->accessibleName().isEmpty() || qobject_cast<const QTabBar *>(widget))
+            return true;
+        if (const auto *button = qobject_cast<const QAbstractButton *>(widget); button && !button->text().isEmpty())
+            return true;
+        if (const auto *box = qobject_cast<const QGroupBox *>(widget); box && !box->title().isEmpty())
+            return true;
+        const QList<QLabel *> labels = dialog->findChildren<QLabel *>();
+        return std::any_of(labels.begin(), labels.end(), [widget](const QLabel *label) {
+            return label->buddy() == widget && !label->text().isEmpty();
+        });
+    }
+
+    static std::string describe(const QWidget *widget)
+    {
+        return std::string(widget->metaObject()->className()) + " \"" + widget->objectName().toStdString() + "\"";
+    }
+
+    void expectAllReached(const std::string &where)
+    {
+        dialog->parts().print->setFocus();
+        ASSERT_NE(QApplication::focusWidget(), nullptr);
+        const QList<QWidget *> forward = tabRound(Qt::Key_Tab);
+        for (QWidget *widget : controls()) {
+            EXPECT_TRUE(forward.contains(widget) || reachedByArrows(widget, forward))
+                << where << ": not reached: " << describe(widget);
+            EXPECT_TRUE(hasName(widget)) << where << ": no name: " << describe(widget);
+        }
+        dialog->parts().print->setFocus();
+        const QList<QWidget *> backward = tabRound(Qt::Key_Backtab);
+        EXPECT_EQ(forward.size(), backward.size()) << where;
+    }
+
+    void expectAllPagesReached(const std::string &where)
+    {
+        expectAllReached(where);
+        for (QTabWidget *tabs : dialog->findChildren<QTabWidget *>()) {
+            for (int page = 1; tabs->isVisible() && page < tabs->count(); ++page) {
+                tabs->setCurrentIndex(page);
+                expectAllReached(where + ", " + tabs->tabText(page).toStdString());
+            }
+        }
+    }
+};
+
+TEST_P(Keyboard, ReachesEveryControlAndEachHasAName)
+{
+    expectAllPagesReached(GetParam().name);
+    for (const QString &turning : GetParam().turnings) {
+        auto *button = find<QPushButton>(turning.toLatin1());
+        ASSERT_NE(button, nullptr);
+        QTest::keyClick(button, Qt::Key_Space);
+        QCoreApplication::processEvents();
+        expectAllPagesReached(GetParam().name + std::string(" after ") + turning.toStdString());
+    }
+}
+
+TEST_P(Keyboard, GoesThroughTheWindowFromTopToBottom)
+{
+    dialog->parts().print->setFocus();
+    const QList<QWidget *> round = tabRound(Qt::Key_Tab);
+    QStringList names;
+    for (const QWidget *widget : round)
+        names << widget->objectName();
+    const QWidget *pane = dialog->findChild<QWidget *>("paneArea");
+    const auto firstOfPane =
+        std::find_if(round.begin(), round.end(), [&](QWidget *w) { return pane->isAncestorOf(w); });
+    ASSERT_NE(firstOfPane, round.end());
+    const qsizetype paneAt = firstOfPane - round.begin();
+    EXPECT_LT(names.indexOf("printer"), names.indexOf("documentList"));
+    EXPECT_LT(names.indexOf("documentList"), names.indexOf("copies"));
+    EXPECT_LT(names.indexOf("copies"), names.indexOf("row_PageSize"));
+    EXPECT_LT(names.indexOf("row_PageSize"), paneAt);
+    EXPECT_LT(paneAt, names.indexOf("summaryView"));
+    EXPECT_LT(names.indexOf("summaryView"), names.indexOf("restoreDefaults"));
+    EXPECT_LT(names.indexOf("restoreDefaults"), names.indexOf("cancel"));
+}
+
+TEST_P(Keyboard, FitsASmallScreen)
+{
+    EXPECT_LE(dialog->minimumSizeHint().width(), 1024);
+    EXPECT_LE(dialog->minimumSizeHint().height(), 560);
+}
+
+INSTANTIATE_TEST_SUITE_P(Panes, Keyboard, ::testing::ValuesIn(testedPanes()),
+                         [](const auto &info) { return std::string(info.param.name); });
+
+} // namespace
