@@ -167,7 +167,9 @@ int main(int argc, char **argv)
     }
     configure(root, printer.numberBehind(" port "));
     for (int pair = 0; pair <= pairs; ++pair) {
-        for (Contender &contender : contenders) {
+        // Each round begins with another one, so none has always the same one before it.
+        for (size_t i = 0; i < std::size(contenders); ++i) {
+            Contender &contender = contenders[(i + static_cast<size_t>(pair)) % std::size(contenders)];
             const Sample sample = timed(contender.command);
             if (pair > 0) // the first round warms the caches
                 contender.samples.push_back(sample);
