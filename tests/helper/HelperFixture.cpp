@@ -9,9 +9,11 @@
 #include <filesystem>
 #include <fstream>
 #include <grp.h>
+#include <linux/capability.h>
 #include <poll.h>
 #include <pwd.h>
 #include <sstream>
+#include <sys/prctl.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -218,6 +220,15 @@ bool inAnotherProcess(const std::function<bool()> &function)
     int status = 0;
     waitpid(child, &status, 0);
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+bool underPermissions(const std::function<bool()> &function)
+{
+    return inAnotherProcess([&] {
+        for (const int capability : {CAP_DAC_OVERRIDE, CAP_DAC_READ_SEARCH, CAP_FOWNER})
+            prctl(PR_CAPBSET_DROP, capability);
+        return function();
+    });
 }
 
 } // namespace bvtest

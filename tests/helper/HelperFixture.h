@@ -74,4 +74,7 @@ std::string listText(std::string_view mark, int entries = 1);
 // Runs a function in a child process; its result.
 bool inAnotherProcess(const std::function<bool()> &function);
 
+// The same in a process whose children obey permissions like anybody else, even where root runs the tests.
+bool underPermissions(const std::function<bool()> &function);
+
 } // namespace bvtest

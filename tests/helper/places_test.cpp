@@ -1,12 +1,9 @@
 // What stands in the place of a list, its copy or the staging file is used only if it is the user's plain file.
 #include "helper/HelperFixture.h"
 
+#include <algorithm>
 #include <filesystem>
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <sys/un.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 namespace bvtest {
 

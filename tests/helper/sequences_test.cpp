@@ -1,6 +1,9 @@
 // To whom a sequence of pieces belongs, and what becomes of one that was given up.
 #include "helper/HelperFixture.h"
 
+#include <fcntl.h>
+#include <future>
+#include <sys/file.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -50,10 +53,23 @@ TEST_F(Sequences, AFileThatNoRequestLeftIsNobodysSequence)
     put(staging(), listText("planted"));
     EXPECT_TRUE(answers(false, {kPiece, url(), " "}));
     EXPECT_TRUE(answers(false, {kCommit, url()}));
-    EXPECT_EQ(contents(current()), std::nullopt);
+    EXPECT_EQ(names(), "");
     put(staging(), listText("planted"));
     EXPECT_TRUE(writeList(listText("new")));
     EXPECT_EQ(contents(current()), listText("new"));
+}
+
+TEST_F(Sequences, AWriterWaitsUntilTheOtherOneIsDone)
+{
+    const int lock = open(folder().c_str(), O_RDONLY | O_CLOEXEC);
+    ASSERT_EQ(flock(lock, LOCK_EX), 0);
+    auto waiting = std::async(std::launch::async, [&] { return writeList(listText("waiting")); });
+    usleep(100000);
+    EXPECT_EQ(names(), "");
+    EXPECT_TRUE(answers(true, {"bvPListIsAdminProfile_XPC", current()}));
+    close(lock);
+    EXPECT_TRUE(waiting.get());
+    EXPECT_EQ(contents(current()), listText("waiting"));
 }
 
 TEST_F(Sequences, WritersAtOnceNeverMixTheirTexts)

@@ -1,8 +1,9 @@
 // The walk request: its words, its login name, and what it writes without a printer.
 #include "helper/HelperFixture.h"
 
-#include <fstream>
 #include <filesystem>
+#include <fstream>
+#include <sys/stat.h>
 
 namespace bvtest {
 
@@ -87,6 +88,16 @@ TEST_F(WalkRequest, AHostThatDoesNotResolveIsAWalkThatRan)
     // The reconciliation wrote an empty list through the same commit.
     EXPECT_EQ(names(), m_login + "-QL70-profile.plist");
     EXPECT_TRUE(contents(current()).value_or("").starts_with("<?xml"));
+}
+
+TEST_F(WalkRequest, ACallerWhoMayNotWriteGetsTheStatusAndNoFile)
+{
+    ASSERT_EQ(chmod(folder().c_str(), 0555), 0);
+    EXPECT_TRUE(underPermissions([&] {
+        const RunResult result = run(request("no-such-host.invalid"), privateSettings());
+        return result.output == "mibwalk_XPC=iRet=1\n" && result.exitCode == 0;
+    }));
+    EXPECT_EQ(names(), "");
 }
 
 TEST_F(WalkRequest, ItsListTakesOverFromTheParentsSequence)
