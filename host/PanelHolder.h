@@ -17,6 +17,11 @@ class PaneArea : public QScrollArea
 public:
     explicit PaneArea(QWidget *parent = nullptr);
     QSize sizeHint() const override;
+    // As wide as the pane, up to what a small screen has room for; any height, since the pane scrolls.
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override;
 };
 
 class PanelHolder : public QObject

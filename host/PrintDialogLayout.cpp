@@ -18,6 +18,7 @@
 #include <QPushButton>
 #include <QResizeEvent>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <algorithm>
@@ -26,9 +27,12 @@ namespace bv {
 
 namespace {
 
-// The side column, in average characters, and how wide the window must be for the summary to stand by itself.
+// Widths in average characters: of the side, of a summary that stands by itself, and what the pane is given before the
+// summary may stand so.
 constexpr int kSideCharacters = 44;
+constexpr int kWidestSideCharacters = 58;
 constexpr int kSummaryCharacters = 44;
+constexpr int kPaneCharacters = 66;
 
 QLabel *heading(const QString &text, QWidget *parent)
 {
@@ -179,6 +183,7 @@ void PrintDialogLayout::showQueue(PpdOptionRows *rows, QWidget *pane, const QStr
     m_paneTitle->setText(paneName);
     m_paneTitle->setVisible(!paneName.isEmpty());
     alignLabels(rows);
+    widenSide();
     setTabOrders();
 }
 
@@ -193,11 +198,19 @@ void PrintDialogLayout::resizeEvent(QResizeEvent *event)
     placeSummary();
 }
 
+bool PrintDialogLayout::event(QEvent *event)
+{
+    const bool done = QWidget::event(event);
+    if (event->type() == QEvent::LayoutRequest)
+        placeSummary();
+    return done;
+}
+
 void PrintDialogLayout::placeSummary()
 {
     const int character = fontMetrics().averageCharWidth();
     const int summaryWidth = character * kSummaryCharacters;
-    const int paneWidth = m_place->sizeHint().width();
+    const int paneWidth = std::max(m_place->minimumSizeHint().width(), character * kPaneCharacters);
     const bool aside = width() >= m_side->width() + paneWidth + summaryWidth + 4 * m_middle->spacing();
     if (aside == m_summaryAside)
         return;
@@ -213,6 +226,15 @@ void PrintDialogLayout::placeSummary()
         m_sideColumn->addWidget(m_summaryBox, 2);
     }
     setTabOrders();
+}
+
+// Longer texts, in another language or a PPD, make the side wider, up to where the pane needs the room.
+void PrintDialogLayout::widenSide()
+{
+    const int character = fontMetrics().averageCharWidth();
+    const int content =
+        m_settings->widget()->minimumSizeHint().width() + m_settings->verticalScrollBar()->sizeHint().width();
+    m_side->setFixedWidth(std::clamp(content, character * kSideCharacters, character * kWidestSideCharacters));
 }
 
 // Widgets that come into the window later stand at the end of the chain; whatever belongs behind them is put there

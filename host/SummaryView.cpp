@@ -4,6 +4,7 @@
 #include "platform/HostProtocol.h"
 
 #include <QScrollBar>
+#include <QTextFrame>
 
 namespace bv {
 
@@ -54,6 +55,7 @@ SummaryView::SummaryView(QWidget *parent) : QTextEdit(parent)
     setReadOnly(true);
     setTabChangesFocus(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("Summary"));
     setSizeAdjustPolicy(QAbstractScrollArea::AdjustIgnored);
     document()->setDocumentMargin(6);
@@ -76,7 +78,22 @@ void SummaryView::showSummary(const PrintDictionary &summary)
     }
     const int position = verticalScrollBar()->value();
     setHtml(html + QStringLiteral("</table>"));
+    mirror();
     verticalScrollBar()->setValue(position);
+}
+
+void SummaryView::mirror()
+{
+    for (QTextFrame *frame : document()->rootFrame()->childFrames()) {
+        QTextFrameFormat format = frame->frameFormat();
+        format.setLayoutDirection(layoutDirection());
+        frame->setFrameFormat(format);
+    }
+    QTextBlockFormat direction;
+    direction.setLayoutDirection(layoutDirection());
+    QTextCursor all(document());
+    all.select(QTextCursor::Document);
+    all.mergeBlockFormat(direction);
 }
 
 void SummaryView::showNote(const QString &note)

@@ -31,6 +31,9 @@ public:
     QString plainSummary() const;
 
 private:
+    // Columns and texts run as the window does.
+    void mirror();
+
     Items m_items;
 };
 

@@ -175,7 +175,7 @@ TEST_P(Keyboard, GoesThroughTheWindowFromTopToBottom)
     EXPECT_LT(names.indexOf("documentList"), names.indexOf("copies"));
     EXPECT_LT(names.indexOf("copies"), names.indexOf("row_PageSize"));
     EXPECT_LT(names.indexOf("row_PageSize"), paneAt);
-    EXPECT_LT(paneAt, names.indexOf("summaryView"));
+    EXPECT_LT(paneAt, names.indexOf("summaryView")) << qPrintable(names.join(' '));
     EXPECT_LT(names.indexOf("summaryView"), names.indexOf("restoreDefaults"));
     EXPECT_LT(names.indexOf("restoreDefaults"), names.indexOf("cancel"));
 }
