@@ -1,0 +1,173 @@
+// How long the pane takes from loading the plug-in to the shown and restored view, split by step: medians of 20
+// openings on the project's PPD, on one with ten times the options and on one with ten times the choices, one line
+// each. The marking of conflicts is libcups' own work; it is measured alone, so that it can be set apart.
+#include "common/PDECommon.h"
+#include "platform/Bundle.h"
+#include "platform/HostProtocol.h"
+#include "plugin/PDEPlugInInterface.h"
+#include "support/PaneFixture.h"
+#include "ui_PDEMain.h"
+
+#include "colorrules/OptionConstraints.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QPluginLoader>
+#include <QWidget>
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+#include <map>
+
+namespace {
+
+constexpr int kRuns = 20;
+
+double median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+// Milliseconds that a step takes.
+double timed(const std::function<void()> &step)
+{
+    QElapsedTimer timer;
+    timer.start();
+    step();
+    return double(timer.nsecsElapsed()) / 1e6;
+}
+
+// The project's PPD, with options added that no pane knows and with choices added to the ones that it does.
+QByteArray grownPpd(int moreOptions, int moreChoices)
+{
+    QFile file(QStringLiteral(BV_SOURCE_DIR "/resources/QL70.ppd"));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QByteArray text;
+    QByteArray keyword;
+    QByteArray additional;
+    for (const QByteArray &line : file.readAll().split('\n')) {
+        if (line.startsWith("*OpenUI *BV"))
+            keyword = line.mid(9, line.indexOf('/') - 9);
+        if (line.startsWith("*CloseUI: *BV") && !keyword.isEmpty() && !line.contains("Boolean")) {
+            for (int i = 0; i < moreChoices; ++i)
+                text += '*' + keyword + " More" + QByteArray::number(i) + "/More " + QByteArray::number(i) + ": \"\"\n";
+            for (int i = 0; i < moreOptions; ++i)
+                additional += bvtest::ppdOption(keyword + QByteArray::number(i), "A B C D");
+            keyword.clear();
+        }
+        text += line + '\n';
+    }
+    return text + additional;
+}
+
+ppd_file_t *openPpd(const QByteArray &text, const QTemporaryDir &folder)
+{
+    QFile file(folder.filePath(QStringLiteral("grown.ppd")));
+    if (!file.open(QIODevice::WriteOnly))
+        return nullptr;
+    file.write(text);
+    file.close();
+    ppd_file_t *ppd = ppdOpenFile(qPrintable(file.fileName()));
+    if (ppd)
+        ppdMarkDefaults(ppd);
+    return ppd;
+}
+
+int choicesOf(ppd_file_t *ppd, const QStringList &keys)
+{
+    int count = 0;
+    for (const QString &key : keys) {
+        const ppd_option_t *option = ppdFindOption(ppd, qPrintable(key));
+        count += option ? option->num_choices : 0;
+    }
+    return count;
+}
+
+void report(const char *name, ppd_file_t *ppd)
+{
+    bvtest::TestTicket ticket;
+    bvtest::TestSession session;
+    bvtest::TestCallback callback;
+    callback.settings = &ticket;
+    callback.session = &session;
+    callback.ppd = ppd;
+    std::map<const char *, std::vector<double>> steps;
+    QStringList keys;
+    for (int run = 0; run < kRuns; ++run) {
+        QPluginLoader loader(QStringLiteral(BV_PLUGIN));
+        bv::PrintPanelFactory *factory = nullptr;
+        const auto add = [&](const char *step, double time) { steps[step].push_back(time); };
+        double whole = timed([&] {
+            add("load", timed([&] {
+                    factory = qobject_cast<bv::PrintPanelFactory *>(loader.instance());
+                    factory->initWithBundle({QStringLiteral(BV_PLUGIN), QStringLiteral("en")});
+                }));
+            auto panels = factory->PDEPanelsForType(QString::fromLatin1(bv::kPrinterModulePanelType), &callback);
+            QWidget *view = nullptr;
+            add("view", timed([&] { view = panels->front()->panelView(); }));
+            add("restore", timed([&] { panels->front()->restoreValuesAndReturnError(nullptr); }));
+            add("show", timed([&] {
+                    panels->front()->willShow();
+                    view->show();
+                    QCoreApplication::processEvents();
+                }));
+            keys = panels->front()->supportedPPDOptionKeys();
+        });
+        steps["whole"].push_back(whole);
+
+        // The view's own steps, with the classes linked in.
+        MainView view;
+        Ui::PDEMain form;
+        PainChangeController controller;
+        add("view.form", timed([&] { form.setupUi(&view); }));
+        controller.onMainCustomView = form.onMainCustomView;
+        controller.onColorView = form.onColorView;
+        controller.onAdvancedView = form.onAdvancedView;
+        controller.setPPDFileEachView(ppd);
+        controller.setPMPrintEachView(&ticket, &session);
+        add("view.tables", timed([&] { controller.creatPDEControlTableEachView(); }));
+        add("view.menus", timed([&] { controller.createPDEItemForPPDKeyEachView(); }));
+        PDEControlTable tables[] = {form.onColorView->getControlData(), form.onAdvancedView->getControlData()};
+        const auto joined = PDECommon::commonControlTableCompound(tables, 2);
+        controller.defaultFromPPDInfoEachView();
+        controller.getControlValueFromTickettEachView();
+        add("restore.rules", timed([&] { vColorPresetConstraints(joined.get()); }));
+        add("libcups.conflicts", timed([&] {
+                for (const QString &key : keys) {
+                    const QByteArray keyword = key.toLatin1();
+                    const ppd_option_t *option = ppdFindOption(ppd, keyword);
+                    for (int i = 0; option && i < option->num_choices; ++i)
+                        PDECommon::commonIsPPDChoiceConflicted(ppd, keyword, option->choices[i].choice);
+                }
+            }));
+    }
+    std::printf("%-12s choices %5d", name, choicesOf(ppd, keys));
+    for (const char *step : {"whole", "load", "view", "view.form", "view.tables", "libcups.conflicts", "view.menus",
+                             "restore", "restore.rules", "show"})
+        std::printf("  %s %.2f", step, median(steps[step]));
+    std::printf("  ms\n");
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    const QTemporaryDir root;
+    qputenv("BVCO_ROOT", root.path().toUtf8());
+    for (const auto &[name, options, choices] :
+         {std::tuple("own", 0, 0), {"options x10", 10, 0}, {"choices x10", 0, 32}}) {
+        ppd_file_t *ppd = openPpd(grownPpd(options, choices), root);
+        if (!ppd) {
+            std::fprintf(stderr, "the PPD cannot be opened\n");
+            return 1;
+        }
+        report(name, ppd);
+        ppdClose(ppd);
+    }
+    return 0;
+}
