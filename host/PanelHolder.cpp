@@ -1,41 +1,9 @@
 // The panel's life in the dialog, and who owns its view when.
 #include "host/PanelHolder.h"
 
-#include <QEvent>
-#include <QScrollBar>
 #include <algorithm>
 
 namespace bv {
-
-PaneArea::PaneArea(QWidget *parent) : QScrollArea(parent)
-{
-    setWidgetResizable(true);
-    setFrameShape(QFrame::NoFrame);
-    setFocusPolicy(Qt::NoFocus);
-    setObjectName(QStringLiteral("paneArea"));
-}
-
-QSize PaneArea::sizeHint() const
-{
-    // The whole pane, where the base class stops at a share of the screen.
-    return widget() ? widget()->sizeHint().expandedTo(widget()->minimumSizeHint()) : QScrollArea::sizeHint();
-}
-
-QSize PaneArea::minimumSizeHint() const
-{
-    constexpr int kWidest = 620;
-    const int bar = verticalScrollBar()->sizeHint().width();
-    const int pane = widget() ? widget()->minimumSizeHint().width() : 0;
-    return {std::min(pane, kWidest) + bar, QScrollArea::minimumSizeHint().height()};
-}
-
-bool PaneArea::eventFilter(QObject *object, QEvent *event)
-{
-    // A pane that changes its size from within must move its neighbours, not only grow a scroll bar.
-    if (object == widget() && event->type() == QEvent::LayoutRequest)
-        updateGeometry();
-    return QScrollArea::eventFilter(object, event);
-}
 
 PanelHolder::PanelHolder(std::unique_ptr<PrintPanel> panel) : m_panel(std::move(panel))
 {
@@ -67,6 +35,7 @@ QString PanelHolder::prepare()
     if (!m_view)
         return tr("The options of this printer cannot be shown: the plug-in gives no view. Install it anew.");
     m_area = new PaneArea;
+    m_area->setObjectName(QStringLiteral("paneArea"));
     m_area->setWidget(m_view);
     m_view->show();
     QString error;

@@ -4,6 +4,7 @@
 #include "host/DocumentList.h"
 #include "host/JobRows.h"
 #include "host/MessageBar.h"
+#include "host/PaneArea.h"
 #include "host/PpdOptionRows.h"
 #include "host/QueueList.h"
 #include "host/ReasonLabel.h"
@@ -17,7 +18,6 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QResizeEvent>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QStackedWidget>
@@ -83,7 +83,7 @@ PrintDialogLayout::PrintDialogLayout(QDialog *dialog) : QWidget(dialog)
 QWidget *PrintDialogLayout::makeSide()
 {
     auto *side = new QWidget(this);
-    m_settings = new QScrollArea(side);
+    m_settings = new PaneArea(side);
     auto *content = new QWidget;
     documents = new DocumentList(content);
     job = new JobRows(content);
@@ -98,13 +98,13 @@ QWidget *PrintDialogLayout::makeSide()
     // The focus frames of the controls at the edge need a little room.
     inner->setContentsMargins(2, 2, 4, 2);
     m_settings->setWidget(content);
-    m_settings->setWidgetResizable(true);
-    m_settings->setFrameShape(QFrame::NoFrame);
-    m_settings->setFocusPolicy(Qt::NoFocus);
 
     m_sideColumn = column(side);
-    m_sideColumn->addWidget(m_settings, 3);
-    m_sideColumn->addWidget(makeSummary(), 2);
+    // The settings take what they need, the summary the rest.
+    m_settings->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    m_sideColumn->addWidget(m_settings);
+    m_sideColumn->addWidget(makeSummary(), 1);
+    m_sideColumn->addStretch(0);
     side->setFixedWidth(fontMetrics().averageCharWidth() * kSideCharacters);
     return side;
 }
@@ -114,6 +114,8 @@ QWidget *PrintDialogLayout::makeSummary()
     m_summaryBox = new QWidget(this);
     summary = new SummaryView(m_summaryBox);
     summary->setMinimumHeight(fontMetrics().height() * 5);
+    summary->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    m_summaryBox->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
     auto *label = heading(tr("S&ummary"), m_summaryBox);
     label->setBuddy(summary);
     auto *box = column(m_summaryBox);
@@ -223,7 +225,7 @@ void PrintDialogLayout::placeSummary()
         m_middle->removeWidget(m_summaryBox);
         m_summaryBox->setMinimumWidth(0);
         m_summaryBox->setMaximumWidth(QWIDGETSIZE_MAX);
-        m_sideColumn->addWidget(m_summaryBox, 2);
+        m_sideColumn->insertWidget(1, m_summaryBox, 1);
     }
     setTabOrders();
 }

@@ -8,7 +8,6 @@ class QBoxLayout;
 class QDialog;
 class QLabel;
 class QPushButton;
-class QScrollArea;
 class QStackedWidget;
 
 namespace bv {
@@ -16,6 +15,7 @@ namespace bv {
 class DocumentList;
 class JobRows;
 class MessageBar;
+class PaneArea;
 class PpdOptionRows;
 class QueueList;
 class ReasonLabel;
@@ -63,7 +63,7 @@ private:
     QBoxLayout *m_sideColumn = nullptr;
     QWidget *m_side = nullptr;
     QWidget *m_summaryBox = nullptr;
-    QScrollArea *m_settings = nullptr; // in it all of the side but the summary
+    PaneArea *m_settings = nullptr; // in it all of the side but the summary
     QStackedWidget *m_rows = nullptr;
     QStackedWidget *m_place = nullptr;
     QWidget *m_placeNote = nullptr;

@@ -4,7 +4,6 @@
 #include "platform/HostProtocol.h"
 
 #include <QScrollBar>
-#include <QTextFrame>
 
 namespace bv {
 
@@ -73,22 +72,19 @@ void SummaryView::showSummary(const PrintDictionary &summary)
     }
     QString html = QStringLiteral("<table cellspacing=\"0\" cellpadding=\"1\" width=\"100%\">");
     for (const auto &[name, value] : m_items) {
-        html += QStringLiteral("<tr><td width=\"52%\">%1</td><td><b>%2</b></td></tr>")
-                    .arg(name.toHtmlEscaped(), value.toHtmlEscaped());
+        const QString nameCell = QStringLiteral("<td width=\"52%\">%1</td>").arg(name.toHtmlEscaped());
+        const QString valueCell = QStringLiteral("<td width=\"48%\"><b>%1</b></td>").arg(value.toHtmlEscaped());
+        html += QStringLiteral("<tr>") + (isRightToLeft() ? valueCell + nameCell : nameCell + valueCell) +
+                QStringLiteral("</tr>");
     }
     const int position = verticalScrollBar()->value();
     setHtml(html + QStringLiteral("</table>"));
-    mirror();
+    alignTexts();
     verticalScrollBar()->setValue(position);
 }
 
-void SummaryView::mirror()
+void SummaryView::alignTexts()
 {
-    for (QTextFrame *frame : document()->rootFrame()->childFrames()) {
-        QTextFrameFormat format = frame->frameFormat();
-        format.setLayoutDirection(layoutDirection());
-        frame->setFrameFormat(format);
-    }
     QTextBlockFormat direction;
     direction.setLayoutDirection(layoutDirection());
     QTextCursor all(document());

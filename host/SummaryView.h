@@ -31,8 +31,8 @@ public:
     QString plainSummary() const;
 
 private:
-    // Columns and texts run as the window does.
-    void mirror();
+    // Texts run as the window does.
+    void alignTexts();
 
     Items m_items;
 };
