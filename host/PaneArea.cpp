@@ -1,7 +1,7 @@
 // The sizes of the scroll area.
 #include "host/PaneArea.h"
 
-#include <QEvent>
+#include <QResizeEvent>
 #include <QScrollBar>
 #include <algorithm>
 
@@ -17,7 +17,12 @@ PaneArea::PaneArea(QWidget *parent) : QScrollArea(parent)
 QSize PaneArea::sizeHint() const
 {
     // The whole content, where the base class stops at a share of the screen.
-    return widget() ? widget()->sizeHint().expandedTo(widget()->minimumSizeHint()) : QScrollArea::sizeHint();
+    if (!widget())
+        return QScrollArea::sizeHint();
+    QSize hint = widget()->sizeHint().expandedTo(widget()->minimumSizeHint());
+    if (widget()->hasHeightForWidth())
+        hint.setHeight(std::max(hint.height(), widget()->heightForWidth(viewport()->width())));
+    return hint;
 }
 
 QSize PaneArea::minimumSizeHint() const
@@ -26,6 +31,14 @@ QSize PaneArea::minimumSizeHint() const
     const int bar = verticalScrollBar()->sizeHint().width();
     const int content = widget() ? widget()->minimumSizeHint().width() : 0;
     return {std::min(content, kWidest) + bar, QScrollArea::minimumSizeHint().height()};
+}
+
+void PaneArea::resizeEvent(QResizeEvent *event)
+{
+    QScrollArea::resizeEvent(event);
+    // Wrapped texts are taller in a narrower area.
+    if (event->size().width() != event->oldSize().width() && widget() && widget()->hasHeightForWidth())
+        updateGeometry();
 }
 
 bool PaneArea::eventFilter(QObject *object, QEvent *event)
