@@ -117,6 +117,7 @@ void report(const char *name, ppd_file_t *ppd)
             keys = panels->front()->supportedPPDOptionKeys();
         });
         steps["whole"].push_back(whole);
+        loader.unload();
 
         // The view's own steps, with the classes linked in.
         MainView view;

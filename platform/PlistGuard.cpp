@@ -21,20 +21,26 @@ bool closesItself(std::string_view tag)
     return end != std::string_view::npos && end > 0 && tag[end - 1] == '/';
 }
 
-const char *nestingRefusal(std::string_view text)
+const char *contentRefusal(std::string_view text)
 {
     int depth = 0;
     int containers = 0;
-    for (size_t at = text.find('<'); at != std::string_view::npos; at = text.find('<', at + 1)) {
-        const std::string_view tag = text.substr(at + 1);
-        if (beginsContainer(tag)) {
+    int keys = 0;
+    for (size_t at = text.find('<'), next = 0; at != std::string_view::npos; at = next) {
+        next = text.find('<', at + 1);
+        const std::string_view part = text.substr(at + 1, next - at - 1); // a tag and the text behind it
+        if (beginsContainer(part)) {
             if (++containers > kPlistMaximumContainers)
                 return "too many dictionaries and arrays";
-            if (!closesItself(tag) && ++depth > kPlistMaximumDepth)
+            if (!closesItself(part) && ++depth > kPlistMaximumDepth)
                 return "nested too deep";
-        } else if (tag.starts_with('/') && beginsContainer(tag.substr(1))) {
+        } else if (part.starts_with('/') && beginsContainer(part.substr(1))) {
             --depth;
+        } else if (part.starts_with("key") && ++keys > kPlistMaximumKeys) {
+            return "too many keys";
         }
+        if (part.size() > kPlistMaximumEscapedText && part.find('&') != std::string_view::npos)
+            return "too long a text with entities";
     }
     return nullptr;
 }
@@ -54,7 +60,7 @@ const char *plistRefusal(std::string_view text)
         return "cut short";
     if (text.find_first_not_of(kBlanks, end + kListEnd.size()) != std::string_view::npos)
         return "something behind its end";
-    return nestingRefusal(text);
+    return contentRefusal(text);
 }
 
 } // namespace bv

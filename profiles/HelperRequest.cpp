@@ -6,8 +6,6 @@
 #include "platform/RootPath.h"
 #include "platform/Utf8.h"
 
-#include <algorithm>
-#include <limits>
 #include <new>
 #include <sys/stat.h>
 #include <utility>
@@ -84,25 +82,6 @@ std::optional<std::string> runHelper(std::string_view request, std::span<const s
 bool answerHolds(const std::optional<std::string> &answer, std::string_view marker)
 {
     return answer && answer->find(marker) != std::string::npos;
-}
-
-std::optional<int32_t> answerNumber(const std::optional<std::string> &answer, std::string_view marker)
-{
-    const size_t at = answer ? answer->find(marker) : std::string::npos;
-    if (at == std::string::npos)
-        return std::nullopt;
-    std::string_view digits = std::string_view(*answer).substr(at + marker.size());
-    const bool negative = digits.starts_with('-');
-    if (negative)
-        digits.remove_prefix(1);
-    int64_t value = 0;
-    for (const char digit : digits) {
-        if (digit < '0' || digit > '9')
-            break;
-        value = std::min(value * 10 + (digit - '0'), int64_t{std::numeric_limits<int32_t>::max()} + 1);
-    }
-    value = negative ? -value : std::min(value, int64_t{std::numeric_limits<int32_t>::max()});
-    return static_cast<int32_t>(value);
 }
 
 } // namespace bv

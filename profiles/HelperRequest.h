@@ -2,7 +2,6 @@
 // libcups. In the dialog the transport is a child process; inside the helper it is a direct call.
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
@@ -35,9 +34,5 @@ std::optional<std::string> runHelper(std::string_view request, std::span<const s
 
 // Whether an answer holds the marker text anywhere.
 bool answerHolds(const std::optional<std::string> &answer, std::string_view marker);
-
-// The decimal integer right behind the first marker, a minus sign included: 0 when no digit follows, the nearest end of
-// the range when it does not fit 32 bits. Nothing when the answer is missing or lacks the marker.
-std::optional<int32_t> answerNumber(const std::optional<std::string> &answer, std::string_view marker);
 
 } // namespace bv

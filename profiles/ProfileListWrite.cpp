@@ -47,11 +47,19 @@ int32_t writeLists(const ProfileList &rgb, const ProfileList &sim, const Profile
     return xml ? handOver(*xml) : -1;
 }
 
+bool mayWrite()
+{
+    if (BVPListIsAdminProfile() != 0)
+        return true;
+    bv::diagnosticLine("list not written: the user may not manage profiles");
+    return false;
+}
+
 } // namespace
 
 int32_t BVPListWriteProfile_All(const ProfileList *rgb, const ProfileList *sim, const ProfileList *dst)
 {
-    if (BVPListIsAdminProfile() == 0)
+    if (!mayWrite())
         return -1;
     return bv::withoutThrowing(-1, [&] { return writeLists(*rgb, *sim, *dst); });
 }
@@ -60,7 +68,7 @@ int32_t BVPListWriteProfile_All_Pap(const ProfileList *rgb, const ProfileList *s
                                     const ProfileList *rgbDelete, const ProfileList *simDelete,
                                     const ProfileList *dstDelete)
 {
-    if (BVPListIsAdminProfile() == 0)
+    if (!mayWrite())
         return -1;
     return bv::withoutThrowing(-1, [&] {
         const auto merged = std::make_unique<ThreeLists>();

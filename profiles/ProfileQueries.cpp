@@ -12,7 +12,12 @@ namespace {
 
 int32_t ask(const char *request, const char *marker, const std::vector<std::string> &arguments)
 {
-    return bv::answerHolds(bv::runHelper(request, arguments), marker) ? 1 : 0;
+    const auto answer = bv::runHelper(request, arguments);
+    if (bv::answerHolds(answer, marker))
+        return 1;
+    if (answer)
+        bv::diagnosticLine(bv::formatLog("%@: the helper says no", {request}));
+    return 0;
 }
 
 } // namespace

@@ -171,6 +171,12 @@ TEST(PlistGuard, RefusesWhatTheParserMustNotSee)
     for (const char *open :
          {"<array><!--</array>-->", "<array a='/>'>", "<array><![CDATA[</array>]]>", "<array><?x </array>?>"})
         EXPECT_STRNE(plistRefusal(nested(5000, open, "")), nullptr) << open;
+    // What the parser would take most of a minute for.
+    const auto repeated = [](const char *part, int times) { return nested(times, part, ""); };
+    EXPECT_STREQ(plistRefusal(repeated("&amp;", 800'000)), "too long a text with entities");
+    EXPECT_STREQ(plistRefusal(repeated("<key>Ez</key><true/>", 12'001)), "too many keys");
+    EXPECT_EQ(plistRefusal(repeated("<key>Ez</key><true/>", 12'000)), nullptr);
+    EXPECT_EQ(plistRefusal(repeated("x", 100'000)), nullptr);
     EXPECT_STREQ(plistRefusal("bplist00</plist>"), "a binary list");
     EXPECT_STREQ(plistRefusal(std::string_view("<plist>\0</plist>", 16)), "a NUL byte in it");
     EXPECT_STREQ(plistRefusal("<plist></plist"), "cut short");

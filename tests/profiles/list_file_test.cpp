@@ -112,6 +112,7 @@ protected:
     const ProfileRecord &rgb(int slot) const { return m_lists->rgb.records[slot]; }
 
     TestRoot m_root;
+    bvtest::NamedUser m_user;
     std::unique_ptr<Lists> m_lists = bvtest::makeLists();
 };
 

@@ -89,6 +89,7 @@ TEST(Merge, ComparesAllBytesOfNamesWithoutANul)
 TEST(Merge, OfAllClassesUsesEachClassesOwnListsAndAnUnreadableFileIsEmpty)
 {
     const bvtest::TestRoot root;
+    const bvtest::NamedUser user;
     const auto file = makeLists();
     const auto edited = makeLists();
     const auto excluded = makeLists();

@@ -54,21 +54,14 @@ public:
 class Requests : public testing::Test
 {
 protected:
-    Requests()
-    {
-        bv::setHelperTransport(&m_helper);
-        bv::setProfileLogin("ada");
-    }
-    ~Requests() override
-    {
-        bv::setHelperTransport(nullptr);
-        bv::setProfileLogin("");
-    }
+    Requests() { bv::setHelperTransport(&m_helper); }
+    ~Requests() override { bv::setHelperTransport(nullptr); }
 
     int32_t write() { return BVPListWriteProfile_All(&m_lists->rgb, &m_lists->sim, &m_lists->dst); }
     std::string text() const { return bv::profileListXml(m_lists->rgb, m_lists->sim, m_lists->dst).value(); }
 
     TestRoot m_root;
+    bvtest::NamedUser m_user;
     RecordingTransport m_helper;
     std::unique_ptr<Lists> m_lists = makeLists();
 };
@@ -286,25 +279,6 @@ TEST_F(HelperChild, GetsItsWordsUnchanged)
     TestRoot::installHelper("printf '[%s]' \"$@\"");
     const std::string words[] = {"", "two words", "line\nend", "--x", "'\"$HOME\\", "印刷"};
     EXPECT_EQ(bv::runHelper("name", words), "[name][][two words][line\nend][--x]['\"$HOME\\][印刷]");
-}
-
-TEST(Answers, GiveTheIntegerBehindTheMarker)
-{
-    const std::pair<const char *, std::optional<int32_t>> rows[] = {
-        {"mibwalk_XPC=iRet=-3", -3},
-        {"SYS.0 = 3\nmibwalk_XPC=iRet=0\n", 0},
-        {"mibwalk_XPC=iRet=12x", 12},
-        {"mibwalk_XPC=iRet=", 0},
-        {"mibwalk_XPC=iRet=x", 0},
-        {"mibwalk_XPC=iRet=1mibwalk_XPC=iRet=2", 1},
-        {"mibwalk_XPC=FALSE", {}},
-        {"mibwalk_XPC=iRet=99999999999999999999999", 2147483647},
-        {"", {}},
-        {"mibwalk_XPC=iRet=-99999999999", -2147483647 - 1},
-    };
-    for (const auto &[answer, number] : rows)
-        EXPECT_EQ(bv::answerNumber(std::string(answer), "mibwalk_XPC=iRet="), number) << answer;
-    EXPECT_EQ(bv::answerNumber(std::nullopt, "mibwalk_XPC=iRet="), std::nullopt);
 }
 
 } // namespace

@@ -62,4 +62,14 @@ private:
     std::filesystem::path m_folder;
 };
 
+// Lets this process work on the lists of a login name that needs no account, for the time of one test.
+class NamedUser
+{
+public:
+    NamedUser() { bv::setProfileLogin("ada"); }
+    NamedUser(const NamedUser &) = delete;
+    NamedUser &operator=(const NamedUser &) = delete;
+    ~NamedUser() { bv::setProfileLogin(""); }
+};
+
 } // namespace bvtest
