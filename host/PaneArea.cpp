@@ -20,8 +20,10 @@ QSize PaneArea::sizeHint() const
     if (!widget())
         return QScrollArea::sizeHint();
     QSize hint = widget()->sizeHint().expandedTo(widget()->minimumSizeHint());
+    // Reckoned with a scroll bar, there or not: a hint that changed with the bar would bring it in and out for ever.
+    const int narrow = width() - verticalScrollBar()->sizeHint().width();
     if (widget()->hasHeightForWidth())
-        hint.setHeight(std::max(hint.height(), widget()->heightForWidth(viewport()->width())));
+        hint.setHeight(std::max(hint.height(), widget()->heightForWidth(narrow)));
     return hint;
 }
 
