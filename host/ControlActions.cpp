@@ -136,7 +136,7 @@ QString notOfKind(const QWidget *control, const QString &kind)
 
 QString setControl(QWidget *control, const QString &value)
 {
-    if (const QString error = disabledSentence(control); !error.isEmpty())
+    if (QString error = disabledSentence(control); !error.isEmpty())
         return error;
     if (auto *combo = qobject_cast<QComboBox *>(control))
         return setCombo(combo, value);
@@ -156,7 +156,7 @@ QString setTableMark(QWidget *table, const QString &column, const QString &row, 
     auto *view = qobject_cast<QAbstractItemView *>(table);
     if (!view || !view->model())
         return notOfKind(table, QStringLiteral("table"));
-    if (const QString error = disabledSentence(table); !error.isEmpty())
+    if (QString error = disabledSentence(table); !error.isEmpty())
         return error;
     const qsizetype number = columnIdentifiers(*view).indexOf(column);
     if (number < 0)
@@ -184,7 +184,7 @@ QString typeIntoControl(QWidget *control, const QString &text)
     auto *field = qobject_cast<QLineEdit *>(control);
     if (!field)
         return notOfKind(control, QStringLiteral("text field"));
-    if (const QString error = disabledSentence(control); !error.isEmpty())
+    if (QString error = disabledSentence(control); !error.isEmpty())
         return error;
     takeFocus(field);
     const QPointer<QLineEdit> kept(field);
@@ -209,7 +209,7 @@ QString selectTableRow(QWidget *table, const QString &row)
     auto *view = qobject_cast<QAbstractItemView *>(table);
     if (!view || !view->model() || !view->selectionModel())
         return notOfKind(table, QStringLiteral("table"));
-    if (const QString error = disabledSentence(table); !error.isEmpty())
+    if (QString error = disabledSentence(table); !error.isEmpty())
         return error;
     QString error;
     const std::optional<int> at = numberWithin(row, -1, view->model()->rowCount(view->rootIndex()) - 1, &error);

@@ -75,6 +75,21 @@ bool isUntyped(const QByteArray &keyword)
     return attribute && ippGetValueTag(attribute) == IPP_TAG_NAME;
 }
 
+// Whether what reads the options again takes the value for what it is. A brace at the beginning opens a collection
+// there (cupsParseOptions): one that is not closed by the value's last character swallows the options behind it.
+bool isCarried(const QString &value)
+{
+    if (!value.startsWith(u'{'))
+        return true;
+    qsizetype depth = 0;
+    for (qsizetype i = 0; i < value.size(); ++i) {
+        depth += value[i] == u'{' ? 1 : value[i] == u'}' ? -1 : 0;
+        if (depth == 0)
+            return i + 1 == value.size();
+    }
+    return false;
+}
+
 // An option goes as libcups types it: numbers, keywords and ranges for the standard ones, a boolean for True and False.
 // But it takes untyped values apart (quotes, commas, a brace at the beginning), so those are added whole.
 void addOption(ipp_t *request, const QString &keyword, const QString &value)
@@ -167,6 +182,11 @@ void cancelJob(const QString &queue, int number)
 
 Result<std::optional<int>> PrintServerSink::submit(const JobRequest &request)
 {
+    for (const auto &[keyword, value] : request.options)
+        if (!isCarried(value))
+            return Sent::failure(
+                QStringLiteral("The print server cannot carry the value %1 of the option %2; choose another one.")
+                    .arg(value, keyword));
     Result<HttpConnection> connection = PrintServer::connect();
     if (!connection)
         return Sent::failure(connection.error());

@@ -12,10 +12,10 @@ template <typename T> class Result
 public:
     Result(T value) : m_value(std::move(value)) {}
     // The sentence names the thing that failed and, where there is something to do about it, what to do.
-    static Result failure(QString sentence)
+    static Result failure(const QString &sentence)
     {
         Result result;
-        result.m_error = std::move(sentence);
+        result.m_error = sentence;
         return result;
     }
 

@@ -455,6 +455,7 @@ void ProfileControl::browseButton()
 void ProfileControl::takeBrowsedName(const QString &fileName)
 {
     const Ui::ProfileManagement &c = m_window->controls;
+    c._fileNameEdit->setFocus();
     c._fileNameEdit->putText({});
     c._localOK->setEnabled(false);
     // A whole name of up to 31 units is taken even where typing would keep room for a dot and an extension.

@@ -91,7 +91,7 @@ private:
     int32_t protocolType = -1;      // the queue's kind of connection
     int32_t buttonIdentify = kIdle; // a Mode
 
-    AdvancedColorOptions *m_advanced = nullptr;
+    QPointer<AdvancedColorOptions> m_advanced;
     QPointer<QWidget> m_parentWidget;
     PMPrintSettings m_settings = nullptr;
     PMPrintSession m_session = nullptr;

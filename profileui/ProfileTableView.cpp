@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QSet>
 
 #include <algorithm>
 #include <memory>
@@ -17,7 +18,8 @@ namespace bv {
 namespace {
 
 constexpr int kIconColumnWidth = 28;
-constexpr int kRowPadding = 6;
+constexpr int kRowPadding = 2;
+constexpr int kCellMargin = 6;
 
 } // namespace
 
@@ -97,7 +99,23 @@ void ProfileTableView::fitColumns()
 {
     const QFontMetrics metrics(model()->index(0, ProfileTableModel::kFileName).data(Qt::FontRole).value<QFont>());
     verticalHeader()->setDefaultSectionSize(metrics.height() + kRowPadding);
-    resizeColumnsToContents();
+    // Asking the delegate for each of 500 rows would take longer than a frame; the widths of the texts do not.
+    for (int column = 0; column < model()->columnCount(); ++column)
+        setColumnWidth(column, std::max(horizontalHeader()->sectionSizeHint(column), widestText(column, metrics)));
+}
+
+int ProfileTableView::widestText(int column, const QFontMetrics &metrics) const
+{
+    QSet<QString> measured; // storage names and many profile names stand in row after row
+    int widest = 0;
+    for (int row = 0; row < model()->rowCount(); ++row) {
+        const QString text = model()->index(row, column).data().toString();
+        const qsizetype before = measured.size();
+        measured.insert(text);
+        if (measured.size() > before)
+            widest = std::max(widest, metrics.horizontalAdvance(text));
+    }
+    return widest + 2 * kCellMargin;
 }
 
 void ProfileTableView::keyboardSearch(const QString &search)
@@ -108,7 +126,7 @@ void ProfileTableView::keyboardSearch(const QString &search)
     m_sinceTyped.start();
     m_typed = goesOn ? m_typed + search : search;
     // The same letter again and again walks through the rows that begin with it.
-    const bool sameLetter = m_typed.count(m_typed.at(0)) == m_typed.size();
+    const bool sameLetter = m_typed.count(m_typed.at(0), Qt::CaseInsensitive) == m_typed.size();
     const QString wanted = sameLetter ? m_typed.left(1) : m_typed;
     int start = std::max(selectedRow(), 0);
     if (selectedRow() >= 0 && wanted.size() == 1)
@@ -129,11 +147,27 @@ void ProfileTableView::toggleCheckMark()
     model()->setData(mark, checked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
 }
 
+int ProfileTableView::rowForKey(int key) const
+{
+    const int rows = model() ? model()->rowCount() : 0;
+    if (key == Qt::Key_Home)
+        return rows > 0 ? 0 : -1;
+    if (key == Qt::Key_End)
+        return rows - 1;
+    // The cursor stands on the first row already when the table gets the focus, so an arrow key would pass it by.
+    const bool arrow = key == Qt::Key_Down || key == Qt::Key_Up;
+    return arrow && selectedRow() < 0 && rows > 0 ? 0 : -1;
+}
+
 void ProfileTableView::keyPressEvent(QKeyEvent *event)
 {
+    const bool plain = event->modifiers() == Qt::NoModifier;
+    const int row = plain ? rowForKey(event->key()) : -1;
     // Space is for the row's check mark, in whichever column the cursor is.
-    if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier)
+    if (plain && event->key() == Qt::Key_Space)
         toggleCheckMark();
+    else if (row >= 0)
+        selectRow(row);
     else
         QTableView::keyPressEvent(event);
 }

@@ -53,7 +53,10 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
 
 private:
+    int widestText(int column, const QFontMetrics &metrics) const;
     void toggleCheckMark();
+    // The row that a key goes to where the table's own keys would go elsewhere, or -1.
+    int rowForKey(int key) const;
 
     QString m_typed;
     QElapsedTimer m_sinceTyped;

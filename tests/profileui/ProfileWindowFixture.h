@@ -10,6 +10,7 @@
 #include "profiles/HelperRequest.h"
 #include "profiles/ProfileOperations.h"
 #include "support/PaneFixture.h"
+#include "support/SampleLists.h"
 
 #include <QApplication>
 #include <QDir>
@@ -21,13 +22,6 @@
 #include <memory>
 
 namespace bvtest {
-
-struct Lists
-{
-    ProfileList rgb{};
-    ProfileList sim{};
-    ProfileList dst{};
-};
 
 inline QString fileNameOf(const ProfileRecord &record)
 {

@@ -1,0 +1,389 @@
+// The batch, driven from outside on a panel that is not ours.
+#include "support/BatchProcess.h"
+
+#include "host/ControlCatalog.h"
+
+#include <QFile>
+#include <QImage>
+#include <QJsonArray>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using bvtest::BatchProcess;
+using ::testing::HasSubstr;
+
+const QStringList kStart = {"--plugin", BV_BUILD_DIR "/tests/testpanel.so", "--ppd",
+                            BV_SOURCE_DIR "/tests/support/small.ppd"};
+
+class Batch : public ::testing::Test
+{
+protected:
+    void start(const QStringList &more = {})
+    {
+        m_batch.setVariable("TESTPANEL_LOG", logPath());
+        m_batch.start(kStart + more);
+    }
+    void startWithView()
+    {
+        start();
+        ASSERT_EQ(result("panelView"), "paperView");
+    }
+
+    QJsonValue result(const QString &command) { return m_batch.result(command); }
+    QString error(const QString &command) { return m_batch.error(command); }
+    QJsonValue value(const QString &control) { return result("control " + control).toObject()["value"]; }
+    // A command whose result is null: that it is, rather than an error.
+    bool does(const QString &command) { return result(command).isNull(); }
+
+    QString logPath() const { return m_batch.home() + "/log"; }
+    QStringList log() const
+    {
+        QFile file(logPath());
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts)
+                                              : QStringList();
+    }
+    QString write(const QString &name, const QByteArray &text)
+    {
+        QFile file(m_batch.home() + '/' + name);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+        return file.fileName();
+    }
+
+    BatchProcess m_batch;
+};
+
+TEST_F(Batch, TheSecondPanelAnswersThroughTheSameCommands)
+{
+    start();
+    EXPECT_EQ(result("panelName"), "Paper Stamp");
+    EXPECT_EQ(result("panelKind"), "example.paper.stamp");
+    EXPECT_EQ(result("supportedPPDOptionKeys"), (QJsonArray{"TPToner", "TPStamp"}));
+    EXPECT_TRUE(does("willShow"));
+    EXPECT_EQ(result("shouldHide"), true);
+    EXPECT_EQ(result("restoreValues"), true);
+    EXPECT_EQ(result("saveValues"), true);
+    EXPECT_EQ(result("shouldPrint"), true);
+    EXPECT_EQ(result("summaryInfo").toObject()["Toner"], "Normal");
+    EXPECT_TRUE(does("terminate"));
+    EXPECT_EQ(m_batch.finish(), 0);
+    EXPECT_EQ(m_batch.standardError(), "");
+}
+
+TEST_F(Batch, OnePanelServesTheBatchAndNoCallIsMadeThatNoCommandStandsFor)
+{
+    start();
+    result("ticket");
+    EXPECT_EQ(log(), QStringList{"initWithBundle "}); // the locale is C: no language
+    result("panelView");
+    result("control tonerMenu");
+    EXPECT_TRUE(does("set tonerMenu 1"));
+    EXPECT_EQ(m_batch.finish(), 0);
+    EXPECT_EQ(log(), (QStringList{"initWithBundle ", "made", "panelView", "toner 1", "gone"}));
+}
+
+TEST_F(Batch, PanelsOfATypeAreCountedAndLetGo)
+{
+    start();
+    EXPECT_EQ(result("panels BDB091F4-E57F-11D3-B5CC-0050E4603277"), 1);
+    EXPECT_EQ(result("panels two"), 2);
+    EXPECT_TRUE(does("panels none"));
+    EXPECT_EQ(log().count("made"), 3);
+    EXPECT_EQ(log().count("gone"), 3);
+}
+
+TEST_F(Batch, ControlsNeedTheView)
+{
+    start();
+    for (const char *command : {"controls", "control tonerMenu", "set tonerMenu 1", "type stampText a",
+                                "select paperTable 0", "press editButton", "screenshot x.png"})
+        EXPECT_FALSE(error(command).isEmpty()) << command;
+    EXPECT_EQ(m_batch.finish(), 1);
+}
+
+TEST_F(Batch, EveryNamedControlIsDescribedAsFits)
+{
+    startWithView();
+    QJsonObject byName;
+    for (const QJsonValue &control : result("controls").toArray())
+        byName[control.toObject()["name"].toString()] = control;
+    EXPECT_EQ(QStringList(byName.keys()), (QStringList{"editButton", "paperTable", "sheetSpin", "stampCheck",
+                                                       "stampText", "tabs", "tonerLabel", "tonerMenu"}));
+    EXPECT_EQ(byName["tonerMenu"].toObject(), (QJsonObject{{"name", "tonerMenu"},
+                                                           {"class", "QComboBox"},
+                                                           {"enabled", true},
+                                                           {"visible", true},
+                                                           {"value", 0},
+                                                           {"items", QJsonArray{"Normal", "Save", "Rich"}}}));
+    EXPECT_EQ(byName["stampText"].toObject()["class"], "PaperField");
+    EXPECT_EQ(byName["stampText"].toObject()["enabled"], false);
+    EXPECT_EQ(byName["tonerLabel"].toObject()["text"], "Toner:");
+    EXPECT_EQ(byName["editButton"].toObject()["visible"], false);
+    EXPECT_FALSE(byName["editButton"].toObject().contains("value"));
+    EXPECT_EQ(byName["paperTable"].toObject()["columns"], (QJsonArray{"icon", "paper", "used"}));
+    EXPECT_EQ(byName["paperTable"].toObject()["rows"],
+              (QJsonArray{QJsonArray{0, "Plain", 1}, QJsonArray{1, "Thick", 0}, QJsonArray{0, "Film", 1}}));
+    EXPECT_EQ(byName["paperTable"].toObject()["selected"], -1);
+}
+
+TEST_F(Batch, SettingDoesWhatAUserDoesActionIncluded)
+{
+    startWithView();
+    EXPECT_TRUE(does("set tonerMenu 2"));
+    EXPECT_TRUE(does("set tonerMenu 2"));
+    EXPECT_EQ(log().count("toner 2"), 2);
+    EXPECT_TRUE(does("set stampCheck 1"));
+    EXPECT_EQ(result("control stampText").toObject()["enabled"], true);
+    EXPECT_TRUE(does("set sheetSpin 4")); // on the tab that is not shown
+    EXPECT_EQ(value("sheetSpin"), 4);
+    EXPECT_TRUE(does("set tabs 1"));
+    EXPECT_EQ(result("control sheetSpin").toObject()["visible"], true);
+    EXPECT_TRUE(does("set paperTable.used 1 1"));
+    EXPECT_TRUE(does("select paperTable 1"));
+    const QJsonObject table = result("control paperTable").toObject();
+    EXPECT_EQ(table["rows"].toArray()[1], (QJsonArray{1, "Thick", 1}));
+    EXPECT_EQ(table["selected"], 1);
+    EXPECT_TRUE(does("select paperTable -1"));
+    EXPECT_EQ(result("control paperTable").toObject()["selected"], -1);
+}
+
+TEST_F(Batch, PastingAndTypingRunTheFieldsOwnChecks)
+{
+    startWithView();
+    EXPECT_TRUE(does("set stampCheck 1"));
+    EXPECT_TRUE(does("set stampText \"a1 b\""));
+    EXPECT_EQ(value("stampText"), "a b");
+    EXPECT_TRUE(does("type stampText c2d€"));
+    EXPECT_EQ(value("stampText"), "a bcd€");
+    EXPECT_TRUE(does("set stampText \"\""));
+    EXPECT_EQ(value("stampText"), "");
+}
+
+TEST_F(Batch, AModalWindowGoesFirstAndCommandsGoOnInWindowsWithinWindows)
+{
+    startWithView();
+    EXPECT_FALSE(error("controls modal").isEmpty());
+    EXPECT_TRUE(does("press editButton"));
+    EXPECT_EQ(result("controls modal").toArray().size(), 5);
+    EXPECT_EQ(result("control stampCheck").toObject()["text"], "Stamp in the editor");
+    EXPECT_EQ(result("control tonerMenu").toObject()["name"], "tonerMenu");
+    EXPECT_FALSE(error("choose x").isEmpty());
+    const QString file = write("picked file.txt", "x");
+    EXPECT_TRUE(does("press editBrowse"));
+    EXPECT_FALSE(error("choose " + file + "-not").isEmpty());
+    EXPECT_FALSE(error("choose \"" + m_batch.home() + "\"").isEmpty());
+    EXPECT_TRUE(does("choose \"" + file + "\""));
+    EXPECT_EQ(value("editName"), "picked file.txt");
+    EXPECT_TRUE(does("press editBrowse"));
+    EXPECT_TRUE(does("choose -"));
+    EXPECT_EQ(value("editName"), "");
+    EXPECT_TRUE(does("type editName Hi"));
+    EXPECT_TRUE(does("press editOK"));
+    EXPECT_EQ(value("stampText"), "Hi");
+    EXPECT_FALSE(error("control editName").isEmpty());
+    EXPECT_EQ(log().count("editor closes"), 1);
+}
+
+TEST_F(Batch, TheEndOfInputEndsWindowsThatAreStillOpen)
+{
+    startWithView();
+    EXPECT_TRUE(does("press editButton"));
+    EXPECT_TRUE(does("press editBrowse"));
+    EXPECT_EQ(m_batch.finish(), 0);
+    EXPECT_EQ(m_batch.restOfOutput(), "");
+    EXPECT_EQ(log().last(), "gone");
+}
+
+constexpr const char *kWrongCommands[] = {"bogus",
+                                          "PanelName",
+                                          "panelName x",
+                                          "set tonerMenu",
+                                          "set tonerMenu 3",
+                                          "set tonerMenu -1",
+                                          "set tonerMenu one",
+                                          "set tonerMenu \"\"",
+                                          "set stampCheck 2",
+                                          "set stampText x",
+                                          "type stampText x",
+                                          "set nothing 1",
+                                          "set tabs 2",
+                                          "set sheetSpin 17",
+                                          "set tonerLabel 1",
+                                          "set editButton 1",
+                                          "set paperTable 1",
+                                          "set paperTable.used 3 1",
+                                          "set paperTable.used 1 x",
+                                          "set paperTable.used 2 0",
+                                          "set paperTable.size 1 1",
+                                          "set paperTable.paper 1 1",
+                                          "set tonerMenu 1 1",
+                                          "type tonerMenu x",
+                                          "select paperTable 3",
+                                          "select paperTable -2",
+                                          "select tonerMenu 0",
+                                          "press nothing",
+                                          "press tonerMenu",
+                                          "control nothing",
+                                          "control qt_spinbox_lineedit",
+                                          "controls window",
+                                          "choose x",
+                                          "set tonerMenu \"1",
+                                          "setTicket",
+                                          "setTicket {\"a\":null}",
+                                          "setTicket [1]",
+                                          "print",
+                                          "print /nonexistent",
+                                          "screenshot /nonexistent/x.png"};
+
+TEST_F(Batch, AWrongCommandIsAnErrorThatChangesNothingAndDoesNotEndTheBatch)
+{
+    startWithView();
+    const QJsonValue before = result("controls");
+    for (const char *command : kWrongCommands) {
+        const QJsonObject answer = m_batch.send(command);
+        EXPECT_FALSE(answer["error"].toString().isEmpty()) << command;
+        EXPECT_FALSE(answer.contains("result")) << command;
+        EXPECT_EQ(answer["command"], QString::fromUtf8(command).section(' ', 0, 0)) << command;
+        EXPECT_EQ(result("controls"), before) << command;
+    }
+    EXPECT_EQ(result("ticket"), QJsonObject());
+    EXPECT_EQ(m_batch.finish(), 1);
+}
+
+TEST_F(Batch, PicturesShowTheViewOrTheModalWindow)
+{
+    startWithView();
+    const QString view = m_batch.home() + "/view.dat"; // PNG whatever the name
+    const QString window = m_batch.home() + "/window.png";
+    EXPECT_TRUE(does("screenshot " + view));
+    EXPECT_TRUE(does("press editButton"));
+    EXPECT_TRUE(does("screenshot " + window));
+    QImage first(view, "PNG");
+    QImage second(window, "PNG");
+    EXPECT_GT(first.width(), 50);
+    EXPECT_GT(second.width(), 50);
+    EXPECT_NE(first, second);
+}
+
+TEST_F(Batch, PrintSavesAsksAndAnswersWithWhatIsSent)
+{
+    const QString document = write("a b.txt", "text");
+    start();
+    EXPECT_TRUE(does(R"(setTicket {"x":":;<=>?","n":7,"BVColorAsGray":"True","keep":{"a":"b"},"yes":true})"));
+    EXPECT_EQ(result("print \"" + document + "\"").toObject(),
+              (QJsonObject{{"job", QJsonValue::Null},
+                           {"options", QJsonObject{{"x", ":;<=>?"},
+                                                   {"n", "7"},
+                                                   {"BVColorAsGray", "True"},
+                                                   {"print-color-mode", "monochrome"},
+                                                   {"TPToner", "Normal"},
+                                                   {"TPStamp", ""},
+                                                   {"TPSheets", "1"}}}}));
+    EXPECT_EQ(log().mid(2), (QStringList{"saveValues", "shouldPrint"}));
+}
+
+TEST_F(Batch, APanelThatRefusesStopsTheJobWithItsOwnWords)
+{
+    const QString document = write("a.txt", "text");
+    startWithView();
+    EXPECT_TRUE(does("set stampCheck 1"));
+    EXPECT_TRUE(does("set stampText refuse"));
+    EXPECT_EQ(error("saveValues"), "The stamp is not to be used.");
+    EXPECT_EQ(error("print " + document), "The stamp is not to be used.");
+    EXPECT_TRUE(does("set stampText hold"));
+    EXPECT_EQ(result("shouldPrint"), false);
+    EXPECT_FALSE(error("print " + document).isEmpty());
+}
+
+TEST_F(Batch, StartsFromTheTicketThatIsNamedAndChangesItInPlace)
+{
+    const QString ticket = write("t.json", R"({"TPToner":"Rich","TPStamp":"Draft","TPSheets":3})");
+    start({"--ticket", ticket});
+    EXPECT_EQ(result("restoreValues"), true);
+    EXPECT_EQ(result("summaryInfo").toObject()["Stamp"], "Draft");
+    EXPECT_TRUE(does(R"(setTicket {"TPToner":"Save"})"));
+    EXPECT_EQ(result("restoreValues"), true);
+    EXPECT_EQ(result("summaryInfo").toObject()["Toner"], "Save");
+    EXPECT_EQ(result("summaryInfo").toObject()["Stamp"], "none");
+}
+
+TEST_F(Batch, AScriptFileWithoutALastLineEndIsCarriedOutWhole)
+{
+    const QString script = write("script", "# what it is\n\n  ticket\r\nsetTicket {\"a\":1}\nticket");
+    m_batch.runToEnd(kStart + QStringList{"--batch", script});
+    EXPECT_EQ(m_batch.finish(), 0);
+    EXPECT_EQ(m_batch.restOfOutput(),
+              "{\"command\":\"ticket\",\"result\":{}}\n{\"command\":\"setTicket\",\"result\":null}\n"
+              "{\"command\":\"ticket\",\"result\":{\"a\":1}}\n");
+}
+
+struct BadStart
+{
+    const char *what;
+    QStringList arguments; // "%HOME%" stands for a folder of the test's own, with files to hand
+};
+
+void PrintTo(const BadStart &row, std::ostream *out)
+{
+    *out << row.arguments.join(' ').toStdString();
+}
+
+class BadStartTest : public Batch, public ::testing::WithParamInterface<BadStart>
+{};
+
+TEST_P(BadStartTest, EndsAtOnceWithStatus2AndOneLineOnStandardError)
+{
+    write("bad.json", "{\"a\":null}");
+    write("cut.ppd", "*PPD-Adobe: \"4.3\"\n*OpenUI *A: PickOne\n");
+    write("no-plugin.so", "text");
+    QStringList arguments = GetParam().arguments;
+    arguments.replaceInStrings("%HOME%", m_batch.home());
+    if (!arguments.contains("--batch"))
+        arguments << "--batch"
+                  << "/dev/null";
+    m_batch.runToEnd(arguments);
+    EXPECT_EQ(m_batch.finish(), 2);
+    EXPECT_EQ(m_batch.restOfOutput(), "");
+    const QByteArray message = m_batch.standardError();
+    EXPECT_TRUE(message.startsWith("bvprint: ")) << message.toStdString();
+    EXPECT_EQ(message.count('\n'), 1) << message.toStdString();
+    EXPECT_TRUE(message.endsWith('\n'));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Reasons, BadStartTest,
+    ::testing::Values(BadStart{"arguments", {"--colour"}}, BadStart{"plugin", {"--plugin", "%HOME%/no-plugin.so"}},
+                      BadStart{"missing plugin", kStart + QStringList{"--plugin", "%HOME%/none.so"}},
+                      BadStart{"ppd", kStart + QStringList{"--ppd", "%HOME%/none.ppd"}},
+                      BadStart{"cut ppd", kStart + QStringList{"--ppd", "%HOME%/cut.ppd"}},
+                      BadStart{"ticket", kStart + QStringList{"--ticket", "%HOME%/bad.json"}},
+                      BadStart{"missing ticket", kStart + QStringList{"--ticket", "%HOME%/none.json"}},
+                      BadStart{"script", kStart + QStringList{"--batch", "%HOME%/none"}},
+                      BadStart{"folder as script", kStart + QStringList{"--batch", "%HOME%"}},
+                      BadStart{"no print server", {"--plugin", BV_BUILD_DIR "/tests/testpanel.so"}}),
+    [](const auto &info) { return QString(info.param.what).replace(' ', '_').toStdString(); });
+
+TEST_F(Batch, APluginThatRefusesToStartIsAStatus2)
+{
+    m_batch.setVariable("TESTPANEL_REFUSES_START", "1");
+    m_batch.runToEnd(kStart + QStringList{"--batch", "/dev/null"});
+    EXPECT_EQ(m_batch.finish(), 2);
+}
+
+TEST_F(Batch, HelpAndVersionNeedNothing)
+{
+    m_batch.runToEnd({"--help"});
+    EXPECT_EQ(m_batch.finish(), 0);
+    EXPECT_TRUE(m_batch.restOfOutput().contains("--device-uri URI"));
+}
+
+TEST(BareClassName, LosesSuffixAndNameSpaceOnly)
+{
+    EXPECT_EQ(bv::bareClassName("ns::View_0A1B2C3D_4E5F_6071_8293_A4B5C6D7E8F9"), "View");
+    EXPECT_EQ(bv::bareClassName("View_0A1B2C3D_4E5F"), "View_0A1B2C3D_4E5F");
+    EXPECT_EQ(bv::bareClassName("QComboBox"), "QComboBox");
+}
+
+} // namespace

@@ -1,0 +1,261 @@
+// Printing for real: bvprint and its sink against a private print server, with our plug-in, our PPD and a backend that
+// records what it gets.
+#include "support/BatchProcess.h"
+#include "support/PrivateCupsd.h"
+
+#include "host/JobSink.h"
+#include "host/PrintServer.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QTemporaryDir>
+#include <cups/cups.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using bvtest::BatchProcess;
+using bvtest::PrivateCupsd;
+using bvtest::RecordedJob;
+using ::testing::HasSubstr;
+
+// Looks like no format that a print server knows, is longer than any buffer, and holds every byte.
+QByteArray everyByte()
+{
+    QByteArray bytes = "\x01\x02 not a document of any kind\n";
+    for (int i = 0; i < 200000; ++i)
+        bytes.append(static_cast<char>(i * 7 + i / 256));
+    return bytes;
+}
+
+const QByteArray kPicture = QByteArray::fromHex("89504e470d0a1a0a0000000d494844520000000100000001");
+
+class Printing : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_EQ(m_server.start().toStdString(), "");
+        ASSERT_TRUE(m_server.addQueue("QL70", m_server.directPpd(BV_SOURCE_DIR "/resources/QL70.ppd")));
+        m_batch.setVariable("CUPS_SERVER", m_server.address());
+    }
+
+    void start(const QStringList &more = {"--queue", "QL70"}) { m_batch.start(more); }
+    QJsonObject print(const QString &path) { return m_batch.send("print \"" + path + '"'); }
+    QString write(const QString &name, const QByteArray &bytes)
+    {
+        QFile file(m_folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return file.fileName();
+    }
+
+    // The libcups calls of this process go to the private server as well.
+    void useServerHere()
+    {
+        qputenv("CUPS_SERVER", m_server.address().toUtf8());
+        qputenv("HOME", m_folder.path().toUtf8());
+        cupsSetServer(m_server.address().toUtf8().constData());
+    }
+    // The state of each of the server's jobs, the oldest first.
+    std::vector<ipp_jstate_t> jobStates()
+    {
+        useServerHere();
+        cups_job_t *jobs = nullptr;
+        const int count = cupsGetJobs2(CUPS_HTTP_DEFAULT, &jobs, "QL70", 0, CUPS_WHICHJOBS_ALL);
+        std::map<int, ipp_jstate_t> byNumber;
+        for (int i = 0; i < count; ++i)
+            byNumber[jobs[i].id] = jobs[i].state;
+        cupsFreeJobs(count, jobs);
+        std::vector<ipp_jstate_t> states;
+        for (const auto &[number, state] : byNumber)
+            states.push_back(state);
+        return states;
+    }
+
+    PrivateCupsd m_server;
+    BatchProcess m_batch;
+    QTemporaryDir m_folder;
+};
+
+// A print server carries "True" and "False" without their capitals.
+QString asCarried(const QString &value)
+{
+    const QString small = value.toLower();
+    return small == u"true" || small == u"false" ? small : value;
+}
+
+TEST_F(Printing, OptionsAndDocumentReachTheBackendAsTheyAre)
+{
+    const QByteArray bytes = everyByte();
+    const QString document = write("every byte", bytes);
+    start();
+    ASSERT_EQ(m_batch.result("panelView"), "pdeMainView");
+    EXPECT_TRUE(
+        m_batch
+            .result(R"(setTicket {"colons":":;<=>?","words":"two  words \"quoted\" 'so' \\ back","comma":"a,b",)"
+                    R"("empty":"","umlaut":"Grün €","copies":2,"number":-7})")
+            .isNull());
+    EXPECT_EQ(m_batch.result("restoreValues"), true);
+    EXPECT_TRUE(m_batch.result("set menu_QuickColor 1").isNull());
+    EXPECT_TRUE(m_batch.result("set check_EconomyPrint 1").isNull());
+    const QJsonObject sent = print(document)["result"].toObject();
+    ASSERT_GT(sent["job"].toInt(), 0);
+    const QJsonObject options = sent["options"].toObject();
+    EXPECT_EQ(options["colons"], ":;<=>?");
+    EXPECT_EQ(options["BVEconoMode"], "True");
+    EXPECT_GT(options.size(), 29);
+
+    const RecordedJob got = m_server.recorded(sent["job"].toInt());
+    EXPECT_TRUE(got.data == bytes);
+    for (auto option = options.begin(); option != options.end(); ++option) {
+        const auto found = got.options.find(option.key());
+        // Copies have an argument of their own.
+        if (option.key() == "copies") {
+            EXPECT_EQ(got.arguments[3], "2");
+        } else if (found == got.options.end()) {
+            ADD_FAILURE() << option.key().toStdString() << " is missing";
+        } else {
+            EXPECT_EQ(asCarried(found->second).toStdString(), asCarried(option.value().toString()).toStdString())
+                << option.key().toStdString();
+        }
+    }
+    EXPECT_EQ(m_batch.finish(), 0);
+    EXPECT_EQ(m_batch.standardError(), "");
+    EXPECT_EQ(m_server.recordedCount(), 1);
+}
+
+TEST_F(Printing, TheServerAddsNoColorModeThatContradictsTheChoice)
+{
+    const QString document = write("a.txt", "text\n");
+    start();
+    ASSERT_EQ(m_batch.result("panelView"), "pdeMainView");
+    EXPECT_EQ(m_batch.result("restoreValues"), true);
+    for (const bool gray : {false, true, false}) {
+        EXPECT_TRUE(m_batch.result(QString("set check_ColorAsGrayscale %1").arg(gray ? 1 : 0)).isNull());
+        const int job = print(document)["result"].toObject()["job"].toInt();
+        RecordedJob got = m_server.recorded(job);
+        EXPECT_EQ(asCarried(got.options["BVColorAsGray"]), gray ? "true" : "false");
+        EXPECT_EQ(got.options["print-color-mode"], gray ? "monochrome" : "color");
+    }
+}
+
+TEST_F(Printing, TheDefaultQueueIsTakenAndItsPpdLeavesNoFileBehind)
+{
+    ASSERT_TRUE(m_server.administer("lpadmin", {"-d", "QL70"}));
+    QDir(m_folder.path()).mkdir("tmp");
+    m_batch.setVariable("TMPDIR", m_folder.filePath("tmp"));
+    start({});
+    EXPECT_EQ(m_batch.result("panelView"), "pdeMainView");
+    EXPECT_EQ(m_batch.result("restoreValues"), true);
+    // The pane keeps its values under the queue's name.
+    EXPECT_EQ(m_batch.result("saveValues"), true);
+    EXPECT_TRUE(m_batch.result("ticket").toObject()["QL70"].toObject().contains("QL70"));
+    EXPECT_EQ(QDir(m_folder.filePath("tmp")).entryList(QDir::Files), QStringList());
+}
+
+TEST_F(Printing, ADocumentOfARefusedFormatCancelsItsJobAndOthersStillPrint)
+{
+    const QString picture = write("picture.png", kPicture);
+    const QString text = write("a.txt", "text\n");
+    start();
+    EXPECT_THAT(print(picture)["error"].toString().toStdString(), HasSubstr("picture.png"));
+    const int job = print(text)["result"].toObject()["job"].toInt();
+    EXPECT_EQ(m_server.recorded(job).data, "text\n");
+    EXPECT_EQ(m_batch.finish(), 1);
+    EXPECT_EQ(jobStates().front(), IPP_JSTATE_CANCELED);
+    EXPECT_EQ(m_server.recordedCount(), 1);
+}
+
+TEST_F(Printing, SeveralDocumentsAreOneJobAndOneRefusedMeansNoneIsPrinted)
+{
+    useServerHere();
+    ASSERT_TRUE(m_server.addQueue("QL70", m_server.copyingPpd(BV_SOURCE_DIR "/resources/QL70.ppd")));
+    const QString first = write("1.txt", "first\n");
+    const QString second = write("2.txt", "second\n");
+    const QString picture = write("3.png", kPicture);
+    bv::PrintServerSink sink;
+    EXPECT_FALSE(sink.submit({"QL70", "title", {first, picture, second}, {}}));
+    const auto job = sink.submit({"QL70", "title", {first, second}, {{"k", "v"}}});
+    ASSERT_TRUE(job) << job.error().toStdString();
+    const RecordedJob got = m_server.recorded(job.value().value_or(0));
+    EXPECT_EQ(got.data, "first\nsecond\n");
+    EXPECT_EQ(got.arguments[2], "title");
+    EXPECT_EQ(got.options.at("k"), "v");
+    EXPECT_EQ(m_server.recordedCount(), 1);
+    EXPECT_EQ(jobStates().size(), 2U);
+    EXPECT_EQ(jobStates().front(), IPP_JSTATE_CANCELED);
+}
+
+TEST_F(Printing, AValueThatWouldSwallowTheOptionsBehindItIsRefusedAndOtherBracesPass)
+{
+    const QString text = write("a.txt", "text\n");
+    start();
+    for (const char *value : {"{x", "{a}b", "{{a}"}) {
+        EXPECT_TRUE(m_batch.result(QString("setTicket {\"brace\":\"%1\",\"next\":\"n\"}").arg(value)).isNull());
+        EXPECT_THAT(print(text)["error"].toString().toStdString(), HasSubstr("brace")) << value;
+    }
+    for (const char *value : {"x{", "{x}", "{a b {c}}", "}"}) {
+        EXPECT_TRUE(m_batch.result(QString("setTicket {\"brace\":\"%1\",\"next\":\"n\"}").arg(value)).isNull());
+        RecordedJob got = m_server.recorded(print(text)["result"].toObject()["job"].toInt());
+        EXPECT_EQ(got.options["brace"].toStdString(), value);
+        EXPECT_EQ(got.options["next"], "n");
+    }
+}
+
+TEST_F(Printing, WhatTheServerRefusesIsSaidInPlainWordsAndLosesNoChoice)
+{
+    const QString text = write("a.txt", "text\n");
+    start();
+    EXPECT_TRUE(m_batch.result("setTicket {\"kept\":\"yes\"}").isNull());
+    ASSERT_TRUE(m_server.administer("cupsdisable", {"QL70"}));
+    EXPECT_THAT(print(text)["error"].toString().toStdString(), HasSubstr("stopped"));
+    ASSERT_TRUE(m_server.administer("cupsenable", {"QL70"}));
+    ASSERT_TRUE(m_server.administer("cupsreject", {"QL70"}));
+    EXPECT_THAT(print(text)["error"].toString().toStdString(), HasSubstr("takes no jobs"));
+    ASSERT_TRUE(m_server.administer("lpadmin", {"-x", "QL70"}));
+    EXPECT_THAT(print(text)["error"].toString().toStdString(), HasSubstr("no queue QL70"));
+    m_server.stop();
+    EXPECT_THAT(print(text)["error"].toString().toStdString(), HasSubstr("does not answer"));
+    EXPECT_EQ(m_batch.result("ticket").toObject()["kept"], "yes");
+    EXPECT_EQ(m_batch.finish(), 1);
+    EXPECT_EQ(m_server.recordedCount(), 0);
+}
+
+TEST_F(Printing, WithoutAUsableQueueTheProgramEndsWithStatus2)
+{
+    ASSERT_TRUE(m_server.addQueue("RAW"));
+    for (const QStringList &arguments :
+         {QStringList{}, QStringList{"--queue", "nowhere"}, QStringList{"--queue", "RAW"}}) {
+        BatchProcess batch;
+        batch.setVariable("CUPS_SERVER", m_server.address());
+        batch.runToEnd(arguments + QStringList{"--batch", "/dev/null"});
+        EXPECT_EQ(batch.finish(), 2);
+        EXPECT_EQ(batch.standardError().count('\n'), 1) << arguments.join(' ').toStdString();
+    }
+}
+
+TEST_F(Printing, QueuesAreListedWithWhatADialogShows)
+{
+    useServerHere();
+    ASSERT_TRUE(m_server.addQueue("RAW"));
+    ASSERT_TRUE(m_server.administer("lpadmin", {"-p", "RAW", "-D", "Ein Drucker", "-L", "Flur"}));
+    ASSERT_TRUE(m_server.administer("cupsdisable", {"RAW"}));
+    ASSERT_TRUE(m_server.administer("lpadmin", {"-d", "QL70"}));
+    const auto queues = bv::PrintServer::queues();
+    ASSERT_TRUE(queues);
+    ASSERT_EQ(queues.value().size(), 2U);
+    const bv::PrintQueue &ours = queues.value()[0];
+    const bv::PrintQueue &raw = queues.value()[1];
+    EXPECT_EQ(ours.name, "QL70");
+    EXPECT_TRUE(ours.isDefault && ours.acceptsJobs && !ours.isStopped);
+    EXPECT_THAT(ours.deviceUri.value_or(QString()).toStdString(), HasSubstr("rec:"));
+    EXPECT_EQ(raw.description, "Ein Drucker");
+    EXPECT_EQ(raw.location, "Flur");
+    EXPECT_TRUE(raw.isStopped && !raw.isDefault);
+    EXPECT_FALSE(bv::PrintServer::ppd("RAW"));
+}
+
+} // namespace
