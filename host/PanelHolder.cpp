@@ -1,24 +1,9 @@
 // The panel's life in the dialog, and who owns its view when.
 #include "host/PanelHolder.h"
 
-#include <QScrollBar>
 #include <algorithm>
 
 namespace bv {
-
-PaneArea::PaneArea(QWidget *parent) : QScrollArea(parent)
-{
-    setWidgetResizable(true);
-    setFrameShape(QFrame::NoFrame);
-    setFocusPolicy(Qt::NoFocus);
-    setObjectName(QStringLiteral("paneArea"));
-}
-
-QSize PaneArea::sizeHint() const
-{
-    // The whole pane, where the base class stops at a share of the screen.
-    return widget() ? widget()->sizeHint().expandedTo(widget()->minimumSizeHint()) : QScrollArea::sizeHint();
-}
 
 PanelHolder::PanelHolder(std::unique_ptr<PrintPanel> panel) : m_panel(std::move(panel))
 {
@@ -50,6 +35,7 @@ QString PanelHolder::prepare()
     if (!m_view)
         return tr("The options of this printer cannot be shown: the plug-in gives no view. Install it anew.");
     m_area = new PaneArea;
+    m_area->setObjectName(QStringLiteral("paneArea"));
     m_area->setWidget(m_view);
     m_view->show();
     QString error;

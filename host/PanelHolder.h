@@ -2,22 +2,12 @@
 #pragma once
 
 #include "host/ChangeWatcher.h"
+#include "host/PaneArea.h"
 #include "platform/HostProtocol.h"
 
 #include <QPointer>
-#include <QScrollArea>
 
 namespace bv {
-
-// A scroll area that follows the keyboard focus and takes no focus itself.
-class PaneArea : public QScrollArea
-{
-    Q_OBJECT
-
-public:
-    explicit PaneArea(QWidget *parent = nullptr);
-    QSize sizeHint() const override;
-};
 
 class PanelHolder : public QObject
 {

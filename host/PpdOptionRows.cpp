@@ -5,6 +5,7 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <algorithm>
 
 namespace bv {
@@ -58,7 +59,8 @@ bool choose(QComboBox *popUp, const QString &choice)
 } // namespace
 
 PpdOptionRows::PpdOptionRows(ppd_file_t *ppd, QWidget *parent)
-    : QWidget(parent), m_ppd(ppd), m_form(new QFormLayout(this)), m_conflict(new QLabel(this))
+    : QWidget(parent), m_ppd(ppd), m_form(new QFormLayout(this)), m_conflict(new QLabel(this)),
+      m_conflictIcon(new QLabel(this))
 {
     m_form->setContentsMargins(0, 0, 0, 0);
     m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
@@ -66,6 +68,10 @@ PpdOptionRows::PpdOptionRows(ppd_file_t *ppd, QWidget *parent)
     m_conflict->setTextFormat(Qt::PlainText);
     m_conflict->setWordWrap(true);
     m_conflict->hide();
+    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    m_conflictIcon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size, size));
+    m_conflictIcon->setAlignment(Qt::AlignTop | Qt::AlignTrailing);
+    m_conflictIcon->hide();
     for (const RowKind &kind : rowKinds()) {
         for (const char *keyword : kind.keywords) {
             ppd_option_t *option = m_ppd ? ppdFindOption(m_ppd, keyword) : nullptr;
@@ -75,7 +81,7 @@ PpdOptionRows::PpdOptionRows(ppd_file_t *ppd, QWidget *parent)
             }
         }
     }
-    m_form->addRow(m_conflict);
+    m_form->addRow(m_conflictIcon, m_conflict);
     restoreDefaults();
 }
 
@@ -137,6 +143,7 @@ void PpdOptionRows::updateConflicts(PMPrintSettings settings)
     }
     m_conflict->setText(sentences.join(u'\n'));
     m_conflict->setVisible(!sentences.isEmpty());
+    m_conflictIcon->setVisible(!sentences.isEmpty());
 }
 
 bool PpdOptionRows::hasConstraints() const

@@ -61,6 +61,7 @@ private:
     ppd_file_t *m_ppd;
     QFormLayout *m_form;
     QLabel *m_conflict;
+    QLabel *m_conflictIcon;
     std::vector<Row> m_rows;
 };
 

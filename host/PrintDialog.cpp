@@ -18,6 +18,7 @@
 #include <QListWidget>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScreen>
 #include <QSpinBox>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -31,6 +32,15 @@ constexpr int kRestMilliseconds = 200;
 
 // What belongs to one job; the dialog's own rows say it, so a ticket to start from does not.
 constexpr const char *kJobKeys[] = {"copies", "Copies", "page-ranges", "PageRanges"};
+
+// Room for pane and summary side by side where the screen has it.
+QSize startSize()
+{
+    constexpr QSize kRoomy(1200, 680);
+    constexpr QSize kFrame(16, 48); // what a window manager puts around it
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return screen ? kRoomy.boundedTo(screen->availableSize() - kFrame) : kRoomy;
+}
 
 } // namespace
 
@@ -47,6 +57,7 @@ PrintDialog::PrintDialog(QueueSource &source, PanelLoader &loader, RememberedTic
     layout->addWidget(m_parts);
     m_stepTimer.setSingleShot(true);
     connectParts();
+    resize(startSize());
 
     m_parts->documents->addDocuments(m_start.documents);
     m_parts->queues->setQueues({});

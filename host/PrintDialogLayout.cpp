@@ -4,6 +4,7 @@
 #include "host/DocumentList.h"
 #include "host/JobRows.h"
 #include "host/MessageBar.h"
+#include "host/PaneArea.h"
 #include "host/PpdOptionRows.h"
 #include "host/QueueList.h"
 #include "host/ReasonLabel.h"
@@ -17,7 +18,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QResizeEvent>
-#include <QScrollArea>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <algorithm>
@@ -26,9 +27,12 @@ namespace bv {
 
 namespace {
 
-// The side column, in average characters, and how wide the window must be for the summary to stand by itself.
+// Widths in average characters: of the side, of a summary that stands by itself, and what the pane is given before the
+// summary may stand so.
 constexpr int kSideCharacters = 44;
+constexpr int kWidestSideCharacters = 58;
 constexpr int kSummaryCharacters = 44;
+constexpr int kPaneCharacters = 66;
 
 QLabel *heading(const QString &text, QWidget *parent)
 {
@@ -79,7 +83,7 @@ PrintDialogLayout::PrintDialogLayout(QDialog *dialog) : QWidget(dialog)
 QWidget *PrintDialogLayout::makeSide()
 {
     auto *side = new QWidget(this);
-    m_settings = new QScrollArea(side);
+    m_settings = new PaneArea(side);
     auto *content = new QWidget;
     documents = new DocumentList(content);
     job = new JobRows(content);
@@ -94,13 +98,13 @@ QWidget *PrintDialogLayout::makeSide()
     // The focus frames of the controls at the edge need a little room.
     inner->setContentsMargins(2, 2, 4, 2);
     m_settings->setWidget(content);
-    m_settings->setWidgetResizable(true);
-    m_settings->setFrameShape(QFrame::NoFrame);
-    m_settings->setFocusPolicy(Qt::NoFocus);
 
     m_sideColumn = column(side);
-    m_sideColumn->addWidget(m_settings, 3);
-    m_sideColumn->addWidget(makeSummary(), 2);
+    // The settings take what they need, the summary the rest.
+    m_settings->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    m_sideColumn->addWidget(m_settings);
+    m_sideColumn->addWidget(makeSummary(), 1);
+    m_sideColumn->addStretch(0);
     side->setFixedWidth(fontMetrics().averageCharWidth() * kSideCharacters);
     return side;
 }
@@ -110,6 +114,8 @@ QWidget *PrintDialogLayout::makeSummary()
     m_summaryBox = new QWidget(this);
     summary = new SummaryView(m_summaryBox);
     summary->setMinimumHeight(fontMetrics().height() * 5);
+    summary->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    m_summaryBox->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
     auto *label = heading(tr("S&ummary"), m_summaryBox);
     label->setBuddy(summary);
     auto *box = column(m_summaryBox);
@@ -179,6 +185,7 @@ void PrintDialogLayout::showQueue(PpdOptionRows *rows, QWidget *pane, const QStr
     m_paneTitle->setText(paneName);
     m_paneTitle->setVisible(!paneName.isEmpty());
     alignLabels(rows);
+    widenSide();
     setTabOrders();
 }
 
@@ -193,11 +200,19 @@ void PrintDialogLayout::resizeEvent(QResizeEvent *event)
     placeSummary();
 }
 
+bool PrintDialogLayout::event(QEvent *event)
+{
+    const bool done = QWidget::event(event);
+    if (event->type() == QEvent::LayoutRequest)
+        placeSummary();
+    return done;
+}
+
 void PrintDialogLayout::placeSummary()
 {
     const int character = fontMetrics().averageCharWidth();
     const int summaryWidth = character * kSummaryCharacters;
-    const int paneWidth = m_place->sizeHint().width();
+    const int paneWidth = std::max(m_place->minimumSizeHint().width(), character * kPaneCharacters);
     const bool aside = width() >= m_side->width() + paneWidth + summaryWidth + 4 * m_middle->spacing();
     if (aside == m_summaryAside)
         return;
@@ -210,9 +225,18 @@ void PrintDialogLayout::placeSummary()
         m_middle->removeWidget(m_summaryBox);
         m_summaryBox->setMinimumWidth(0);
         m_summaryBox->setMaximumWidth(QWIDGETSIZE_MAX);
-        m_sideColumn->addWidget(m_summaryBox, 2);
+        m_sideColumn->insertWidget(1, m_summaryBox, 1);
     }
     setTabOrders();
+}
+
+// Longer texts, in another language or a PPD, make the side wider, up to where the pane needs the room.
+void PrintDialogLayout::widenSide()
+{
+    const int character = fontMetrics().averageCharWidth();
+    const int content =
+        m_settings->widget()->minimumSizeHint().width() + m_settings->verticalScrollBar()->sizeHint().width();
+    m_side->setFixedWidth(std::clamp(content, character * kSideCharacters, character * kWidestSideCharacters));
 }
 
 // Widgets that come into the window later stand at the end of the chain; whatever belongs behind them is put there

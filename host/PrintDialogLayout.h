@@ -8,7 +8,6 @@ class QBoxLayout;
 class QDialog;
 class QLabel;
 class QPushButton;
-class QScrollArea;
 class QStackedWidget;
 
 namespace bv {
@@ -16,6 +15,7 @@ namespace bv {
 class DocumentList;
 class JobRows;
 class MessageBar;
+class PaneArea;
 class PpdOptionRows;
 class QueueList;
 class ReasonLabel;
@@ -46,6 +46,7 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    bool event(QEvent *event) override;
 
 private:
     QWidget *makeSide();
@@ -54,6 +55,7 @@ private:
     QBoxLayout *makeButtons(QDialog *dialog);
     // Moves the summary below the job's settings or, where the window is wide, to the pane's other side.
     void placeSummary();
+    void widenSide();
     void setTabOrders();
     void alignLabels(PpdOptionRows *rows);
 
@@ -61,7 +63,7 @@ private:
     QBoxLayout *m_sideColumn = nullptr;
     QWidget *m_side = nullptr;
     QWidget *m_summaryBox = nullptr;
-    QScrollArea *m_settings = nullptr;
+    PaneArea *m_settings = nullptr; // in it all of the side but the summary
     QStackedWidget *m_rows = nullptr;
     QStackedWidget *m_place = nullptr;
     QWidget *m_placeNote = nullptr;

@@ -54,6 +54,7 @@ SummaryView::SummaryView(QWidget *parent) : QTextEdit(parent)
     setReadOnly(true);
     setTabChangesFocus(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("Summary"));
     setSizeAdjustPolicy(QAbstractScrollArea::AdjustIgnored);
     document()->setDocumentMargin(6);
@@ -71,12 +72,24 @@ void SummaryView::showSummary(const PrintDictionary &summary)
     }
     QString html = QStringLiteral("<table cellspacing=\"0\" cellpadding=\"1\" width=\"100%\">");
     for (const auto &[name, value] : m_items) {
-        html += QStringLiteral("<tr><td width=\"52%\">%1</td><td><b>%2</b></td></tr>")
-                    .arg(name.toHtmlEscaped(), value.toHtmlEscaped());
+        const QString nameCell = QStringLiteral("<td width=\"52%\">%1</td>").arg(name.toHtmlEscaped());
+        const QString valueCell = QStringLiteral("<td width=\"48%\"><b>%1</b></td>").arg(value.toHtmlEscaped());
+        html += QStringLiteral("<tr>") + (isRightToLeft() ? valueCell + nameCell : nameCell + valueCell) +
+                QStringLiteral("</tr>");
     }
     const int position = verticalScrollBar()->value();
     setHtml(html + QStringLiteral("</table>"));
+    alignTexts();
     verticalScrollBar()->setValue(position);
+}
+
+void SummaryView::alignTexts()
+{
+    QTextBlockFormat direction;
+    direction.setLayoutDirection(layoutDirection());
+    QTextCursor all(document());
+    all.select(QTextCursor::Document);
+    all.mergeBlockFormat(direction);
 }
 
 void SummaryView::showNote(const QString &note)

@@ -31,6 +31,9 @@ public:
     QString plainSummary() const;
 
 private:
+    // Texts run as the window does.
+    void alignTexts();
+
     Items m_items;
 };
 
