@@ -78,6 +78,18 @@ BatchCommands::Outcome failure(const QString &sentence)
     return {QJsonValue::Null, sentence, {}};
 }
 
+// Innermost first: a layout takes the sizes of those within it.
+void settleLayouts(QWidget *widget)
+{
+    for (QObject *child : widget->children())
+        if (auto *part = qobject_cast<QWidget *>(child); part && !part->isWindow())
+            settleLayouts(part);
+    if (QLayout *layout = widget->layout()) {
+        layout->invalidate();
+        layout->activate();
+    }
+}
+
 BatchCommands::Outcome nothing(const QString &error = {})
 {
     return {QJsonValue::Null, error, {}};
@@ -314,8 +326,15 @@ BatchCommands::Outcome BatchCommands::choose(const QStringList &words)
 
 BatchCommands::Outcome BatchCommands::screenshot(const QStringList &words)
 {
-    QWidget *widget = roots().front().widget;
-    return widget->grab().save(words[0], "PNG")
+    const ControlRoot root = roots().front();
+    if (words[0].isEmpty())
+        return failure(QStringLiteral("The picture has no name."));
+    // No window lays the view out, so what came into it since the last picture is settled here.
+    if (!root.isWindow) {
+        settleLayouts(root.widget);
+        root.widget->adjustSize();
+    }
+    return root.widget->grab().save(words[0], "PNG")
                ? nothing()
                : failure(QStringLiteral("The picture %1 cannot be written.").arg(words[0]));
 }

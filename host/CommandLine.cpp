@@ -92,6 +92,8 @@ Result<CommandLine> parseCommandLine(const QStringList &arguments)
         line.mode = CommandLine::Mode::Batch;
     if (line.mode == CommandLine::Mode::Batch && !line.documents.isEmpty())
         return failure(QStringLiteral("A batch takes no documents; its print command names them."));
+    if (line.mode == CommandLine::Mode::Batch && !line.screenshot.isEmpty())
+        return failure(QStringLiteral("A batch takes no --screenshot; its screenshot command names the picture."));
     if (line.noPrinter && line.ppd.isEmpty())
         return failure(QStringLiteral("The option --no-printer needs --ppd."));
     return line;
@@ -108,6 +110,8 @@ QString commandLineHelp()
                                   : QString::fromLatin1(option.name);
         text += QStringLiteral("  %1 %2\n").arg(usage, -18).arg(QLatin1String(option.help));
     }
+    text += QStringLiteral("\nExit status: 0 printed or cancelled, 1 a command or job of the batch failed,\n"
+                           "2 bad arguments, PPD, ticket or plug-in, or no print queue.\n");
     return text;
 }
 

@@ -1,12 +1,22 @@
 // Jobs that stay in a folder.
 #include "host/JobSink.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 
 namespace bv {
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("FolderSink", text);
+}
+
+} // namespace
 
 Result<std::optional<int>> FolderSink::submit(const JobRequest &request)
 {
@@ -19,7 +29,7 @@ Result<std::optional<int>> FolderSink::submit(const JobRequest &request)
         ++number;
     const QString name = QStringLiteral("job-%1").arg(number);
     if (!folder.mkpath(name))
-        return Sent::failure(QStringLiteral("The folder %1 cannot be made.").arg(folder.filePath(name)));
+        return Sent::failure(tr("The folder %1 cannot be made.").arg(folder.filePath(name)));
     const QDir job(folder.filePath(name));
 
     QJsonObject options;
@@ -28,15 +38,14 @@ Result<std::optional<int>> FolderSink::submit(const JobRequest &request)
     QFile file(job.filePath(QStringLiteral("options.json")));
     const QByteArray json = QJsonDocument(options).toJson();
     if (!file.open(QIODevice::WriteOnly) || file.write(json) != json.size())
-        return Sent::failure(QStringLiteral("%1 cannot be written: %2.").arg(file.fileName(), file.errorString()));
+        return Sent::failure(tr("%1 cannot be written: %2.").arg(file.fileName(), file.errorString()));
     file.close();
     for (qsizetype i = 0; i < request.documents.size(); ++i) {
         const QFileInfo document(request.documents[i]);
         // Documents of one name from several folders are kept apart by their number.
         const QString copy = job.filePath(QStringLiteral("%1-%2").arg(i + 1).arg(document.fileName()));
         if (!QFile::copy(document.filePath(), copy))
-            return Sent::failure(
-                QStringLiteral("The document %1 cannot be copied to %2.").arg(document.filePath(), copy));
+            return Sent::failure(tr("The document %1 cannot be copied to %2.").arg(document.filePath(), copy));
     }
     m_lastJobFolder = job.absolutePath();
     return std::optional<int>(number);

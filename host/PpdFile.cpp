@@ -3,6 +3,7 @@
 
 #include "host/Locale.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <cups/cups.h>
@@ -12,6 +13,11 @@
 namespace bv {
 
 namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("PpdFile", text);
+}
 
 // What a file that ends too early leaves open. libcups takes such a file for a smaller printer; "" when all is closed.
 // Keywords begin their line, and a quoted value may go over several lines (PPD 4.3, sections 3.2 and 3.6).
@@ -41,30 +47,31 @@ QString leftOpen(const QString &path)
             quoted = quoted != (value.count('"') % 2 == 1);
     }
     if (quoted)
-        return QStringLiteral("a quoted value");
+        return tr("a quoted value");
     return QString::fromUtf8(option.isEmpty() ? group : option).simplified();
 }
 
 } // namespace
 
-Result<PpdFile> PpdFile::open(const QString &path)
+Result<PpdFile> PpdFile::open(const QString &path, const QString &name)
 {
     using Ppd = Result<PpdFile>;
+    const QString called = name.isEmpty() ? path : name;
     // libcups would open a folder, a device or a pipe as well, and wait for it.
     if (const QFileInfo info(path); info.exists() && !info.isFile())
-        return Ppd::failure(QStringLiteral("The PPD %1 is no file.").arg(path));
+        return Ppd::failure(tr("The PPD %1 is no file.").arg(called));
     ppd_file_t *file = ppdOpenFile(QFile::encodeName(path).constData());
     if (!file) {
         int line = 0;
         const ppd_status_t status = ppdLastError(&line);
         const QString reason = QString::fromUtf8(ppdErrorString(status));
         return Ppd::failure(status > PPD_ALLOC_ERROR && line > 0
-                                ? QStringLiteral("The PPD %1 cannot be used: %2, line %3.").arg(path, reason).arg(line)
-                                : QStringLiteral("The PPD %1 cannot be read: %2.").arg(path, reason));
+                                ? tr("The PPD %1 cannot be used: %2, line %3.").arg(called, reason).arg(line)
+                                : tr("The PPD %1 cannot be read: %2.").arg(called, reason));
     }
     PpdFile ppd(file);
     if (const QString open = leftOpen(path); !open.isEmpty())
-        return Ppd::failure(QStringLiteral("The PPD %1 is cut off: %2 is not closed.").arg(path, open));
+        return Ppd::failure(tr("The PPD %1 is cut off: %2 is not closed.").arg(called, open));
     // libcups has converted every text to UTF-8, whether the file says what it was in or not, but tells so only in the
     // first case. The PPD owns the string and frees it with free(3).
     if (!file->lang_encoding)

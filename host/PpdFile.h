@@ -11,9 +11,10 @@ namespace bv {
 class PpdFile
 {
 public:
-    // Opens a file; the sentence of a failure names the file, and the line where libcups knows one. The PPD's texts are
-    // localised for the locale of messages, unless that is "C", "POSIX" or "C.UTF-8".
-    static Result<PpdFile> open(const QString &path);
+    // Opens a file; the sentence of a failure calls it by its name, or by its path where that is empty, and says the
+    // line where libcups knows one. The PPD's texts are localised for the locale of messages, unless that is "C",
+    // "POSIX" or "C.UTF-8".
+    static Result<PpdFile> open(const QString &path, const QString &name = QString());
 
     // Owned by this object; never null.
     ppd_file_t *handle() const { return m_file.get(); }

@@ -258,6 +258,10 @@ void PrintDialog::showCurrent()
     } else {
         m_current->enter();
         m_parts->showQueue(m_current->rows(), m_current->pane(), m_current->paneName(), m_current->noPaneReason());
+        if (m_current->queue().isStopped && messageText().isEmpty())
+            m_parts->message->say(MessageBar::Kind::Note,
+                                  tr("This printer is stopped. You can print all the same: it keeps the job and prints "
+                                     "it once it is resumed."));
         surveyOthers();
     }
     refreshSummary();

@@ -17,7 +17,7 @@ constexpr QSize kPictureSize(1024, 600);
 
 int badStart(const QString &sentence)
 {
-    std::fprintf(stderr, "bvprint: %s\n", qPrintable(sentence));
+    std::fprintf(stderr, "bvprint: %s\n", qPrintable(sentence.simplified()));
     return 2;
 }
 

@@ -4,10 +4,20 @@
 #include "host/QueueSession.h"
 #include "host/StandardAttributes.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
 namespace bv {
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("PrintJob", text);
+}
+
+} // namespace
 
 JobOptions ticketOptions(const PrintDictionary &ticket)
 {
@@ -32,16 +42,16 @@ JobOptions jobOptions(const PrintDictionary &ticket, ppd_file_t *ppd, const JobO
 QString checkDocuments(const QStringList &documents)
 {
     if (documents.isEmpty())
-        return QStringLiteral("There is no document to print.");
+        return tr("There is no document to print.");
     for (const QString &path : documents) {
         const QFileInfo info(path);
         if (!info.exists())
-            return QStringLiteral("The document %1 is not there.").arg(path);
+            return tr("The document %1 is not there.").arg(path);
         if (!info.isFile())
-            return QStringLiteral("%1 is no document but a folder or a device.").arg(path);
+            return tr("%1 is no document but a folder or a device.").arg(path);
         QFile file(path);
         if (!file.open(QIODevice::ReadOnly))
-            return QStringLiteral("The document %1 cannot be read: %2.").arg(path, file.errorString());
+            return tr("The document %1 cannot be read: %2.").arg(path, file.errorString());
     }
     return {};
 }
@@ -55,9 +65,9 @@ Result<PrintedJob> printDocuments(QueueSession &session, PrintPanel *panel, JobS
     if (panel) {
         QString error;
         if (!panel->saveValuesAndReturnError(&error))
-            return Printed::failure(error.isEmpty() ? QStringLiteral("The options cannot be kept.") : error);
+            return Printed::failure(error.isEmpty() ? tr("The options cannot be kept.") : error);
         if (!panel->shouldPrint())
-            return Printed::failure(QStringLiteral("The options do not let this job be printed."));
+            return Printed::failure(tr("The options do not let this job be printed."));
     }
     PrintedJob job;
     job.options = jobOptions(session.ticket().entries(), session.ppdFile(), extra);

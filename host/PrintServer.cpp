@@ -1,11 +1,17 @@
 // The print server through libcups (cupsGetDests2, cupsGetPPD3, httpConnect2).
 #include "host/PrintServer.h"
 
+#include <QCoreApplication>
 #include <unistd.h>
 
 namespace bv {
 
 namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("PrintServer", text);
+}
 
 // The list that cupsGetDests2 hands out, freed with it.
 struct Destinations
@@ -47,8 +53,7 @@ Result<HttpConnection> PrintServer::connect()
         httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, kConnectMilliseconds, nullptr);
     if (!http)
         return Result<HttpConnection>::failure(
-            QStringLiteral("The print server %1 does not answer; check that it is running.")
-                .arg(QString::fromUtf8(cupsServer())));
+            tr("The print server %1 does not answer; check that it is running.").arg(QString::fromUtf8(cupsServer())));
     return HttpConnection(http);
 }
 
@@ -81,8 +86,8 @@ Result<PrintQueue> PrintServer::queue(const QString &name)
     for (PrintQueue &queue : all.value())
         if (name.isEmpty() ? queue.isDefault : queue.name == name)
             return std::move(queue);
-    return Queue::failure(name.isEmpty() ? QStringLiteral("There is no default print queue; name one with --queue.")
-                                         : QStringLiteral("The print server has no queue %1.").arg(name));
+    return Queue::failure(name.isEmpty() ? tr("There is no default print queue; name one with --queue.")
+                                         : tr("The print server has no queue %1.").arg(name));
 }
 
 Result<PpdFile> PrintServer::ppd(const QString &queue)
@@ -100,15 +105,13 @@ Result<PpdFile> PrintServer::ppd(const QString &queue)
         if (*path)
             unlink(path);
         return Ppd::failure(status == HTTP_STATUS_NOT_FOUND
-                                ? QStringLiteral("The queue %1 has no PPD.").arg(queue)
-                                : QStringLiteral("The PPD of the queue %1 cannot be had: %2.")
+                                ? tr("The queue %1 has no PPD.").arg(queue)
+                                : tr("The PPD of the queue %1 cannot be had: %2.")
                                       .arg(queue, QString::fromUtf8(cupsLastErrorString())));
     }
-    Result<PpdFile> ppd = PpdFile::open(QString::fromUtf8(path));
+    // People know the queue, not the temporary file.
+    Result<PpdFile> ppd = PpdFile::open(QString::fromUtf8(path), tr("of the queue %1").arg(queue));
     unlink(path);
-    if (!ppd)
-        return Ppd::failure(QStringLiteral("The PPD of the queue %1 cannot be used: %2")
-                                .arg(queue, QString::fromUtf8(ppdErrorString(ppdLastError(nullptr)))));
     return ppd;
 }
 

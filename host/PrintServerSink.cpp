@@ -3,13 +3,20 @@
 
 #include "host/PrintServer.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 #include <array>
 
 namespace bv {
 
 namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("PrintServerSink", text);
+}
 
 using Sent = Result<std::optional<int>>;
 
@@ -42,9 +49,11 @@ QString refusal(ipp_status_t status, const QString &queue, const QString &docume
 {
     for (const Refusal &row : kRefusals)
         if (row.status == status)
-            return QString::fromUtf8(row.sentence).arg(queue).replace(QStringLiteral("%2"), document);
-    return QStringLiteral("The queue %1 refused the job: %2.")
-        .arg(queue, QString::fromUtf8(cupsLastErrorString()).trimmed());
+            return tr(row.sentence).arg(queue).replace(QStringLiteral("%2"), document);
+    QString words = QString::fromUtf8(cupsLastErrorString()).trimmed();
+    if (words.endsWith(u'.'))
+        words.chop(1);
+    return tr("The queue %1 refused the job: %2.").arg(queue, words);
 }
 
 QByteArray printerUri(const QString &queue)
@@ -90,6 +99,13 @@ bool isCarried(const QString &value)
     return false;
 }
 
+// A blank or an equals sign ends a keyword there; what follows would be read as options and values of its own.
+bool isCarriedKeyword(const QString &keyword)
+{
+    return std::none_of(keyword.begin(), keyword.end(),
+                        [](QChar character) { return character.isSpace() || character == u'='; });
+}
+
 // An option goes as libcups types it: numbers, keywords and ranges for the standard ones, a boolean for True and False.
 // But it takes untyped values apart (quotes, commas, a brace at the beginning), so those are added whole.
 void addOption(ipp_t *request, const QString &keyword, const QString &value)
@@ -109,28 +125,19 @@ void addOption(ipp_t *request, const QString &keyword, const QString &value)
     cupsEncodeOptions2(request, 1, &option, IPP_TAG_JOB);
 }
 
-// A sentence when the queue would not print a job now: it is gone, stopped, or takes none.
+// A sentence when the queue would not take a job now: it is gone, or takes none. One that is stopped takes jobs and
+// keeps them until it is resumed.
 QString checkQueue(http_t *http, const QString &queue)
 {
-    static constexpr std::array<const char *, 3> kWanted = {"printer-state", "printer-state-message",
-                                                            "printer-is-accepting-jobs"};
     ipp_t *request = newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
-    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", kWanted.size(), nullptr,
-                  kWanted.data());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+                 "printer-is-accepting-jobs");
     const IppMessage response(cupsDoRequest(http, request, "/"));
     if (cupsLastError() > IPP_STATUS_OK_CONFLICTING)
-        return refusal(cupsLastError(), queue, QStringLiteral("the document"));
+        return refusal(cupsLastError(), queue, tr("the document"));
     ipp_attribute_t *accepts = ippFindAttribute(response.get(), "printer-is-accepting-jobs", IPP_TAG_BOOLEAN);
-    if (accepts && !ippGetBoolean(accepts, 0))
-        return refusal(IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS, queue, QString());
-    ipp_attribute_t *state = ippFindAttribute(response.get(), "printer-state", IPP_TAG_ENUM);
-    if (!state || ippGetInteger(state, 0) != IPP_PSTATE_STOPPED)
-        return {};
-    ipp_attribute_t *message = ippFindAttribute(response.get(), "printer-state-message", IPP_TAG_TEXT);
-    const QString words = message ? QString::fromUtf8(ippGetString(message, 0, nullptr)).trimmed() : QString();
-    return words.isEmpty()
-               ? QStringLiteral("The queue %1 is stopped; resume it or choose another one.").arg(queue)
-               : QStringLiteral("The queue %1 is stopped (%2); resume it or choose another one.").arg(queue, words);
+    return accepts && !ippGetBoolean(accepts, 0) ? refusal(IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS, queue, QString())
+                                                 : QString();
 }
 
 // The number of a new job without documents, or a sentence.
@@ -145,7 +152,7 @@ Result<int> createJob(http_t *http, const JobRequest &job)
         return Result<int>::failure(refusal(cupsLastError(), job.queue, job.title));
     ipp_attribute_t *number = ippFindAttribute(response.get(), "job-id", IPP_TAG_INTEGER);
     if (!number)
-        return Result<int>::failure(QStringLiteral("The print server gave the job no number."));
+        return Result<int>::failure(tr("The print server gave the job no number."));
     return ippGetInteger(number, 0);
 }
 
@@ -155,7 +162,10 @@ QString sendDocument(http_t *http, const JobRequest &job, int number, const QStr
     QFile file(path);
     const QString name = QFileInfo(path).fileName();
     if (!file.open(QIODevice::ReadOnly))
-        return QStringLiteral("The document %1 cannot be read: %2.").arg(path, file.errorString());
+        return tr("The document %1 cannot be read: %2.").arg(path, file.errorString());
+    // The server would say no more than that there is no file.
+    if (file.size() == 0)
+        return tr("The document %1 is empty.").arg(path);
     const QByteArray queue = job.queue.toUtf8();
     http_status_t status =
         cupsStartDocument(http, queue.constData(), number, name.toUtf8().constData(), CUPS_FORMAT_AUTO, isLast ? 1 : 0);
@@ -165,7 +175,7 @@ QString sendDocument(http_t *http, const JobRequest &job, int number, const QStr
         status = cupsWriteRequestData(http, bytes, static_cast<size_t>(count));
     const ipp_status_t answer = cupsFinishDocument(http, queue.constData());
     if (count < 0)
-        return QStringLiteral("The document %1 cannot be read: %2.").arg(path, file.errorString());
+        return tr("The document %1 cannot be read: %2.").arg(path, file.errorString());
     if (status != HTTP_STATUS_CONTINUE && answer <= IPP_STATUS_OK_CONFLICTING)
         return refusal(IPP_STATUS_ERROR_SERVICE_UNAVAILABLE, job.queue, name);
     return answer > IPP_STATUS_OK_CONFLICTING ? refusal(answer, job.queue, name) : QString();
@@ -182,11 +192,13 @@ void cancelJob(const QString &queue, int number)
 
 Result<std::optional<int>> PrintServerSink::submit(const JobRequest &request)
 {
-    for (const auto &[keyword, value] : request.options)
+    for (const auto &[keyword, value] : request.options) {
+        if (!isCarriedKeyword(keyword))
+            return Sent::failure(tr("The print server cannot carry an option of the name “%1”.").arg(keyword));
         if (!isCarried(value))
-            return Sent::failure(
-                QStringLiteral("The print server cannot carry the value %1 of the option %2; choose another one.")
-                    .arg(value, keyword));
+            return Sent::failure(tr("The print server cannot carry the value %1 of the option %2; choose another one.")
+                                     .arg(value, keyword));
+    }
     Result<HttpConnection> connection = PrintServer::connect();
     if (!connection)
         return Sent::failure(connection.error());

@@ -29,8 +29,9 @@ QString chosen(const JobOptions &options, ppd_file_t *ppd, const char *keyword)
 {
     if (const auto found = options.find(QString::fromLatin1(keyword)); found != options.end())
         return found->second;
-    const ppd_option_t *option = ppd ? ppdFindOption(ppd, keyword) : nullptr;
-    return option ? QString::fromUtf8(option->defchoice) : QString();
+    ppd_option_t *option = ppd ? ppdFindOption(ppd, keyword) : nullptr;
+    // A default that names no choice of the option stands for none.
+    return option && ppdFindChoice(option, option->defchoice) ? QString::fromUtf8(option->defchoice) : QString();
 }
 
 } // namespace

@@ -235,6 +235,7 @@ constexpr const char *kWrongCommands[] = {"bogus",
                                           "setTicket [1]",
                                           "print",
                                           "print /nonexistent",
+                                          "screenshot \"\"",
                                           "screenshot /nonexistent/x.png"};
 
 TEST_F(Batch, AWrongCommandIsAnErrorThatChangesNothingAndDoesNotEndTheBatch)
@@ -265,6 +266,24 @@ TEST_F(Batch, PicturesShowTheViewOrTheModalWindow)
     EXPECT_GT(first.width(), 50);
     EXPECT_GT(second.width(), 50);
     EXPECT_NE(first, second);
+}
+
+TEST(BatchOnOurPane, APictureHasThePanesSizeAtOnceAfterASwap)
+{
+    BatchProcess batch;
+    batch.start({"--ppd", BV_SOURCE_DIR "/resources/QL70.ppd"});
+    ASSERT_EQ(batch.result("panelView"), "pdeMainView");
+    std::vector<QSize> sizes;
+    for (const char *command :
+         {"restoreValues", "set menu_QuickColor 3", "press button_AdvanceColorOptions", "panelName", "willShow"}) {
+        const QString picture = QString("%1/%2.png").arg(batch.home()).arg(sizes.size());
+        EXPECT_EQ(batch.error(command), "");
+        EXPECT_EQ(batch.error("screenshot " + picture), "");
+        sizes.push_back(QImage(picture).size());
+    }
+    EXPECT_GT(sizes[2].height(), sizes[1].height());
+    EXPECT_EQ(sizes[2], sizes[3]);
+    EXPECT_EQ(sizes[4], sizes[0]);
 }
 
 TEST_F(Batch, PrintSavesAsksAndAnswersWithWhatIsSent)
@@ -384,6 +403,16 @@ TEST(BareClassName, LosesSuffixAndNameSpaceOnly)
     EXPECT_EQ(bv::bareClassName("ns::View_0A1B2C3D_4E5F_6071_8293_A4B5C6D7E8F9"), "View");
     EXPECT_EQ(bv::bareClassName("View_0A1B2C3D_4E5F"), "View_0A1B2C3D_4E5F");
     EXPECT_EQ(bv::bareClassName("QComboBox"), "QComboBox");
+}
+
+TEST_F(Batch, AClosedStandardInputIsAnEmptyBatch)
+{
+    QProcess shell;
+    shell.start("/bin/sh", {"-c", "exec \"$0\" \"$@\" --batch - <&-", BV_BUILD_DIR "/bin/bvprint", kStart[0], kStart[1],
+                            kStart[2], kStart[3]});
+    ASSERT_TRUE(shell.waitForFinished());
+    EXPECT_EQ(shell.exitCode(), 0);
+    EXPECT_EQ(shell.readAllStandardError(), "");
 }
 
 } // namespace

@@ -68,7 +68,8 @@ INSTANTIATE_TEST_SUITE_P(Lines, BadCommandLine,
                          ::testing::Values(BadLine{{"--colour"}, "--colour"}, BadLine{{"-x"}, "-x"},
                                            BadLine{{"a", "--queue"}, "--queue NAME"}, BadLine{{"--ppd="}, "--ppd"},
                                            BadLine{{"--help=1"}, "--help"}, BadLine{{"--no-printer"}, "--ppd"},
-                                           BadLine{{"--batch", "-", "a.pdf"}, "documents"}));
+                                           BadLine{{"--batch", "-", "a.pdf"}, "documents"},
+                                           BadLine{{"--batch", "-", "--screenshot", "x"}, "--screenshot"}));
 
 struct Words
 {

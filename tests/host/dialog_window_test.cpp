@@ -179,6 +179,16 @@ TEST_F(Dialog, SaysWhyAQueueHasNoPaneAndPrintsToItAllTheSame)
     EXPECT_EQ(source.jobs.jobs[0].options.at("PageSize"), "A4");
 }
 
+TEST_F(Dialog, SaysThatAStoppedQueueKeepsTheJobAndSendsIt)
+{
+    source.listed[0].isStopped = true;
+    open();
+    EXPECT_TRUE(dialog->messageText().contains("stopped"));
+    EXPECT_TRUE(dialog->printReason().isEmpty());
+    ASSERT_TRUE(print());
+    EXPECT_EQ(source.jobs.jobs.size(), 1U);
+}
+
 TEST_F(Dialog, FindsTheQueuesWithoutPaneInTheBackground)
 {
     open();

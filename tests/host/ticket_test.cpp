@@ -1,4 +1,5 @@
 // The ticket: JSON in and out, changes in place, and the options of a job that come of it.
+#include "host/PpdFile.h"
 #include "host/PrintJob.h"
 #include "host/StandardAttributes.h"
 #include "host/Ticket.h"
@@ -129,6 +130,24 @@ INSTANTIATE_TEST_SUITE_P(Rows, ColorMode,
                                            ColorRow{{{"BVColorAsGray", "Perhaps"}}, nullptr},
                                            ColorRow{{{"BVColorAsGray", "True"}, {"print-color-mode", "color"}},
                                                     "color"}));
+
+TEST(ColorModeOfAPpd, IsThatOfADefaultWhichTheOptionHas)
+{
+    const QTemporaryDir folder;
+    for (const char *choices : {"", "*BVColorAsGray True: \"\"\n"}) {
+        QFile file(folder.filePath("gray.ppd"));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write("*PPD-Adobe: \"4.3\"\n*OpenUI *BVColorAsGray: Boolean\n*DefaultBVColorAsGray: True\n");
+        file.write(choices);
+        file.write("*CloseUI: *BVColorAsGray\n");
+        file.close();
+        const auto ppd = bv::PpdFile::open(file.fileName());
+        ASSERT_TRUE(ppd) << ppd.error().toStdString();
+        JobOptions options;
+        bv::addStandardAttributes(options, ppd.value().handle());
+        EXPECT_EQ(options.count("print-color-mode"), *choices ? 1U : 0U);
+    }
+}
 
 TEST(JobOptions, ExtraOnesWinOverTheTicket)
 {

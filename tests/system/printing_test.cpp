@@ -19,7 +19,9 @@ namespace {
 using bvtest::BatchProcess;
 using bvtest::PrivateCupsd;
 using bvtest::RecordedJob;
+using ::testing::AllOf;
 using ::testing::HasSubstr;
+using ::testing::Not;
 
 // Looks like no format that a print server knows, is longer than any buffer, and holds every byte.
 QByteArray everyByte()
@@ -189,13 +191,17 @@ TEST_F(Printing, SeveralDocumentsAreOneJobAndOneRefusedMeansNoneIsPrinted)
     EXPECT_EQ(jobStates().front(), IPP_JSTATE_CANCELED);
 }
 
-TEST_F(Printing, AValueThatWouldSwallowTheOptionsBehindItIsRefusedAndOtherBracesPass)
+TEST_F(Printing, AnOptionThatWouldBeReadAsOthersIsRefusedAndOtherBracesPass)
 {
     const QString text = write("a.txt", "text\n");
     start();
     for (const char *value : {"{x", "{a}b", "{{a}"}) {
         EXPECT_TRUE(m_batch.result(QString("setTicket {\"brace\":\"%1\",\"next\":\"n\"}").arg(value)).isNull());
         EXPECT_THAT(print(text)["error"].toString().toStdString(), HasSubstr("brace")) << value;
+    }
+    for (const char *keyword : {"two words", "a=b"}) {
+        EXPECT_TRUE(m_batch.result(QString("setTicket {\"%1\":\"v\",\"next\":\"n\"}").arg(keyword)).isNull());
+        EXPECT_THAT(print(text)["error"].toString().toStdString(), HasSubstr(keyword));
     }
     for (const char *value : {"x{", "{x}", "{a b {c}}", "}"}) {
         EXPECT_TRUE(m_batch.result(QString("setTicket {\"brace\":\"%1\",\"next\":\"n\"}").arg(value)).isNull());
@@ -211,8 +217,13 @@ TEST_F(Printing, WhatTheServerRefusesIsSaidInPlainWordsAndLosesNoChoice)
     start();
     EXPECT_TRUE(m_batch.result("setTicket {\"kept\":\"yes\"}").isNull());
     ASSERT_TRUE(m_server.administer("cupsdisable", {"QL70"}));
-    EXPECT_THAT(print(text)["error"].toString().toStdString(), HasSubstr("stopped"));
+    // A stopped queue keeps the job; one that takes no jobs refuses it, stopped or not.
+    const int kept = print(text)["result"].toObject()["job"].toInt();
+    EXPECT_GT(kept, 0);
+    EXPECT_EQ(m_server.recordedCount(), 0);
     ASSERT_TRUE(m_server.administer("cupsenable", {"QL70"}));
+    EXPECT_EQ(m_server.recorded(kept).data, "text\n");
+    EXPECT_THAT(print(write("empty.txt", ""))["error"].toString().toStdString(), HasSubstr("empty.txt is empty."));
     ASSERT_TRUE(m_server.administer("cupsreject", {"QL70"}));
     EXPECT_THAT(print(text)["error"].toString().toStdString(), HasSubstr("takes no jobs"));
     ASSERT_TRUE(m_server.administer("lpadmin", {"-x", "QL70"}));
@@ -221,7 +232,7 @@ TEST_F(Printing, WhatTheServerRefusesIsSaidInPlainWordsAndLosesNoChoice)
     EXPECT_THAT(print(text)["error"].toString().toStdString(), HasSubstr("does not answer"));
     EXPECT_EQ(m_batch.result("ticket").toObject()["kept"], "yes");
     EXPECT_EQ(m_batch.finish(), 1);
-    EXPECT_EQ(m_server.recordedCount(), 0);
+    EXPECT_EQ(m_server.recordedCount(), 1);
 }
 
 TEST_F(Printing, WithoutAUsableQueueTheProgramEndsWithStatus2)
@@ -235,6 +246,18 @@ TEST_F(Printing, WithoutAUsableQueueTheProgramEndsWithStatus2)
         EXPECT_EQ(batch.finish(), 2);
         EXPECT_EQ(batch.standardError().count('\n'), 1) << arguments.join(' ').toStdString();
     }
+}
+
+TEST_F(Printing, AQueueWhosePpdIsCutOffIsNamedWithTheReason)
+{
+    useServerHere();
+    QFile whole(BV_SOURCE_DIR "/resources/QL70.ppd");
+    ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
+    const QByteArray text = whole.readAll();
+    ASSERT_TRUE(m_server.addQueue("CUT", write("cut.ppd", text.left(text.size() / 2))));
+    const auto ppd = bv::PrintServer::ppd("CUT");
+    ASSERT_FALSE(ppd);
+    EXPECT_THAT(ppd.error().toStdString(), AllOf(HasSubstr("of the queue CUT is cut off"), Not(HasSubstr("tmp"))));
 }
 
 TEST_F(Printing, QueuesAreListedWithWhatADialogShows)
