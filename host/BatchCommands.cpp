@@ -70,12 +70,12 @@ namespace {
 
 BatchCommands::Outcome result(const QJsonValue &value)
 {
-    return {value, {}, {}};
+    return {value, {}};
 }
 
 BatchCommands::Outcome failure(const QString &sentence)
 {
-    return {QJsonValue::Null, sentence, {}};
+    return {QJsonValue::Null, sentence};
 }
 
 // Innermost first: a layout takes the sizes of those within it.
@@ -92,7 +92,7 @@ void settleLayouts(QWidget *widget)
 
 BatchCommands::Outcome nothing(const QString &error = {})
 {
-    return {QJsonValue::Null, error, {}};
+    return {QJsonValue::Null, error};
 }
 
 // What a panel answers to a question that it may refuse with a text.
@@ -309,13 +309,10 @@ BatchCommands::Outcome BatchCommands::press(const QStringList &words)
     const Found found = findEverywhere(words[0]);
     if (!found.control)
         return failure(QStringLiteral("There is no button %1.").arg(words[0]));
-    Outcome outcome = nothing(checkPress(found.control));
-    if (outcome.error.isEmpty())
-        outcome.afterAnswer = [control = QPointer<QWidget>(found.control)] {
-            if (control)
-                pressControl(control);
-        };
-    return outcome;
+    const QString complaint = checkPress(found.control);
+    if (complaint.isEmpty())
+        pressControl(found.control);
+    return nothing(complaint);
 }
 
 BatchCommands::Outcome BatchCommands::choose(const QStringList &words)

@@ -24,12 +24,11 @@ public:
     BatchCommands(const BatchCommands &) = delete;
     BatchCommands &operator=(const BatchCommands &) = delete;
 
-    // What a command came to, and what is left to do once that is told: a press is answered before it is carried out.
+    // What a command came to.
     struct Outcome
     {
         QJsonValue result = QJsonValue::Null;
         QString error; // not empty: the command failed, and result means nothing
-        std::function<void()> afterAnswer;
     };
     // line.command is not empty.
     Outcome run(const BatchLine &line);

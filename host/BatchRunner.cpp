@@ -78,7 +78,7 @@ void BatchRunner::read()
 
 void BatchRunner::scheduleTurn()
 {
-    if (m_turn.isActive() || (m_lines.empty() && !m_atEnd))
+    if (m_turn.isActive() || (m_lines.empty() && !m_atEnd && m_openCommand.isEmpty()))
         return;
     m_turnsToWait = kTurnsBetweenCommands;
     m_turn.start();
@@ -110,16 +110,17 @@ void BatchRunner::carryOut(const QByteArray &line)
     if (split.command.isEmpty())
         return;
     const bool mayAnswerEarly = BatchCommands::answersNull(split.command);
-    if (mayAnswerEarly)
+    if (mayAnswerEarly) {
         m_openCommand = split.command;
+        // Whoever waits for the answer before sending the next line gets it from the loop of a window that opens.
+        scheduleTurn();
+    }
     const BatchCommands::Outcome outcome = m_commands.run(split);
     // Answered already from a window's own event loop?
     if (!mayAnswerEarly || !m_openCommand.isEmpty()) {
         m_openCommand.clear();
         answer(split.command, outcome);
     }
-    if (outcome.afterAnswer)
-        outcome.afterAnswer();
 }
 
 void BatchRunner::answerOpenCommand()

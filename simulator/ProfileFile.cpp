@@ -13,7 +13,7 @@ namespace {
 constexpr std::string_view kDefaultList = R"(
 # index location file-name     profile-name                     class availability
 1       disk     SRGB.ICC      "sRGB"                           1     1
-2       disk     ADOBERGB.ICC  "Wide RGB 1998"                  1     1
+2       disk     OPRGB.ICC     "Wide RGB"                       1     1
 3       disk     PHOTO.ICC     "Photo Display D65"              2     1
 4       disk     COATED.ICC    "Coated Paper CMYK"              3     1
 5       disk     UNCOATED.ICC  "Uncoated Paper CMYK"            3     1

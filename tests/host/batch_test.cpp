@@ -181,6 +181,7 @@ TEST_F(Batch, AModalWindowGoesFirstAndCommandsGoOnInWindowsWithinWindows)
     EXPECT_EQ(value("editName"), "");
     EXPECT_TRUE(does("type editName Hi"));
     EXPECT_TRUE(does("press editOK"));
+    EXPECT_EQ(log().count("editor confirmed"), 1) << "answered before the click was carried out";
     EXPECT_EQ(value("stampText"), "Hi");
     EXPECT_FALSE(error("control editName").isEmpty());
     EXPECT_EQ(log().count("editor closes"), 1);

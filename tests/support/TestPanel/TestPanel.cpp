@@ -17,6 +17,7 @@
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTableView>
+#include <QThread>
 #include <QVBoxLayout>
 
 namespace {
@@ -158,7 +159,11 @@ void TestPanel::openEditor()
                          name->setText(QFileInfo(path).fileName());
                      });
     QObject::connect(editor.findChild<QPushButton *>(QStringLiteral("editOK")), &QPushButton::clicked, &editor,
-                     &QDialog::accept);
+                     [&editor] {
+                         QThread::msleep(100); // as a button that writes a file
+                         log(QStringLiteral("editor confirmed"));
+                         editor.accept();
+                     });
     QObject::connect(editor.findChild<QPushButton *>(QStringLiteral("editCancel")), &QPushButton::clicked, &editor,
                      &QDialog::reject);
     if (editor.exec() == QDialog::Accepted)
