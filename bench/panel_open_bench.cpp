@@ -1,43 +1,23 @@
 // How long the pane takes from loading the plug-in to the shown and restored view, split by step: medians of 20
 // openings on the project's PPD, on one with ten times the options and on one with ten times the choices, one line
 // each. The marking of conflicts is libcups' own work; it is measured alone, so that it can be set apart.
+#include "PanelOpening.h"
 #include "common/PDECommon.h"
-#include "platform/Bundle.h"
-#include "platform/HostProtocol.h"
-#include "plugin/PDEPlugInInterface.h"
 #include "support/PaneFixture.h"
 #include "ui_PDEMain.h"
 
 #include "colorrules/OptionConstraints.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QFile>
-#include <QPluginLoader>
-#include <QWidget>
-#include <algorithm>
 #include <cstdio>
-#include <functional>
 #include <map>
 
 namespace {
 
+using bvbench::milliseconds;
+
 constexpr int kRuns = 20;
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
-// Milliseconds that a step takes.
-double timed(const std::function<void()> &step)
-{
-    QElapsedTimer timer;
-    timer.start();
-    step();
-    return double(timer.nsecsElapsed()) / 1e6;
-}
 
 // The project's PPD, with options added that no pane knows and with choices added to the ones that it does.
 QByteArray grownPpd(int moreOptions, int moreChoices)
@@ -97,46 +77,33 @@ void report(const char *name, ppd_file_t *ppd)
     std::map<const char *, std::vector<double>> steps;
     QStringList keys;
     for (int run = 0; run < kRuns; ++run) {
-        QPluginLoader loader(QStringLiteral(BV_PLUGIN));
-        bv::PrintPanelFactory *factory = nullptr;
         const auto add = [&](const char *step, double time) { steps[step].push_back(time); };
-        double whole = timed([&] {
-            add("load", timed([&] {
-                    factory = qobject_cast<bv::PrintPanelFactory *>(loader.instance());
-                    factory->initWithBundle({QStringLiteral(BV_PLUGIN), QStringLiteral("en")});
-                }));
-            auto panels = factory->PDEPanelsForType(QString::fromLatin1(bv::kPrinterModulePanelType), &callback);
-            QWidget *view = nullptr;
-            add("view", timed([&] { view = panels->front()->panelView(); }));
-            add("restore", timed([&] { panels->front()->restoreValuesAndReturnError(nullptr); }));
-            add("show", timed([&] {
-                    panels->front()->willShow();
-                    view->show();
-                    QCoreApplication::processEvents();
-                }));
-            keys = panels->front()->supportedPPDOptionKeys();
-        });
-        steps["whole"].push_back(whole);
-        loader.unload();
+        const bvbench::PanelOpening opening = bvbench::openPanel(callback);
+        keys = opening.keys;
+        add("whole", opening.whole);
+        add("load", opening.load);
+        add("view", opening.view);
+        add("restore", opening.restore);
+        add("show", opening.show);
 
         // The view's own steps, with the classes linked in.
         MainView view;
         Ui::PDEMain form;
         PainChangeController controller;
-        add("view.form", timed([&] { form.setupUi(&view); }));
+        add("view.form", milliseconds([&] { form.setupUi(&view); }));
         controller.onMainCustomView = form.onMainCustomView;
         controller.onColorView = form.onColorView;
         controller.onAdvancedView = form.onAdvancedView;
         controller.setPPDFileEachView(ppd);
         controller.setPMPrintEachView(&ticket, &session);
-        add("view.tables", timed([&] { controller.creatPDEControlTableEachView(); }));
-        add("view.menus", timed([&] { controller.createPDEItemForPPDKeyEachView(); }));
+        add("view.tables", milliseconds([&] { controller.creatPDEControlTableEachView(); }));
+        add("view.menus", milliseconds([&] { controller.createPDEItemForPPDKeyEachView(); }));
         PDEControlTable tables[] = {form.onColorView->getControlData(), form.onAdvancedView->getControlData()};
         const auto joined = PDECommon::commonControlTableCompound(tables, 2);
         controller.defaultFromPPDInfoEachView();
         controller.getControlValueFromTickettEachView();
-        add("restore.rules", timed([&] { vColorPresetConstraints(joined.get()); }));
-        add("libcups.conflicts", timed([&] {
+        add("restore.rules", milliseconds([&] { vColorPresetConstraints(joined.get()); }));
+        add("libcups.conflicts", milliseconds([&] {
                 for (const QString &key : keys) {
                     const QByteArray keyword = key.toLatin1();
                     const ppd_option_t *option = ppdFindOption(ppd, keyword);
@@ -148,7 +115,7 @@ void report(const char *name, ppd_file_t *ppd)
     std::printf("%-12s choices %5d", name, choicesOf(ppd, keys));
     for (const char *step : {"whole", "load", "view", "view.form", "view.tables", "libcups.conflicts", "view.menus",
                              "restore", "restore.rules", "show"})
-        std::printf("  %s %.2f", step, median(steps[step]));
+        std::printf("  %s %.2f", step, bvbench::median(steps[step]));
     std::printf("  ms\n");
 }
 

@@ -5,9 +5,11 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QThread>
-#include <cups/cups.h>
+#include <arpa/inet.h>
 #include <grp.h>
+#include <netinet/in.h>
 #include <pwd.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -151,10 +153,33 @@ bool PrivateCupsd::writeFiles()
             return false;
         user = group = QStringLiteral("lp");
     }
-    return write(folder.filePath(QStringLiteral("etc/cupsd.conf")),
-                 QString::fromLatin1(kConfiguration).arg(m_folder).toUtf8()) &&
+    QString configuration = QString::fromLatin1(kConfiguration).arg(m_folder);
+    if (m_port != 0)
+        configuration.prepend(QStringLiteral("Listen %1\n").arg(portAddress()));
+    return write(folder.filePath(QStringLiteral("etc/cupsd.conf")), configuration.toUtf8()) &&
            write(folder.filePath(QStringLiteral("etc/cups-files.conf")),
                  QString::fromLatin1(kFiles).arg(m_folder, user, group, systemGroup).toUtf8());
+}
+
+void PrivateCupsd::listenOnPort()
+{
+    const int probe = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    sockaddr_in any{};
+    any.sin_family = AF_INET;
+    any.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t length = sizeof(any);
+    bind(probe, reinterpret_cast<const sockaddr *>(&any), length);
+    getsockname(probe, reinterpret_cast<sockaddr *>(&any), &length);
+    close(probe);
+    m_port = ntohs(any.sin_port);
+}
+
+void PrivateCupsd::useHere(const QString &home) const
+{
+    const QByteArray server = m_port != 0 ? portAddress().toUtf8() : address().toUtf8();
+    qputenv("CUPS_SERVER", server);
+    qputenv("HOME", home.toUtf8());
+    cupsSetServer(server.constData());
 }
 
 QString PrivateCupsd::start()
@@ -240,6 +265,23 @@ RecordedJob PrivateCupsd::recorded(int job)
 qsizetype PrivateCupsd::recordedCount() const
 {
     return QDir(m_folder + QStringLiteral("/out")).entryList({QStringLiteral("*.argv")}).size();
+}
+
+std::map<int, ipp_jstate_t> PrivateCupsd::jobStates(const QString &queue)
+{
+    cups_job_t *jobs = nullptr;
+    const int count = cupsGetJobs2(CUPS_HTTP_DEFAULT, &jobs, queue.toUtf8().constData(), 0, CUPS_WHICHJOBS_ALL);
+    std::map<int, ipp_jstate_t> states;
+    for (int i = 0; i < count; ++i)
+        states[jobs[i].id] = jobs[i].state;
+    cupsFreeJobs(count, jobs);
+    return states;
+}
+
+QString asCarried(const QString &value)
+{
+    const QString small = value.toLower();
+    return small == u"true" || small == u"false" ? small : value;
 }
 
 } // namespace bvtest

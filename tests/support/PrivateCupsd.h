@@ -5,6 +5,7 @@
 #include <QByteArrayList>
 #include <QProcess>
 #include <QString>
+#include <cups/cups.h>
 #include <map>
 
 namespace bvtest {
@@ -25,6 +26,8 @@ public:
     PrivateCupsd(const PrivateCupsd &) = delete;
     PrivateCupsd &operator=(const PrivateCupsd &) = delete;
 
+    // Has it listen on a port of the loopback address as well, for programs that cannot reach a socket. Before start.
+    void listenOnPort();
     // Starts the server; a sentence when it does not come up, else empty.
     QString start();
     // Ends it; jobs can be sent no more.
@@ -32,6 +35,10 @@ public:
 
     // The value for CUPS_SERVER.
     QString address() const { return m_folder + QStringLiteral("/sock"); }
+    // The same for who cannot reach a socket.
+    QString portAddress() const { return QStringLiteral("127.0.0.1:%1").arg(m_port); }
+    // Sends this process' own libcups calls to it, on behalf of a user with that home.
+    void useHere(const QString &home) const;
     // Adds a queue on the recording backend; without a PPD a raw one. Whether it worked.
     bool addQueue(const QString &name, const QString &ppd = {});
     // Runs one of the commands for administrators (cupsdisable, lpadmin …) on this server. Whether it worked.
@@ -46,12 +53,18 @@ public:
     RecordedJob recorded(int job);
     // For how many jobs the backend ran.
     qsizetype recordedCount() const;
+    // The jobs that the queue ever had, by number. After useHere.
+    static std::map<int, ipp_jstate_t> jobStates(const QString &queue);
 
 private:
     bool writeFiles();
 
     QString m_folder;
+    int m_port = 0; // 0: on the socket alone
     QProcess m_server;
 };
+
+// A value as a print server carries it on: "True" and "False" lose their capitals.
+QString asCarried(const QString &value);
 
 } // namespace bvtest

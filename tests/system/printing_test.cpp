@@ -10,12 +10,12 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QTemporaryDir>
-#include <cups/cups.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace {
 
+using bvtest::asCarried;
 using bvtest::BatchProcess;
 using bvtest::PrivateCupsd;
 using bvtest::RecordedJob;
@@ -54,40 +54,12 @@ protected:
         return file.fileName();
     }
 
-    // The libcups calls of this process go to the private server as well.
-    void useServerHere()
-    {
-        qputenv("CUPS_SERVER", m_server.address().toUtf8());
-        qputenv("HOME", m_folder.path().toUtf8());
-        cupsSetServer(m_server.address().toUtf8().constData());
-    }
-    // The state of each of the server's jobs, the oldest first.
-    std::vector<ipp_jstate_t> jobStates()
-    {
-        useServerHere();
-        cups_job_t *jobs = nullptr;
-        const int count = cupsGetJobs2(CUPS_HTTP_DEFAULT, &jobs, "QL70", 0, CUPS_WHICHJOBS_ALL);
-        std::map<int, ipp_jstate_t> byNumber;
-        for (int i = 0; i < count; ++i)
-            byNumber[jobs[i].id] = jobs[i].state;
-        cupsFreeJobs(count, jobs);
-        std::vector<ipp_jstate_t> states;
-        for (const auto &[number, state] : byNumber)
-            states.push_back(state);
-        return states;
-    }
+    void useServerHere() { m_server.useHere(m_folder.path()); }
 
     PrivateCupsd m_server;
     BatchProcess m_batch;
     QTemporaryDir m_folder;
 };
-
-// A print server carries "True" and "False" without their capitals.
-QString asCarried(const QString &value)
-{
-    const QString small = value.toLower();
-    return small == u"true" || small == u"false" ? small : value;
-}
 
 TEST_F(Printing, OptionsAndDocumentReachTheBackendAsTheyAre)
 {
@@ -167,7 +139,8 @@ TEST_F(Printing, ADocumentOfARefusedFormatCancelsItsJobAndOthersStillPrint)
     const int job = print(text)["result"].toObject()["job"].toInt();
     EXPECT_EQ(m_server.recorded(job).data, "text\n");
     EXPECT_EQ(m_batch.finish(), 1);
-    EXPECT_EQ(jobStates().front(), IPP_JSTATE_CANCELED);
+    useServerHere();
+    EXPECT_EQ(PrivateCupsd::jobStates("QL70").begin()->second, IPP_JSTATE_CANCELED);
     EXPECT_EQ(m_server.recordedCount(), 1);
 }
 
@@ -187,8 +160,9 @@ TEST_F(Printing, SeveralDocumentsAreOneJobAndOneRefusedMeansNoneIsPrinted)
     EXPECT_EQ(got.arguments[2], "title");
     EXPECT_EQ(got.options.at("k"), "v");
     EXPECT_EQ(m_server.recordedCount(), 1);
-    EXPECT_EQ(jobStates().size(), 2U);
-    EXPECT_EQ(jobStates().front(), IPP_JSTATE_CANCELED);
+    const auto states = PrivateCupsd::jobStates("QL70");
+    EXPECT_EQ(states.size(), 2U);
+    EXPECT_EQ(states.begin()->second, IPP_JSTATE_CANCELED);
 }
 
 TEST_F(Printing, AnOptionThatWouldBeReadAsOthersIsRefusedAndOtherBracesPass)
