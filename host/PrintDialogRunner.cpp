@@ -69,7 +69,10 @@ int runPrintDialog(const CommandLine &commandLine, PanelLoader &loader)
     if (!commandLine.screenshot.isEmpty())
         takePicture(dialog, commandLine.screenshot, status);
     dialog.exec();
-    return dialog.hadPrinter() ? status : 2;
+    if (dialog.hadPrinter())
+        return status;
+    // Who started it from a script, for a picture say, saw no window.
+    return badStart(dialog.messageText().isEmpty() ? dialog.printReason() : dialog.messageText());
 }
 
 } // namespace bv

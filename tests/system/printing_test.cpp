@@ -213,10 +213,12 @@ TEST_F(Printing, WithoutAUsableQueueTheProgramEndsWithStatus2)
 {
     ASSERT_TRUE(m_server.addQueue("RAW"));
     for (const QStringList &arguments :
-         {QStringList{}, QStringList{"--queue", "nowhere"}, QStringList{"--queue", "RAW"}}) {
+         {QStringList{"--batch", "/dev/null"}, QStringList{"--batch", "/dev/null", "--queue", "nowhere"},
+          QStringList{"--batch", "/dev/null", "--queue", "RAW"},
+          QStringList{"--screenshot", m_folder.filePath("w.png"), "--queue", "RAW"}}) {
         BatchProcess batch;
         batch.setVariable("CUPS_SERVER", m_server.address());
-        batch.runToEnd(arguments + QStringList{"--batch", "/dev/null"});
+        batch.runToEnd(arguments);
         EXPECT_EQ(batch.finish(), 2);
         EXPECT_EQ(batch.standardError().count('\n'), 1) << arguments.join(' ').toStdString();
     }
