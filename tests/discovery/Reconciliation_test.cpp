@@ -2,6 +2,7 @@
 #include "discovery/Reconciliation.h"
 
 #include "support/ListRoot.h"
+#include "support/SampleLists.h"
 
 #include "discovery/ProfileSpool.h"
 #include "profiles/ProfileOperations.h"
@@ -15,20 +16,14 @@
 
 namespace {
 
+using bvtest::Lists;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 ProfileRecord record(int32_t index, int32_t inMenu, std::string_view fileName, int32_t location = kLocationDisk,
                      int32_t profileClass = 1)
 {
-    ProfileRecord made{};
-    made.IndexOnDevice = index;
-    made.InMenu = inMenu;
-    made.ProfileClass = profileClass;
-    made.Location = location;
-    bv::setFieldText(made.FileName, fileName);
-    bv::setFieldText(made.ProfileName, "stored");
-    return made;
+    return bvtest::makeRecord(inMenu, fileName, location, index, "stored", profileClass);
 }
 
 void fill(ProfileList *list, std::initializer_list<ProfileRecord> records)
@@ -57,52 +52,6 @@ std::vector<std::string> shown(const ProfileList &list)
 
 // ---- One list in memory ----
 
-TEST(Reconciliation, MarksStoredProfilesBeforeTheMerge)
-{
-    const auto list = std::make_unique<ProfileList>();
-    const auto states = [&list](int32_t status) {
-        fill(list.get(), {});
-        for (int32_t state = 0; state <= 6; ++state)
-            list->records[state == 6 ? kProfileSlots - 1 : state].InMenu = state;
-        list->count = 3;
-        vDeleteMIBprofilesTemporary(status, list.get());
-        EXPECT_EQ(list->count, 3);
-        std::vector<int32_t> after;
-        for (int32_t state = 0; state <= 6; ++state)
-            after.push_back(list->records[state == 6 ? kProfileSlots - 1 : state].InMenu);
-        return after;
-    };
-    EXPECT_THAT(states(0), ElementsAre(0, 1, 1, 3, 3, 5, 6));
-    EXPECT_THAT(states(1), ElementsAre(0, 0, 0, 3, 6, 5, 6));
-    EXPECT_THAT(states(2), ElementsAre(0, 0, 0, 3, 6, 5, 6));
-}
-
-TEST(Reconciliation, ADroppedRecordKeepsItsOtherFields)
-{
-    const auto list = std::make_unique<ProfileList>();
-    fill(list.get(), {record(3, 2, "A.ICC")});
-    vDeleteMIBprofilesTemporary(1, list.get());
-    EXPECT_EQ(bv::fieldText(list->records[0].FileName), "A.ICC");
-    EXPECT_EQ(list->records[0].IndexOnDevice, 3);
-}
-
-TEST(Reconciliation, AMatchChangesTheStateAlone)
-{
-    const auto list = std::make_unique<ProfileList>();
-    const int32_t after[] = {0, 2, 2, 4, 4, 2, 4};
-    for (int32_t state = 0; state <= 6; ++state) {
-        fill(list.get(), {record(1, state, "A.ICC")});
-        ProfileRecord row = record(9, 0, "A.ICC", kLocationDisk, 2);
-        bv::setFieldText(row.ProfileName, "reported");
-        spoolRows({row});
-        vRestructDetail(0, list.get());
-        EXPECT_EQ(list->records[0].InMenu, after[state]) << state;
-        EXPECT_EQ(list->records[0].IndexOnDevice, 1);
-        EXPECT_EQ(bv::fieldText(list->records[0].ProfileName), "stored");
-        EXPECT_EQ(list->records[1].FileName[0], '\0') << "nothing is added, for a covered slot in state 0 either";
-    }
-}
-
 TEST(Reconciliation, WhatDoesNotMatchIsAddedInTheFirstFreeSlot)
 {
     const auto list = std::make_unique<ProfileList>();
@@ -117,16 +66,6 @@ TEST(Reconciliation, WhatDoesNotMatchIsAddedInTheFirstFreeSlot)
     EXPECT_EQ(list->count, 4);
     row.InMenu = 2;
     EXPECT_EQ(std::memcmp(&list->records[1], &row, sizeof(row)), 0) << "all seven fields are copied";
-}
-
-TEST(Reconciliation, NamesAreComparedOverTheWholeField)
-{
-    const auto list = std::make_unique<ProfileList>();
-    fill(list.get(), {record(1, 1, "A.ICC")});
-    list->records[0].FileName[20] = 'x'; // behind the NUL
-    spoolRows({record(2, 0, "A.ICC")});
-    vRestructDetail(0, list.get());
-    EXPECT_THAT(shown(*list), ElementsAre("A.ICC/4=1", "A.ICC/4=2"));
 }
 
 TEST(Reconciliation, CountsOutOfRangeAndFullListsAreSafe)
@@ -148,7 +87,6 @@ TEST(Reconciliation, CountsOutOfRangeAndFullListsAreSafe)
         vRestructDetail(0, list.get());
         EXPECT_EQ(list->count, count);
     }
-    EXPECT_EQ(list->records[499].InMenu, 6);
 }
 
 // ---- The three lists through their file ----
@@ -156,11 +94,6 @@ TEST(Reconciliation, CountsOutOfRangeAndFullListsAreSafe)
 class ReconciliationOfFile : public testing::Test
 {
 protected:
-    struct Lists
-    {
-        ProfileList rgb, sim, dst;
-    };
-
     void store(const Lists &lists) { ASSERT_EQ(BVPListWriteProfile_All(&lists.rgb, &lists.sim, &lists.dst), 0); }
 
     std::unique_ptr<Lists> reconciled(int32_t status)
@@ -250,13 +183,6 @@ TEST_F(ReconciliationOfFile, RecordsWithoutADeviceIndexAreCleanedAway)
     const auto lists = reconciled(0);
     EXPECT_THAT(shown(lists->rgb), ElementsAre("MENU.ICC/4=6", "KEPT.ICC/4=6"));
     EXPECT_EQ(lists->rgb.records[0].IndexOnDevice, 501);
-}
-
-TEST_F(ReconciliationOfFile, AListThatCannotBeReadStartsEmpty)
-{
-    bvtest::TestRoot::writeList("<plist>broken");
-    spoolRows({record(1, 0, "NEW.ICC")});
-    EXPECT_THAT(shown(reconciled(0)->rgb), ElementsAre("NEW.ICC/4=2"));
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "common/PDECommon.h"
 
 #include "support/ListRoot.h"
+#include "support/PaneFixture.h"
 #include "support/ProgramUnderTest.h"
 
 #include "discovery/DeviceAddress.h"
@@ -46,32 +47,12 @@ QString uriOf(const std::string &name)
     return QStringLiteral("dnssd://%1._pdl-datastream._tcp.local./?uuid=1").arg(QString::fromLatin1(host));
 }
 
-class BonjourSession : public bv::PrintSession, public bv::Printer
-{
-public:
-    explicit BonjourSession(QString uri) : m_uri(std::move(uri)) {}
-    const bv::Printer *currentPrinter() const override { return this; }
-    bv::PrintValue data(const QString & /*key*/) const override { return {}; }
-    QString identifier() const override { return QStringLiteral("QL70"); }
-    std::optional<QString> deviceUri() const override { return m_uri; }
-
-private:
-    QString m_uri;
-};
-
 TEST(Bonjour, ResolvesNamesOfEveryKind)
 {
     for (const char *name : {"QL70", "QL 70 (é) lab", "QL70 rev. 1.2", "100% \"color\" / プリンタ"}) {
         const Publisher publisher(name);
         EXPECT_THAT(bv::walkHost(uriOf(name)), Optional(Eq(kAddress))) << name;
     }
-}
-
-TEST(Bonjour, ADotThatIsNotEscapedShiftsTheComponents)
-{
-    const Publisher publisher("QL.70");
-    EXPECT_EQ(bv::walkHost(QStringLiteral("dnssd://QL.70._pdl-datastream._tcp.local./")), std::nullopt);
-    EXPECT_THAT(bv::walkHost(uriOf("QL.70")), Optional(Eq(kAddress)));
 }
 
 TEST(Bonjour, ANameThatIsNotThereEndsAtTheLimit)
@@ -82,13 +63,6 @@ TEST(Bonjour, ANameThatIsNotThereEndsAtTheLimit)
     std::printf("an unknown name took %.3f s\n", taken.count());
 }
 
-TEST(Bonjour, NamesThatCannotBeServicesAreRefused)
-{
-    EXPECT_EQ(bv::walkHost(QStringLiteral("dnssd://._pdl-datastream._tcp.local./")), std::nullopt);
-    EXPECT_EQ(bv::walkHost(QStringLiteral("dnssd://x.nonsense.type.local./")), std::nullopt);
-    EXPECT_EQ(bv::walkHost(uriOf(std::string(200, 'x'))), std::nullopt);
-}
-
 TEST(Bonjour, TheRefreshReachesThePrinterBehindTheName)
 {
     const bvtest::ListRoot root;
@@ -97,7 +71,7 @@ TEST(Bonjour, TheRefreshReachesThePrinterBehindTheName)
     ProgramUnderTest printer({BV_BUILD_DIR "/bin/ql70sim", "--port", "161", "--address", kAddress, "--count"});
     ASSERT_TRUE(printer.waitFor("ready on")) << printer.output();
     const Publisher publisher("QL70 walk");
-    BonjourSession session(uriOf("QL70 walk"));
+    bvtest::TestSession session(uriOf("QL70 walk"));
     EXPECT_EQ(PDECommon::commonGetProfilesFromMIB(&session), 0);
     auto lists = std::make_unique<ProfileList[]>(3);
     EXPECT_EQ(BVPListReadProfile_All(&lists[0], &lists[1], &lists[2]), 0);

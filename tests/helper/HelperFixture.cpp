@@ -42,10 +42,6 @@ std::string ownLogin()
     setenv("BVCO_ROOT", root.c_str(), 1);
     for (const auto &[name, value] : options.environment)
         setenv(name.c_str(), value.c_str(), 1);
-    if (options.onlyStandardOutput) {
-        close(STDIN_FILENO);
-        close(STDERR_FILENO);
-    }
     const std::string program = options.program.empty() ? kHelper : options.program;
     std::vector<char *> words = {const_cast<char *>(program.c_str())};
     for (const std::string &argument : arguments)
@@ -194,16 +190,16 @@ std::string listText(std::string_view mark, int entries)
          << "\n<plist version=\"1.0\">\n<dict>\n";
     for (const char *list : {"RGB", "SIM", "DST"}) {
         text << "<key>" << list << "</key><dict><key>iNum</key><integer>0</integer>\n";
-        for (const char *field : {"IndexOnDevice", "InMenu", "ProfileClass", "Location"}) {
+        for (const std::string_view field :
+             {"IndexOnDevice", "InMenu", "ProfileClass", "Location", "FileName", "ProfileName"}) {
             text << "<key>" << field << "</key><dict>";
-            for (int i = 0; i < entries; ++i)
-                text << "<key>" << field << i << "</key><integer>0</integer>\n";
-            text << "</dict>";
-        }
-        for (const char *field : {"FileName", "ProfileName"}) {
-            text << "<key>" << field << "</key><dict>";
-            for (int i = 0; i < entries; ++i)
-                text << "<key>" << field << i << "</key><string>" << mark << "</string>\n";
+            for (int i = 0; i < entries; ++i) {
+                text << "<key>" << field << i << "</key>";
+                if (field.ends_with("Name"))
+                    text << "<string>" << mark << "</string>\n";
+                else
+                    text << "<integer>0</integer>\n";
+            }
             text << "</dict>";
         }
         text << "</dict>\n";

@@ -12,13 +12,19 @@
 
 namespace bvtest {
 
+inline constexpr char kAdmin[] = "bvPListIsAdminProfile_XPC";
+inline constexpr char kExist[] = "bvPListExistProfile_XPC";
+inline constexpr char kRemove[] = "bvPListRemove_XPC";
+inline constexpr char kSwap[] = "bvPListSwapProfile_XPC";
+inline constexpr char kPiece[] = "writeDataToPlistFile_XPC";
+inline constexpr char kCommit[] = "writeDataToPlistFileRename_XPC";
+
 // What a child is given besides its arguments.
 struct RunOptions
 {
     std::map<std::string, std::string> environment; // beside BVCO_ROOT
     std::optional<uid_t> user;                      // another real user (root only), in the fixture's group
     std::string program;                            // another one than the built helper
-    bool onlyStandardOutput = false;                // standard input and error are closed
     std::optional<int> killAfterMicroseconds;
 };
 

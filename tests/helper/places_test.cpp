@@ -85,15 +85,15 @@ TEST_P(Places, OfTheCurrentList)
 {
     place(current());
     note(current());
-    EXPECT_TRUE(answers(false, {"bvPListExistProfile_XPC", current()}));
-    EXPECT_TRUE(answers(false, {"bvPListRemove_XPC", current()}));
-    EXPECT_TRUE(answers(false, {"bvPListSwapProfile_XPC", "2", current(), previous()}));
+    EXPECT_TRUE(answers(false, {kExist, current()}));
+    EXPECT_TRUE(answers(false, {kRemove, current()}));
+    EXPECT_TRUE(answers(false, {kSwap, "2", current(), previous()}));
     EXPECT_FALSE(writeList(listText("new")));
     EXPECT_EQ(names(), m_login + "-QL70-profile.plist");
     put(previous(), "older");
-    EXPECT_TRUE(answers(false, {"bvPListSwapProfile_XPC", "3", current(), previous()}));
+    EXPECT_TRUE(answers(false, {kSwap, "3", current(), previous()}));
     EXPECT_TRUE(stands(current()));
-    EXPECT_TRUE(answers(true, {"bvPListIsAdminProfile_XPC", current()}));
+    EXPECT_TRUE(answers(true, {kAdmin, current()}));
 }
 
 TEST_P(Places, OfThePreviousList)
@@ -101,9 +101,9 @@ TEST_P(Places, OfThePreviousList)
     put(current(), "old");
     place(previous());
     note(previous());
-    EXPECT_TRUE(answers(false, {"bvPListRemove_XPC", previous()}));
-    EXPECT_TRUE(answers(false, {"bvPListSwapProfile_XPC", "2", current(), previous()}));
-    EXPECT_TRUE(answers(false, {"bvPListSwapProfile_XPC", "3", current(), previous()}));
+    EXPECT_TRUE(answers(false, {kRemove, previous()}));
+    EXPECT_TRUE(answers(false, {kSwap, "2", current(), previous()}));
+    EXPECT_TRUE(answers(false, {kSwap, "3", current(), previous()}));
     EXPECT_TRUE(stands(previous()));
     EXPECT_EQ(contents(current()), "old");
 }
@@ -113,14 +113,14 @@ TEST_P(Places, OfTheStagingFileAndTheCopy)
     put(current(), "old");
     place(staging());
     note(staging());
-    EXPECT_TRUE(answers(false, {"writeDataToPlistFile_XPC", url(), listText("new")}));
-    EXPECT_TRUE(answers(false, {"writeDataToPlistFile_XPC", url(), "later"}));
-    EXPECT_TRUE(answers(false, {"writeDataToPlistFileRename_XPC", url()}));
+    EXPECT_TRUE(answers(false, {kPiece, url(), listText("new")}));
+    EXPECT_TRUE(answers(false, {kPiece, url(), "later"}));
+    EXPECT_TRUE(answers(false, {kCommit, url()}));
     EXPECT_TRUE(stands(staging()));
 
     place(previous() + ".copy");
     note(previous() + ".copy");
-    EXPECT_TRUE(answers(false, {"bvPListSwapProfile_XPC", "2", current(), previous()}));
+    EXPECT_TRUE(answers(false, {kSwap, "2", current(), previous()}));
     EXPECT_TRUE(stands(previous() + ".copy"));
     EXPECT_EQ(contents(current()), "old");
 }

@@ -9,29 +9,7 @@
 
 namespace bvtest {
 
-namespace {
-
-constexpr char kPiece[] = "writeDataToPlistFile_XPC";
-constexpr char kCommit[] = "writeDataToPlistFileRename_XPC";
-
-} // namespace
-
 using Sequences = HelperTest;
-
-TEST_F(Sequences, AFirstPieceStartsANewTextAfterAnAbandonedOne)
-{
-    ASSERT_TRUE(answers(true, {kPiece, url(), listText("given up").substr(0, 900)}));
-    EXPECT_TRUE(writeList(listText("new")));
-    EXPECT_EQ(contents(current()), listText("new"));
-}
-
-TEST_F(Sequences, ALaterPieceOrCommitNeedsASequence)
-{
-    EXPECT_TRUE(answers(false, {kPiece, url(), "later"}));
-    EXPECT_TRUE(answers(false, {kPiece, url(), ""}));
-    EXPECT_TRUE(answers(false, {kCommit, url()}));
-    EXPECT_EQ(names(), "");
-}
 
 TEST_F(Sequences, AnotherProcessCanOnlyTakeOver)
 {
@@ -66,7 +44,7 @@ TEST_F(Sequences, AWriterWaitsUntilTheOtherOneIsDone)
     auto waiting = std::async(std::launch::async, [&] { return writeList(listText("waiting")); });
     usleep(100000);
     EXPECT_EQ(names(), "");
-    EXPECT_TRUE(answers(true, {"bvPListIsAdminProfile_XPC", current()}));
+    EXPECT_TRUE(answers(true, {kAdmin, current()}));
     close(lock);
     EXPECT_TRUE(waiting.get());
     EXPECT_EQ(contents(current()), listText("waiting"));

@@ -9,12 +9,6 @@ namespace bvtest {
 
 namespace {
 
-constexpr char kAdmin[] = "bvPListIsAdminProfile_XPC";
-constexpr char kExist[] = "bvPListExistProfile_XPC";
-constexpr char kRemove[] = "bvPListRemove_XPC";
-constexpr char kSwap[] = "bvPListSwapProfile_XPC";
-constexpr char kPiece[] = "writeDataToPlistFile_XPC";
-constexpr char kCommit[] = "writeDataToPlistFileRename_XPC";
 constexpr uid_t kNamelessUser = 60011; // in no password database
 
 } // namespace

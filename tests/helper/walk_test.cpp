@@ -3,7 +3,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <sys/stat.h>
 
 namespace bvtest {
 
@@ -88,24 +87,6 @@ TEST_F(WalkRequest, AHostThatDoesNotResolveIsAWalkThatRan)
     // The reconciliation wrote an empty list through the same commit.
     EXPECT_EQ(names(), m_login + "-QL70-profile.plist");
     EXPECT_TRUE(contents(current()).value_or("").starts_with("<?xml"));
-}
-
-TEST_F(WalkRequest, ACallerWhoMayNotWriteGetsTheStatusAndNoFile)
-{
-    ASSERT_EQ(chmod(folder().c_str(), 0555), 0);
-    EXPECT_TRUE(underPermissions([&] {
-        const RunResult result = run(request("no-such-host.invalid"), privateSettings());
-        return result.output == "mibwalk_XPC=iRet=1\n" && result.exitCode == 0;
-    }));
-    EXPECT_EQ(names(), "");
-}
-
-TEST_F(WalkRequest, ItsListTakesOverFromTheParentsSequence)
-{
-    ASSERT_TRUE(answers(true, {"writeDataToPlistFile_XPC", url(), listText("half").substr(0, 500)}));
-    EXPECT_EQ(run(request("no-such-host.invalid"), privateSettings()).output, "mibwalk_XPC=iRet=1\n");
-    EXPECT_TRUE(answers(false, {"writeDataToPlistFileRename_XPC", url()}));
-    EXPECT_EQ(names(), m_login + "-QL70-profile.plist");
 }
 
 TEST_F(WalkRequest, RootWalksForAnotherUser)

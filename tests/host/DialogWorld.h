@@ -19,20 +19,8 @@ inline QByteArray panelPpd()
 {
     return R"ppd(*PPD-Adobe: "4.3"
 *FormatVersion: "4.3"
-*FileVersion: "1.0"
-*LanguageVersion: English
-*LanguageEncoding: ISOLatin1
-*PCFileName: "PAPER.PPD"
-*Manufacturer: "Example"
-*Product: "(Paper)"
 *ModelName: "Paper"
-*ShortNickName: "Paper"
 *NickName: "Paper, 1.0"
-*PSVersion: "(3010.000) 0"
-*LanguageLevel: "3"
-*ColorDevice: True
-*DefaultColorSpace: RGB
-*FileSystem: False
 *OpenUI *TPToner/Toner: PickOne
 *DefaultTPToner: Normal
 *TPToner Normal/Normal: ""

@@ -1,8 +1,6 @@
 // The batch, driven from outside on a panel that is not ours.
 #include "support/BatchProcess.h"
 
-#include "host/ControlCatalog.h"
-
 #include <QFile>
 #include <QImage>
 #include <QJsonArray>
@@ -197,58 +195,28 @@ TEST_F(Batch, TheEndOfInputEndsWindowsThatAreStillOpen)
     EXPECT_EQ(log().last(), "gone");
 }
 
-constexpr const char *kWrongCommands[] = {"bogus",
-                                          "PanelName",
-                                          "panelName x",
-                                          "set tonerMenu",
-                                          "set tonerMenu 3",
-                                          "set tonerMenu -1",
-                                          "set tonerMenu one",
-                                          "set tonerMenu \"\"",
-                                          "set stampCheck 2",
-                                          "set stampText x",
-                                          "type stampText x",
-                                          "set nothing 1",
-                                          "set tabs 2",
-                                          "set sheetSpin 17",
-                                          "set tonerLabel 1",
-                                          "set editButton 1",
-                                          "set paperTable 1",
-                                          "set paperTable.used 3 1",
-                                          "set paperTable.used 1 x",
-                                          "set paperTable.used 2 0",
-                                          "set paperTable.size 1 1",
-                                          "set paperTable.paper 1 1",
-                                          "set tonerMenu 1 1",
-                                          "type tonerMenu x",
-                                          "select paperTable 3",
-                                          "select paperTable -2",
-                                          "select tonerMenu 0",
-                                          "press nothing",
-                                          "press tonerMenu",
-                                          "control nothing",
-                                          "control qt_spinbox_lineedit",
-                                          "controls window",
-                                          "choose x",
-                                          "set tonerMenu \"1",
-                                          "setTicket",
-                                          "setTicket {\"a\":null}",
-                                          "setTicket [1]",
-                                          "print",
-                                          "print /nonexistent",
-                                          "screenshot \"\"",
-                                          "screenshot /nonexistent/x.png"};
+// One behind the other, a bar between.
+const QString kWrongCommands =
+    R"(bogus|PanelName|panelName x|set tonerMenu|set tonerMenu 3|set tonerMenu -1|set tonerMenu one|)"
+    R"(set tonerMenu ""|set stampCheck 2|set stampText x|type stampText x|set nothing 1|set tabs 2|)"
+    R"(set sheetSpin 17|set tonerLabel 1|set editButton 1|set paperTable 1|set paperTable.used 3 1|)"
+    R"(set paperTable.used 1 x|set paperTable.used 2 0|set paperTable.size 1 1|set paperTable.paper 1 1|)"
+    R"(set tonerMenu 1 1|type tonerMenu x|select paperTable 3|select paperTable -2|select tonerMenu 0|)"
+    R"(press nothing|press tonerMenu|control nothing|control qt_spinbox_lineedit|controls window|choose x|)"
+    R"(set tonerMenu "1|setTicket|setTicket {"a":null}|setTicket [1]|print|print /nonexistent|)"
+    R"(screenshot ""|screenshot /nonexistent/x.png)";
 
 TEST_F(Batch, AWrongCommandIsAnErrorThatChangesNothingAndDoesNotEndTheBatch)
 {
     startWithView();
     const QJsonValue before = result("controls");
-    for (const char *command : kWrongCommands) {
+    for (const QString &command : kWrongCommands.split('|')) {
         const QJsonObject answer = m_batch.send(command);
-        EXPECT_FALSE(answer["error"].toString().isEmpty()) << command;
-        EXPECT_FALSE(answer.contains("result")) << command;
-        EXPECT_EQ(answer["command"], QString::fromUtf8(command).section(' ', 0, 0)) << command;
-        EXPECT_EQ(result("controls"), before) << command;
+        SCOPED_TRACE(command.toStdString());
+        EXPECT_FALSE(answer["error"].toString().isEmpty());
+        EXPECT_FALSE(answer.contains("result"));
+        EXPECT_EQ(answer["command"], command.section(' ', 0, 0));
+        EXPECT_EQ(result("controls"), before);
     }
     EXPECT_EQ(result("ticket"), QJsonObject());
     EXPECT_EQ(m_batch.finish(), 1);
@@ -339,71 +307,36 @@ TEST_F(Batch, AScriptFileWithoutALastLineEndIsCarriedOutWhole)
               "{\"command\":\"ticket\",\"result\":{\"a\":1}}\n");
 }
 
-struct BadStart
+TEST_F(Batch, ABadStartEndsAtOnceWithStatus2AndOneLineOnStandardError)
 {
-    const char *what;
-    QStringList arguments; // "%HOME%" stands for a folder of the test's own, with files to hand
-};
-
-void PrintTo(const BadStart &row, std::ostream *out)
-{
-    *out << row.arguments.join(' ').toStdString();
-}
-
-class BadStartTest : public Batch, public ::testing::WithParamInterface<BadStart>
-{};
-
-TEST_P(BadStartTest, EndsAtOnceWithStatus2AndOneLineOnStandardError)
-{
+    const QString home = m_batch.home();
     write("bad.json", "{\"a\":null}");
     write("cut.ppd", "*PPD-Adobe: \"4.3\"\n*OpenUI *A: PickOne\n");
     write("no-plugin.so", "text");
-    QStringList arguments = GetParam().arguments;
-    arguments.replaceInStrings("%HOME%", m_batch.home());
-    if (!arguments.contains("--batch"))
-        arguments << "--batch"
-                  << "/dev/null";
-    m_batch.runToEnd(arguments);
-    EXPECT_EQ(m_batch.finish(), 2);
-    EXPECT_EQ(m_batch.restOfOutput(), "");
-    const QByteArray message = m_batch.standardError();
-    EXPECT_TRUE(message.startsWith("bvprint: ")) << message.toStdString();
-    EXPECT_EQ(message.count('\n'), 1) << message.toStdString();
-    EXPECT_TRUE(message.endsWith('\n'));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Reasons, BadStartTest,
-    ::testing::Values(BadStart{"arguments", {"--colour"}}, BadStart{"plugin", {"--plugin", "%HOME%/no-plugin.so"}},
-                      BadStart{"missing plugin", kStart + QStringList{"--plugin", "%HOME%/none.so"}},
-                      BadStart{"ppd", kStart + QStringList{"--ppd", "%HOME%/none.ppd"}},
-                      BadStart{"cut ppd", kStart + QStringList{"--ppd", "%HOME%/cut.ppd"}},
-                      BadStart{"ticket", kStart + QStringList{"--ticket", "%HOME%/bad.json"}},
-                      BadStart{"missing ticket", kStart + QStringList{"--ticket", "%HOME%/none.json"}},
-                      BadStart{"script", kStart + QStringList{"--batch", "%HOME%/none"}},
-                      BadStart{"folder as script", kStart + QStringList{"--batch", "%HOME%"}},
-                      BadStart{"no print server", {"--plugin", BV_BUILD_DIR "/tests/testpanel.so"}}),
-    [](const auto &info) { return QString(info.param.what).replace(' ', '_').toStdString(); });
-
-TEST_F(Batch, APluginThatRefusesToStartIsAStatus2)
-{
-    m_batch.setVariable("TESTPANEL_REFUSES_START", "1");
-    m_batch.runToEnd(kStart + QStringList{"--batch", "/dev/null"});
-    EXPECT_EQ(m_batch.finish(), 2);
-}
-
-TEST_F(Batch, HelpAndVersionNeedNothing)
-{
-    m_batch.runToEnd({"--help"});
-    EXPECT_EQ(m_batch.finish(), 0);
-    EXPECT_TRUE(m_batch.restOfOutput().contains("--device-uri URI"));
-}
-
-TEST(BareClassName, LosesSuffixAndNameSpaceOnly)
-{
-    EXPECT_EQ(bv::bareClassName("ns::View_0A1B2C3D_4E5F_6071_8293_A4B5C6D7E8F9"), "View");
-    EXPECT_EQ(bv::bareClassName("View_0A1B2C3D_4E5F"), "View_0A1B2C3D_4E5F");
-    EXPECT_EQ(bv::bareClassName("QComboBox"), "QComboBox");
+    const std::vector<QStringList> rows = {
+        {"--colour"},
+        {"--plugin", home + "/no-plugin.so"},
+        {"--plugin", BV_BUILD_DIR "/tests/testpanel.so"}, // and no print server
+        kStart + QStringList{"--plugin", home + "/none.so"},
+        kStart + QStringList{"--ppd", home + "/none.ppd"},
+        kStart + QStringList{"--ppd", home + "/cut.ppd"},
+        kStart + QStringList{"--ticket", home + "/bad.json"},
+        kStart + QStringList{"--ticket", home + "/none.json"},
+        kStart + QStringList{"--batch", home + "/none"},
+        kStart + QStringList{"--batch", home},
+    };
+    for (QStringList arguments : rows) {
+        SCOPED_TRACE(arguments.join(' ').toStdString());
+        if (!arguments.contains("--batch"))
+            arguments << QStringList{"--batch", "/dev/null"};
+        BatchProcess batch;
+        batch.runToEnd(arguments);
+        EXPECT_EQ(batch.finish(), 2);
+        EXPECT_EQ(batch.restOfOutput(), "");
+        const QByteArray message = batch.standardError();
+        EXPECT_TRUE(message.startsWith("bvprint: ")) << message.toStdString();
+        EXPECT_TRUE(message.count('\n') == 1 && message.endsWith('\n')) << message.toStdString();
+    }
 }
 
 TEST_F(Batch, AClosedStandardInputIsAnEmptyBatch)

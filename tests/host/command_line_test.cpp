@@ -29,80 +29,39 @@ TEST(CommandLine, KeepsEveryOptionAndTheDocumentsInTheirOrder)
     EXPECT_THAT(line.documents, ElementsAre("a.pdf", "--b.pdf"));
 }
 
-TEST(CommandLine, BatchReadsStandardInputForADashAndNamesTheQueueWithoutAServer)
+TEST(CommandLine, IsRefusedInASentenceThatNamesTheArgument)
 {
-    const auto parsed = parseCommandLine({"--batch", "-", "--ppd", "x.ppd"});
-    ASSERT_TRUE(parsed);
-    EXPECT_EQ(parsed.value().mode, CommandLine::Mode::Batch);
-    EXPECT_EQ(parsed.value().script, "-");
-    EXPECT_EQ(parsed.value().queueWithoutServer(), "QL70");
+    // clang-format off
+    const std::pair<QStringList, const char *> rows[] = {
+        {{"--colour"}, "--colour"}, {{"-x"}, "-x"}, {{"a", "--queue"}, "--queue NAME"}, {{"--ppd="}, "--ppd"},
+        {{"--help=1"}, "--help"}, {{"--no-printer"}, "--ppd"}, {{"--batch", "-", "a.pdf"}, "documents"},
+        {{"--batch", "-", "--screenshot", "x"}, "--screenshot"},
+    };
+    // clang-format on
+    for (const auto &[arguments, named] : rows) {
+        const auto parsed = parseCommandLine(arguments);
+        ASSERT_FALSE(parsed) << named;
+        EXPECT_THAT(parsed.error().toStdString(), HasSubstr(named));
+    }
 }
 
-TEST(CommandLine, HelpGoesBeforeAllElse)
+TEST(BatchWords, AreCutAtBlanksOutsideQuotes)
 {
-    EXPECT_EQ(parseCommandLine({"--version", "--help", "--batch", "-", "x"}).value().mode, CommandLine::Mode::Help);
+    // clang-format off
+    const std::tuple<const char *, QString, QStringList> rows[] = {
+        {"", "", {}}, {"  # set a 1", "", {}}, {" willShow\r", "willShow", {}}, {"set\ta   1 ", "set", {"a", "1"}},
+        {R"(type f "a \"b\" c\\d \n")", "type", {"f", R"(a "b" c\d \n)"}}, {R"(set f "")", "set", {"f", ""}},
+        {R"(set a" "b\c)", "set", {"a b\\c"}}, {R"("print" x)", "print", {"x"}},
+    };
+    // clang-format on
+    for (const auto &[text, command, expected] : rows) {
+        const bv::BatchLine line = bv::splitBatchLine(QString::fromUtf8(text));
+        EXPECT_EQ(line.command, command);
+        const auto words = bv::batchWords(line.rest);
+        ASSERT_TRUE(words) << text;
+        EXPECT_EQ(words.value(), expected) << text;
+    }
 }
-
-struct BadLine
-{
-    QStringList arguments;
-    const char *named; // what the sentence names
-};
-
-void PrintTo(const BadLine &row, std::ostream *out)
-{
-    *out << row.arguments.join(' ').toStdString();
-}
-
-class BadCommandLine : public ::testing::TestWithParam<BadLine>
-{};
-
-TEST_P(BadCommandLine, IsRefusedInASentenceThatNamesTheArgument)
-{
-    const auto parsed = parseCommandLine(GetParam().arguments);
-    ASSERT_FALSE(parsed);
-    EXPECT_THAT(parsed.error().toStdString(), HasSubstr(GetParam().named));
-}
-
-INSTANTIATE_TEST_SUITE_P(Lines, BadCommandLine,
-                         ::testing::Values(BadLine{{"--colour"}, "--colour"}, BadLine{{"-x"}, "-x"},
-                                           BadLine{{"a", "--queue"}, "--queue NAME"}, BadLine{{"--ppd="}, "--ppd"},
-                                           BadLine{{"--help=1"}, "--help"}, BadLine{{"--no-printer"}, "--ppd"},
-                                           BadLine{{"--batch", "-", "a.pdf"}, "documents"},
-                                           BadLine{{"--batch", "-", "--screenshot", "x"}, "--screenshot"}));
-
-struct Words
-{
-    const char *line;
-    QString command;
-    QStringList words;
-};
-
-void PrintTo(const Words &row, std::ostream *out)
-{
-    *out << row.line;
-}
-
-class BatchWords : public ::testing::TestWithParam<Words>
-{};
-
-TEST_P(BatchWords, AreCutAtBlanksOutsideQuotes)
-{
-    const bv::BatchLine line = bv::splitBatchLine(QString::fromUtf8(GetParam().line));
-    EXPECT_EQ(line.command, GetParam().command);
-    const auto words = bv::batchWords(line.rest);
-    ASSERT_TRUE(words);
-    EXPECT_EQ(words.value(), GetParam().words);
-}
-
-INSTANTIATE_TEST_SUITE_P(Lines, BatchWords,
-                         ::testing::Values(Words{"", "", {}}, Words{"  # set a 1", "", {}},
-                                           Words{" willShow\r", "willShow", {}},
-                                           Words{"set\ta   1 ", "set", {"a", "1"}},
-                                           Words{R"(type f "a \"b\" c\\d \n")", "type", {"f", R"(a "b" c\d \n)"}},
-                                           Words{R"(set f "")", "set", {"f", ""}},
-                                           Words{R"(set a" "b\c)", "set", {"a b\\c"}},
-                                           Words{R"("print" x)", "print", {"x"}}));
 
 TEST(BatchWords, AnOpenQuoteIsAnErrorAndTheRestOfALineStaysAsItStands)
 {
@@ -111,40 +70,18 @@ TEST(BatchWords, AnOpenQuoteIsAnErrorAndTheRestOfALineStaysAsItStands)
     EXPECT_EQ(bv::splitBatchLine(" setTicket  {\"a\": \"b  \\\" c\"} ").rest, "{\"a\": \"b  \\\" c\"}");
 }
 
-struct LocaleRow
+// Each test is a process of its own, so the variables need no putting back.
+TEST(MessageLocale, IsTheFirstOfTheThreeThatIsSet)
 {
-    const char *all;
-    const char *messages;
-    const char *lang;
-    const char *locale;
-};
-
-void PrintTo(const LocaleRow &row, std::ostream *out)
-{
-    *out << row.all << ' ' << row.messages << ' ' << row.lang;
-}
-
-class MessageLocale : public ::testing::TestWithParam<LocaleRow>
-{
-protected:
-    // Each test is a process of its own, so the variables need no putting back.
-    void SetUp() override
-    {
-        qputenv("LC_ALL", GetParam().all);
-        qputenv("LC_MESSAGES", GetParam().messages);
-        qputenv("LANG", GetParam().lang);
+    const std::array<const char *, 4> rows[] = {
+        {"", "", "", ""},        {"C", "de_DE", "de_DE", ""},       {"", "POSIX", "fr_FR", ""},
+        {"", "", "C.UTF-8", ""}, {"", "de_AT.UTF-8", "C", "de_AT"}, {"ca_ES.UTF-8@valencia", "C", "C", "ca_ES"}};
+    for (const auto &[all, messages, lang, locale] : rows) {
+        qputenv("LC_ALL", all);
+        qputenv("LC_MESSAGES", messages);
+        qputenv("LANG", lang);
+        EXPECT_EQ(bv::messageLocale(), locale) << all << ' ' << messages << ' ' << lang;
     }
-};
-
-TEST_P(MessageLocale, IsTheFirstOfTheThreeThatIsSet)
-{
-    EXPECT_EQ(bv::messageLocale(), GetParam().locale);
 }
-
-INSTANTIATE_TEST_SUITE_P(Rows, MessageLocale,
-                         ::testing::Values(LocaleRow{"", "", "", ""}, LocaleRow{"C", "de_DE", "de_DE", ""},
-                                           LocaleRow{"", "POSIX", "fr_FR", ""}, LocaleRow{"", "", "C.UTF-8", ""},
-                                           LocaleRow{"", "de_AT.UTF-8", "C", "de_AT"},
-                                           LocaleRow{"ca_ES.UTF-8@valencia", "C", "C", "ca_ES"}));
 
 } // namespace

@@ -1,5 +1,5 @@
 // The keyboard alone: tabs through the whole dialog, with a foreign pane and with ours, and fails on a control that is
-// not reached or that nobody can name. BVPRINT_TESTED_PANEL and BVPRINT_TESTED_PPD put another plug-in to the test.
+// not reached or that nobody can name.
 #include "DialogWorld.h"
 
 #include <QAbstractButton>
@@ -30,14 +30,10 @@ struct TestedPane
 
 std::vector<TestedPane> testedPanes()
 {
-    std::vector<TestedPane> panes = {
+    return {
         {"Foreign", BV_BUILD_DIR "/tests/testpanel.so", QString(), {}},
         {"Ours", BV_BUILD_DIR "/lib/bvco/bvco.so", BV_SOURCE_DIR "/resources/QL70.ppd", {"button_AdvanceColorOptions"}},
     };
-    const QString other = qEnvironmentVariable("BVPRINT_TESTED_PANEL");
-    if (!other.isEmpty())
-        panes.push_back({"Other", other, qEnvironmentVariable("BVPRINT_TESTED_PPD"), {}});
-    return panes;
 }
 
 class Keyboard : public bvtest::DialogTest, public ::testing::WithParamInterface<TestedPane>

@@ -39,46 +39,16 @@ TEST(TicketJson, ReadAndWrittenAgainIsTheSame)
     EXPECT_TRUE(ticket.value().value("real").real());
 }
 
-struct BadJson
+TEST(TicketJson, IsRefusedInASentence)
 {
-    const char *json;
-    const char *named;
-};
-
-void PrintTo(const BadJson &row, std::ostream *out)
-{
-    *out << row.json;
-}
-
-class BadTicket : public ::testing::TestWithParam<BadJson>
-{};
-
-TEST_P(BadTicket, IsRefusedInASentence)
-{
-    const auto ticket = ticketFromJson(GetParam().json);
-    ASSERT_FALSE(ticket);
-    EXPECT_THAT(ticket.error().toStdString(), HasSubstr(GetParam().named));
-}
-
-INSTANTIATE_TEST_SUITE_P(Texts, BadTicket,
-                         ::testing::Values(BadJson{"", "no JSON"}, BadJson{"{\"a\":1", "no JSON"},
-                                           BadJson{"[1]", "object"}, BadJson{"null", "JSON"},
-                                           BadJson{"{\"a\":null}", "/a"},
-                                           BadJson{"{\"a\":{\"b\":[0,{\"c\":null}]}}", "/a/b/1/c"}));
-
-TEST(Ticket, IsEmptiedAndFilledInPlaceAndStoresNoNone)
-{
-    bv::Ticket ticket;
-    const bv::PrintSettings &seenByPanel = ticket;
-    ticket.setValue("a", "1");
-    ticket.clear();
-    EXPECT_TRUE(seenByPanel.value("a").isNone());
-    PrintDictionary other;
-    other.setValue("b", PrintValue::integer(2));
-    ticket.replace(other);
-    EXPECT_EQ(*seenByPanel.value("b").integer(), 2);
-    ticket.setValue("b", PrintValue());
-    EXPECT_FALSE(ticket.entries().contains("b"));
+    const std::pair<const char *, const char *> rows[] = {
+        {"", "no JSON"},  {"{\"a\":1", "no JSON"}, {"[1]", "object"},
+        {"null", "JSON"}, {"{\"a\":null}", "/a"},  {"{\"a\":{\"b\":[0,{\"c\":null}]}}", "/a/b/1/c"}};
+    for (const auto &[json, named] : rows) {
+        const auto ticket = ticketFromJson(json);
+        ASSERT_FALSE(ticket) << json;
+        EXPECT_THAT(ticket.error().toStdString(), HasSubstr(named));
+    }
 }
 
 TEST(Ticket, ADeepCopySharesNothingWithTheTicket)
@@ -98,38 +68,20 @@ TEST(JobOptions, AreTheTopLevelStringsAndIntegersAndNothingElse)
                 UnorderedElementsAre(Pair("a", ":;<=>?"), Pair("b", ""), Pair("n", "-42")));
 }
 
-struct ColorRow
+TEST(JobOptions, SayTheColorModeThatTheChoiceMeans)
 {
-    JobOptions options;
-    const char *mode; // null: none is added
-};
-
-void PrintTo(const ColorRow &row, std::ostream *out)
-{
-    for (const auto &[keyword, value] : row.options)
-        *out << keyword.toStdString() << '=' << value.toStdString() << ' ';
-}
-
-class ColorMode : public ::testing::TestWithParam<ColorRow>
-{};
-
-TEST_P(ColorMode, SaysWhatTheOptionSays)
-{
-    JobOptions options = GetParam().options;
-    bv::addStandardAttributes(options, nullptr);
-    const auto mode = options.find("print-color-mode");
-    ASSERT_EQ(mode != options.end(), GetParam().mode != nullptr);
-    if (GetParam().mode) {
-        EXPECT_EQ(mode->second, GetParam().mode);
+    const std::pair<JobOptions, QString> rows[] = {
+        {{}, ""},
+        {{{"BVColorAsGray", "True"}}, "monochrome"},
+        {{{"BVColorAsGray", "false"}}, "color"},
+        {{{"BVColorAsGray", "Perhaps"}}, ""},
+        {{{"BVColorAsGray", "True"}, {"print-color-mode", "color"}}, "color"}};
+    for (auto [options, mode] : rows) {
+        bv::addStandardAttributes(options, nullptr);
+        const auto found = options.find("print-color-mode");
+        EXPECT_EQ(found == options.end() ? QString() : found->second, mode);
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(Rows, ColorMode,
-                         ::testing::Values(ColorRow{{}, nullptr}, ColorRow{{{"BVColorAsGray", "True"}}, "monochrome"},
-                                           ColorRow{{{"BVColorAsGray", "false"}}, "color"},
-                                           ColorRow{{{"BVColorAsGray", "Perhaps"}}, nullptr},
-                                           ColorRow{{{"BVColorAsGray", "True"}, {"print-color-mode", "color"}},
-                                                    "color"}));
 
 TEST(ColorModeOfAPpd, IsThatOfADefaultWhichTheOptionHas)
 {
@@ -147,25 +99,6 @@ TEST(ColorModeOfAPpd, IsThatOfADefaultWhichTheOptionHas)
         bv::addStandardAttributes(options, ppd.value().handle());
         EXPECT_EQ(options.count("print-color-mode"), *choices ? 1U : 0U);
     }
-}
-
-TEST(JobOptions, ExtraOnesWinOverTheTicket)
-{
-    PrintDictionary ticket;
-    ticket.setValue("copies", PrintValue::integer(9));
-    EXPECT_THAT(bv::jobOptions(ticket, nullptr, {{"copies", "2"}}), UnorderedElementsAre(Pair("copies", "2")));
-}
-
-TEST(Documents, AMissingOneAFolderAndNoneAtAllAreNamed)
-{
-    const QTemporaryDir folder;
-    QFile file(folder.filePath("a.txt"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.close();
-    EXPECT_EQ(bv::checkDocuments({file.fileName()}), QString());
-    EXPECT_FALSE(bv::checkDocuments({}).isEmpty());
-    EXPECT_THAT(bv::checkDocuments({file.fileName(), folder.path()}).toStdString(), HasSubstr("folder"));
-    EXPECT_THAT(bv::checkDocuments({folder.filePath("b.txt")}).toStdString(), HasSubstr("b.txt"));
 }
 
 TEST(FolderSink, KeepsTheOptionsAndTheDocumentsOfOneNameApart)

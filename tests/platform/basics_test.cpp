@@ -5,14 +5,12 @@
 #include "platform/PlistGuard.h"
 #include "platform/PropertyList.h"
 #include "platform/RootPath.h"
-#include "platform/UserName.h"
 #include "platform/Utf8.h"
 #include "support/TestRoot.h"
 
 #include <csignal>
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <pwd.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -26,40 +24,14 @@ TEST(RootPath, PutsAnAbsoluteRootInFront)
         const char *mapped;
     };
     const Row rows[] = {
-        {nullptr, "/Library/x"},
-        {"", "/Library/x"},
-        {"/", "/Library/x"},
-        {"/tmp/a b", "/tmp/a b/Library/x"},
-        {"/tmp/a/", "/tmp/a/Library/x"},
-        {"tmp", "/Library/x"},
-        {"./tmp", "/Library/x"},
+        {nullptr, "/Library/x"},         {"/", "/Library/x"},   {"/tmp/a b", "/tmp/a b/Library/x"},
+        {"/tmp/a/", "/tmp/a/Library/x"}, {"tmp", "/Library/x"},
     };
     for (const Row &row : rows) {
         row.root ? setenv("BVCO_ROOT", row.root, 1) : unsetenv("BVCO_ROOT");
         EXPECT_EQ(bv::mapRootPath("/Library/x"), row.mapped) << (row.root ? row.root : "(unset)");
     }
     unsetenv("BVCO_ROOT");
-}
-
-TEST(RootPath, IsNotMovedInAProcessWithBorrowedRights)
-{
-    if (getuid() != 0)
-        GTEST_SKIP() << "only root can take on another effective user id";
-    const pid_t child = fork();
-    ASSERT_GE(child, 0);
-    if (child == 0) {
-        setenv("BVCO_ROOT", "/tmp/elsewhere", 1);
-        _exit(seteuid(60001) == 0 && bv::mapRootPath("/Library/x") == "/Library/x" ? 0 : 1);
-    }
-    int status = 0;
-    ASSERT_EQ(waitpid(child, &status, 0), child);
-    EXPECT_EQ(status, 0);
-}
-
-TEST(UserName, IsThatOfTheRealUserId)
-{
-    const passwd *entry = getpwuid(getuid());
-    EXPECT_EQ(bv::loginName(), entry ? entry->pw_name : "");
 }
 
 TEST(FileUrl, EncodesAllButUnreservedCharactersAndSlashes)
@@ -80,48 +52,13 @@ TEST(Utf8, KnowsTheLimitsOfEachLength)
         EXPECT_FALSE(bv::isUtf8(bad)) << bad;
 }
 
-class Child : public testing::Test
+std::optional<bv::ChildResult> shell(const std::string &script)
 {
-protected:
-    static std::optional<bv::ChildResult> shell(const std::string &script)
-    {
-        const std::string words[] = {"-c", script};
-        return bv::runChild("/bin/sh", words);
-    }
-};
-
-TEST_F(Child, GivesItsOutputAndHowItEnded)
-{
-    struct Row
-    {
-        const char *script;
-        const char *output;
-        int exitCode;
-    };
-    const Row rows[] = {
-        {"echo out; echo err >/dev/null", "out\n", 0}, {"exit 7", "", 7},
-        {"printf half; kill -9 $$", "half", -1},       {"printf 'a\\0b'", "a", 0},
-        {"exec >&-; sleep 0.05; exit 4", "", 4}, // closes its output early: waited for all the same
-    };
-    for (const Row &row : rows) {
-        const auto result = shell(row.script);
-        ASSERT_TRUE(result) << row.script;
-        EXPECT_STREQ(result->output.c_str(), row.output);
-        EXPECT_EQ(result->exitCode, row.exitCode) << row.script;
-    }
-    EXPECT_EQ(shell("printf 'a\\0b'")->output.size(), 3u);
-    EXPECT_EQ(shell("head -c 3000000 /dev/zero")->output.size(), 3'000'000u); // far more than a pipe holds
+    const std::string words[] = {"-c", script};
+    return bv::runChild("/bin/sh", words);
 }
 
-TEST_F(Child, ThatCannotBeStartedIsNothing)
-{
-    const std::string tooLong[] = {std::string(140'000, 'x')};
-    EXPECT_FALSE(bv::runChild("/nonexistent/program", {}));
-    EXPECT_FALSE(bv::runChild("/etc/passwd", {}));
-    EXPECT_FALSE(bv::runChild("/bin/true", tooLong));
-}
-
-TEST_F(Child, LeavesNoDescriptorOpen)
+TEST(Child, LeavesNoDescriptorOpen)
 {
     const int before = dup(STDIN_FILENO);
     close(before);
@@ -132,7 +69,7 @@ TEST_F(Child, LeavesNoDescriptorOpen)
     EXPECT_EQ(before, after);
 }
 
-TEST_F(Child, AnswersInAHostWithoutStandardStreamsOrChildSignals)
+TEST(Child, AnswersInAHostWithoutStandardStreamsOrChildSignals)
 {
     // In a process of its own, whose standard streams can be closed. What the child says comes back as the exit status.
     const pid_t host = fork();
@@ -165,8 +102,6 @@ TEST(PlistGuard, RefusesWhatTheParserMustNotSee)
     EXPECT_EQ(plistRefusal(nested(32, "<array>", "</array>")), nullptr);
     EXPECT_STREQ(plistRefusal(nested(33, "<array>", "</array>")), "nested too deep");
     EXPECT_STREQ(plistRefusal(nested(33, "<dict ><key>k</key>", "</dict>")), "nested too deep");
-    EXPECT_EQ(plistRefusal("<plist><array>" + std::string(40 * 7, ' ').replace(0, 7, "<dict/>") + "</array></plist>"),
-              nullptr);
     // Tags that hide in comments, quotes and sections cannot lift the bound.
     for (const char *open :
          {"<array><!--</array>-->", "<array a='/>'>", "<array><![CDATA[</array>]]>", "<array><?x </array>?>"})
@@ -176,43 +111,11 @@ TEST(PlistGuard, RefusesWhatTheParserMustNotSee)
     EXPECT_STREQ(plistRefusal(repeated("&amp;", 800'000)), "too long a text with entities");
     EXPECT_STREQ(plistRefusal(repeated("<key>Ez</key><true/>", 12'001)), "too many keys");
     EXPECT_EQ(plistRefusal(repeated("<key>Ez</key><true/>", 12'000)), nullptr);
-    EXPECT_EQ(plistRefusal(repeated("x", 100'000)), nullptr);
     EXPECT_STREQ(plistRefusal("bplist00</plist>"), "a binary list");
     EXPECT_STREQ(plistRefusal(std::string_view("<plist>\0</plist>", 16)), "a NUL byte in it");
     EXPECT_STREQ(plistRefusal("<plist></plist"), "cut short");
-    EXPECT_EQ(plistRefusal("<plist></plist>\r\n\t "), nullptr);
     EXPECT_STREQ(plistRefusal("<plist></plist>\n<!-- -->"), "something behind its end");
     EXPECT_STREQ(plistRefusal(std::string(bv::kPlistMaximumBytes + 1, ' ')), "too large");
-    EXPECT_STREQ(plistRefusal(""), "cut short");
-}
-
-TEST(PropertyList, HandsOutNothingOfNothing)
-{
-    const bv::PropertyList none = bv::PropertyList::fromXml("");
-    EXPECT_FALSE(none);
-    EXPECT_FALSE(none.root().item("a").item("b"));
-    EXPECT_FALSE(none.root().number());
-    EXPECT_FALSE(none.root().text());
-    EXPECT_FALSE(none.toXml());
-    EXPECT_FALSE(bv::PropertyList::copyOf(none.root()));
-}
-
-TEST(PropertyList, KeepsItemsThroughMovesAndCopies)
-{
-    bv::PropertyList list = bv::PropertyList::dictionary();
-    bv::PropertyList inner = bv::PropertyList::dictionary();
-    inner.setNumber("n", -1);
-    inner.setText("t", "first");
-    inner.setText("t", "last <wins> &");
-    const bv::PropertyListNode node = list.setItem("inner", std::move(inner));
-    bv::PropertyList copy = bv::PropertyList::copyOf(node);
-    bv::PropertyList moved = std::move(list);
-    EXPECT_EQ(node.item("t").text(), "last <wins> &");
-    moved = bv::PropertyList::fromXml(moved.toXml().value());
-    EXPECT_EQ(moved.root().item("inner").item("n").number(), -1);
-    EXPECT_EQ(moved.root().item("inner").item("t").text(), "last <wins> &");
-    moved = bv::PropertyList();
-    EXPECT_EQ(copy.root().item("n").number(), -1);
 }
 
 TEST(PropertyList, TakesNoNulAsAnEntityEither)

@@ -120,18 +120,6 @@ TEST_F(Panel, GoesToTheAdvancedPaneAndBack)
     EXPECT_FALSE(control<QWidget>("onAdvancedView")->isVisibleTo(view));
 }
 
-TEST_F(Panel, AnAdvancedChoiceGreysOutWhatDependsOnItAtOnce)
-{
-    open();
-    choose("menu_QuickColor", 3);
-    control<QPushButton>("button_AdvanceColorOptions")->click();
-    choose("menu_tRGBSource", 0);
-    EXPECT_FALSE(control<QComboBox>("menu_tRGBIntent")->isEnabled());
-    EXPECT_TRUE(control<QComboBox>("menu_tRGBIntent")->toolTip().contains("Text RGB Source"));
-    choose("menu_tRGBSource", 1);
-    EXPECT_TRUE(control<QComboBox>("menu_tRGBIntent")->isEnabled());
-}
-
 TEST_F(Panel, SavesBothPanesAndFindsThemAgain)
 {
     open();

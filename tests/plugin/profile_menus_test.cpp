@@ -1,30 +1,23 @@
 // Stored profiles in the menus of profile rows, and a chosen profile in the ticket.
-#include "platform/RootPath.h"
 #include "profiles/ProfileKinds.h"
 #include "profiles/ProfileListFile.h"
-#include "profiles/ProfilePaths.h"
 #include "common/PDECommon.h"
 #include "support/PaneFixture.h"
+#include "support/SampleLists.h"
+#include "support/TestRoot.h"
 
 #include <QComboBox>
-#include <QDir>
 #include <cstring>
 
 namespace {
 
-struct Entry
-{
-    int32_t inMenu;
-    const char *fileName;
-    int32_t location;
-};
+using Entry = std::tuple<int32_t, const char *, int32_t>; // state in the menu, file name, location
 
 class ProfileMenus : public testing::Test
 {
 protected:
     ProfileMenus()
     {
-        qputenv("BVCO_ROOT", root.path().toUtf8());
         for (const auto &[menu, kind] : {std::pair(&rgb, 1), {&dst, 2}, {&sim, 3}})
             rows.push_back({menu, kPDEControlPopUp, "BVSrc", nullptr, nullptr, "", int16_t(kind), nullptr});
         rows.push_back(endControlItem());
@@ -33,26 +26,17 @@ protected:
     }
     static void fill(ProfileList &list, const std::vector<Entry> &entries)
     {
-        for (const Entry &entry : entries) {
-            ProfileRecord &record = list.records[list.count++];
-            record.InMenu = entry.inMenu;
-            record.Location = entry.location;
-            bv::setFieldText(record.FileName, entry.fileName);
-            bv::setFieldText(record.ProfileName, "Office");
-        }
+        for (const auto &[inMenu, fileName, location] : entries)
+            bvtest::add(list, bvtest::makeRecord(inMenu, fileName, location, 0, "Office"));
     }
     void write(const std::vector<Entry> &rgbEntries, const std::vector<Entry> &simEntries = {},
                const std::vector<Entry> &dstEntries = {})
     {
-        auto lists = std::make_unique<std::array<ProfileList, 3>>();
-        fill((*lists)[0], rgbEntries);
-        fill((*lists)[1], simEntries);
-        fill((*lists)[2], dstEntries);
-        const QString path = QString::fromStdString(bv::mapRootPath(bv::profilePaths().current));
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(QByteArray::fromStdString(*bv::profileListXml((*lists)[0], (*lists)[1], (*lists)[2])));
+        const auto lists = bvtest::makeLists();
+        fill(lists->rgb, rgbEntries);
+        fill(lists->sim, simEntries);
+        fill(lists->dst, dstEntries);
+        bvtest::TestRoot::writeList(*bv::profileListXml(lists->rgb, lists->sim, lists->dst));
     }
     int32_t build()
     {
@@ -69,7 +53,7 @@ protected:
     int32_t save() { return PDECommon::commonSyncTicketFromPane(&ticket, &session, rows.data()); }
     int32_t restore() { return PDECommon::commonSyncPaneFromTicket(&ticket, &session, rows.data()); }
 
-    QTemporaryDir root;
+    const bvtest::TestRoot root;
     bvtest::TestPpd ppd{bvtest::ppdOption("BVSrc", "Off sRGB Auto Wide Last", "PickOne", "sRGB"), nullptr};
     bvtest::TestTicket ticket;
     bvtest::TestSession session;
@@ -97,20 +81,6 @@ TEST_F(ProfileMenus, EachKindShowsItsListInOrderAndTwinsStayTwo)
     rows[2].profileKind = 0; // a row that is no profile row is passed over, and tells
     EXPECT_EQ(build(), paramErr);
     EXPECT_EQ(items(sim), kPpdItems);
-}
-
-TEST_F(ProfileMenus, ACodeOfZeroIsShownButDoesNotCount)
-{
-    EXPECT_TRUE(bv::shownInMenu(0));
-    EXPECT_FALSE(bv::countsInNumbering(0));
-    for (int code : {1, 2, 5}) {
-        EXPECT_FALSE(bv::shownInMenu(code));
-        EXPECT_FALSE(bv::countsInNumbering(code));
-    }
-    for (int code : {3, 4, 6}) {
-        EXPECT_TRUE(bv::shownInMenu(code));
-        EXPECT_TRUE(bv::countsInNumbering(code));
-    }
 }
 
 TEST_F(ProfileMenus, AChosenProfileGoesIntoTheTicketAndComesBack)
@@ -193,11 +163,6 @@ TEST_F(ProfileMenus, TicketEntriesOfAnyKindNameNoProfile)
         restore();
         EXPECT_EQ(rgb.currentIndex(), 3) << "only the text True names a profile";
     }
-    PDEControlItem plain = rows[0];
-    plain.profileKind = 0;
-    EXPECT_TRUE(
-        PDECommon::commonGetTicketAddedProfileFlag(&plain, PDECommon::commonGetModelDictionary(&ticket, &session))
-            .isNone());
 }
 
 TEST(DevicePath, IsEncodedHalfByteByHalfByte)

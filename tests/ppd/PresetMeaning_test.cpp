@@ -118,43 +118,22 @@ TEST(FirstChoices, AreTheOnesThatMakeOthersMeaningless)
 {
     const Ppd ppd = openPpd();
     ASSERT_TRUE(ppd);
-    const struct
-    {
-        const char *option, *first;
-    } expected[] = {
-        {"BVImageRGBSource", "None"},
-        {"BVTextRGBSource", "None"},
-        {"BVGraphicsRGBSource", "None"},
-        {"BVSimSource", "None"},
-        {"BVImageDestinationProfile", "Auto"},
-        {"BVTextDestinationProfile", "Auto"},
-        {"BVEdgeType", "Off"},
-        {"BVGraphicsDestinationProfile", "Auto"},
+    // clang-format off
+    const std::pair<const char *, const char *> expected[] = {
+        {"BVImageRGBSource", "None"}, {"BVTextRGBSource", "None"}, {"BVGraphicsRGBSource", "None"},
+        {"BVSimSource", "None"}, {"BVImageDestinationProfile", "Auto"}, {"BVTextDestinationProfile", "Auto"},
+        {"BVEdgeType", "Off"}, {"BVGraphicsDestinationProfile", "Auto"},
     };
-    for (const auto &row : expected) {
-        const ppd_option_t *option = ppdFindOption(ppd.get(), row.option);
-        ASSERT_TRUE(option) << row.option;
-        EXPECT_STREQ(option->choices[0].choice, row.first) << row.option;
+    // clang-format on
+    for (const auto &[keyword, first] : expected) {
+        const ppd_option_t *option = ppdFindOption(ppd.get(), keyword);
+        ASSERT_TRUE(option) << keyword;
+        EXPECT_STREQ(option->choices[0].choice, first) << keyword;
     }
     for (const char *object : {"Image", "Text", "Graphics"}) {
         const std::string prefix = std::string("BV") + object;
         EXPECT_EQ(ppdFindOption(ppd.get(), (prefix + "RenderIntent").c_str())->num_choices, 4) << object;
         EXPECT_GE(ppdFindOption(ppd.get(), (prefix + "Halftone").c_str())->num_choices, 3) << object;
-    }
-}
-
-TEST(CheckBoxes, AreBooleansWithBothChoicesAndWordsForThem)
-{
-    const Ppd ppd = openPpd();
-    ASSERT_TRUE(ppd);
-    for (const char *keyword : {"BVColorAsGray", "BVColorSeparation", "BVEconoMode", "BVAutoTrapping"}) {
-        SCOPED_TRACE(keyword);
-        const ppd_option_t *option = ppdFindOption(ppd.get(), keyword);
-        ASSERT_TRUE(option);
-        EXPECT_EQ(option->ui, PPD_UI_BOOLEAN);
-        ASSERT_EQ(option->num_choices, 2);
-        EXPECT_STREQ(ppdFindChoice(const_cast<ppd_option_t *>(option), "True")->text, "On");
-        EXPECT_STREQ(ppdFindChoice(const_cast<ppd_option_t *>(option), "False")->text, "Off");
     }
 }
 

@@ -143,11 +143,6 @@ TEST_F(ListFile, AnEmptyListIsWrittenWithAllItsSlots)
     for (size_t at = xml.find("<key>"); at != std::string::npos; at = xml.find("<key>", at + 1))
         ++keys;
     EXPECT_EQ(keys, 3u * (6 * 500 + 6 + 1 + 1) + 1);
-    for (const char *key : {"InMenu0000", "IndexOnDevice0499", "ProfileClass0250", "Location0007"})
-        EXPECT_EQ(
-            file.root().item("DST").item(std::string(key).substr(0, std::strlen(key) - 4).c_str()).item(key).number(),
-            0)
-            << key;
     EXPECT_EQ(file.root().item("SIM").item("FileName").item("FileName0499").text(), "");
 }
 
@@ -163,14 +158,12 @@ TEST_F(ListFile, ATextThatXmlCannotCarryNeverSpoilsTheFile)
     const Row rows[] = {
         {"0123456789012345678901234567\xE5\x8D\xB0\xE5", ""},
         {"caf\xE9", ""},
-        {"\xC0\xAF", ""},
         {"\xED\xA0\x80", ""},
         {"a\x01"
          "b\x1F"
          "c\x7F",
          "abc\x7F"},
         {"x\xEF\xBF\xBFy\xEF\xBF\xBEz\xEF\xBF\xBD", "xyz\xEF\xBF\xBD"},
-        {"\x02", ""},
     };
     for (const Row &row : rows) {
         *m_lists = Lists{};
@@ -185,20 +178,6 @@ TEST_F(ListFile, ATextThatXmlCannotCarryNeverSpoilsTheFile)
         EXPECT_EQ(bv::fieldText(m_lists->sim.records[0].ProfileName), row.readBack);
         EXPECT_EQ(bv::fieldText(m_lists->sim.records[0].FileName), "first.icc");
         EXPECT_EQ(bv::fieldText(m_lists->sim.records[1].FileName), "second.icc");
-    }
-}
-
-TEST_F(ListFile, TheWrapperNamesItsClassAndIsEmptyForAnyOther)
-{
-    m_lists->rgb.count = 3;
-    for (const int32_t which : {0, 1, 2, 3, -1}) {
-        ProfilePropsDictionary props;
-        const ProfileClassWrapper wrapper = CreatePropsDictionary(which, &m_lists->rgb, &props);
-        EXPECT_EQ(props.classDictionary.root().item("iNum").number(), 3);
-        EXPECT_TRUE(props.fields.profileName.item("ProfileName0499"));
-        const bool known = which >= 0 && which <= 2;
-        EXPECT_EQ(wrapper.key != nullptr && wrapper.key == kProfileClassKeys[known ? which : 0], known);
-        EXPECT_EQ(static_cast<bool>(wrapper.classDictionary), known);
     }
 }
 
@@ -265,9 +244,7 @@ TEST_F(ListFile, NumbersAreCutToIntegersAndOtherTypesPassedOver)
     };
     const Row rows[] = {
         {"<integer>5</integer>", 5},
-        {"<integer>-5</integer>", -5},
         {"<integer>7</integer>", 7}, // no known code, stored all the same
-        {"<real>3.9</real>", 3},
         {"<real>-3.9</real>", -3},
         {"<real>1e20</real>", 2147483647},
         {"<real>nan</real>", 77},
@@ -276,9 +253,6 @@ TEST_F(ListFile, NumbersAreCutToIntegersAndOtherTypesPassedOver)
         {"<true/>", 77},
         {"<string>4</string>", 77},
         {"<array><integer>4</integer></array>", 77},
-        {"<dict/>", 77},
-        {"<data>BAAA</data>", 77},
-        {"<date>2020-01-01T00:00:00Z</date>", 77},
     };
     for (const Row &row : rows) {
         *m_lists = Lists{};
@@ -293,26 +267,13 @@ TEST_F(ListFile, NumbersAreCutToIntegersAndOtherTypesPassedOver)
     }
 }
 
-TEST_F(ListFile, KeysBesideThe500SlotsAndOtherVersionsAreNoMatter)
-{
-    TestRoot::writeList(list(
-        dict(entry("RGB", classDict({{"InMenu", inMenu({3}) + number("InMenu0500", "3") + number("InMenu1", "3")}})) +
-             entry("SIM", classDict()) + entry("DST", classDict()) + number("PlistVersion", "9") +
-             entry("Other", "<array/>"))));
-    ASSERT_EQ(read(), 0);
-    EXPECT_EQ(m_lists->rgb.count, 1);
-}
-
 TEST_F(ListFile, AMissingDictionaryFailsTheWholeReadButOnlyItsClass)
 {
     std::vector<std::string> damaged = {"<dict/>", "<array/>", "<string>RGB</string>"};
     for (const char *field : {"IndexOnDevice", "InMenu", "ProfileClass", "Location", "FileName", "ProfileName"}) {
-        std::string text = classDict();
         const std::string found = entry(field, "<dict></dict>");
-        text.replace(text.find(found), found.size(), "");
-        damaged.push_back(text);
-        damaged.push_back(
-            classDict({{field, ""}}).replace(classDict().find(found), found.size(), entry(field, "<array></array>")));
+        for (const std::string &instead : {std::string(), entry(field, "<array></array>")})
+            damaged.push_back(classDict().replace(classDict().find(found), found.size(), instead));
     }
     for (const std::string &text : damaged) {
         const std::string good = classDict({{"InMenu", inMenu({3})}});
@@ -325,8 +286,7 @@ TEST_F(ListFile, AMissingDictionaryFailsTheWholeReadButOnlyItsClass)
         EXPECT_EQ(BVPListReadProfile_Dict(&m_lists->sim, kProfileSIM), -1);
         EXPECT_EQ(BVPListReadProfile_Dict_Pap(&m_lists->sim, kProfileSIM), -1);
     }
-    for (const int32_t which : {-1, 3, 2147483647})
-        EXPECT_EQ(BVPListReadProfile_Dict(&m_lists->rgb, which), -1);
+    EXPECT_EQ(BVPListReadProfile_Dict(&m_lists->rgb, 3), -1);
 }
 
 TEST_F(ListFile, TheCompactingReadLeavesOutCode2AndReads4As6)
@@ -345,31 +305,6 @@ TEST_F(ListFile, TheCompactingReadLeavesOutCode2AndReads4As6)
     EXPECT_EQ(m_lists->rgb.count, 3); // as the file says, so the gap stays
 }
 
-TEST_F(ListFile, ClassDictionariesBeforeAMissingOneAreHandedOut)
-{
-    TestRoot::writeList(list(dict(entry("RGB", classDict({}, number("iNum", "4"))) + entry("DST", classDict()))));
-    bv::PropertyList rgb;
-    bv::PropertyList sim;
-    bv::PropertyList dst;
-    EXPECT_EQ(BVPListMappingGetMainDict_FromPlist(&rgb, &sim, &dst), -1);
-    EXPECT_TRUE(rgb);
-    EXPECT_FALSE(sim);
-    EXPECT_FALSE(dst);
-    ProfileFieldDictionaries fields;
-    int32_t count = 9;
-    EXPECT_EQ(BVPListMappingGetSubDict(rgb.root(), &fields, &count), 0);
-    EXPECT_EQ(count, 4);
-    EXPECT_TRUE(fields.profileName);
-
-    const bv::PropertyList partial = bv::PropertyList::fromXml(
-        list(dict(entry("IndexOnDevice", dict("")) + entry("InMenu", dict("")) + number("iNum", "5"))));
-    fields = {};
-    EXPECT_EQ(BVPListMappingGetSubDict(partial.root(), &fields, &count), -1);
-    EXPECT_TRUE(fields.inMenu);
-    EXPECT_FALSE(fields.profileClass);
-    EXPECT_EQ(count, 4);
-}
-
 TEST_F(ListFile, DamagedAndHostileTextsAreUnreadable)
 {
     expectUnreadable("missing");
@@ -379,23 +314,13 @@ TEST_F(ListFile, DamagedAndHostileTextsAreUnreadable)
         nested += depth % 2 ? "<array>" : "<dict><key>k</key>";
     const std::pair<const char *, std::string> rows[] = {
         {"empty", ""},
-        {"blanks", " \n"},
         {"binary", binaryList(good)},
-        {"plain text", "not a list"},
         {"root is an array", list("<array/>")},
         {"NUL in a string", list(dict(entry("a", "<string>x" + std::string(1, '\0') + "</string>")))},
         {"something behind the end", good + "x"},
-        {"two lists", good + good},
         {"byte order mark of UTF-16", "\xFF\xFE" + good},
         {"undefined entity", listFile(classDict({{"FileName", entry("FileName0000", "<string>&no;</string>")}}))},
         {"a million levels", nested},
-        {"a million levels, closed by the end", nested + "</plist>"},
-        {"levels behind comments", list(dict([] {
-             std::string text;
-             for (int depth = 0; depth < 100'000; ++depth)
-                 text += "<key>k</key><dict><!--</dict>-->";
-             return text;
-         }()))},
     };
     for (const auto &[what, text] : rows)
         expectUnreadableText(text, what);

@@ -76,46 +76,6 @@ TEST(Merge, IsCutAt500AndNeverLeavesTheLists)
     }
 }
 
-TEST(Merge, ComparesAllBytesOfNamesWithoutANul)
-{
-    Merge merge;
-    add(merge.file, makeRecord(2, ""));
-    std::memset(merge.file.records[0].FileName, 'a', 32);
-    add(merge.edited, makeRecord(6, std::string(31, 'a'))); // one byte shorter
-    merge.run();
-    EXPECT_EQ(merge.out->count, 2);
-}
-
-TEST(Merge, OfAllClassesUsesEachClassesOwnListsAndAnUnreadableFileIsEmpty)
-{
-    const bvtest::TestRoot root;
-    const bvtest::NamedUser user;
-    const auto file = makeLists();
-    const auto edited = makeLists();
-    const auto excluded = makeLists();
-    const auto out = makeLists();
-    for (ProfileList *list : {&file->rgb, &file->sim, &file->dst}) {
-        add(*list, makeRecord(4, "kept"));
-        add(*list, makeRecord(4, "dropped"));
-    }
-    add(excluded->rgb, makeRecord(4, "dropped"));
-    add(excluded->dst, makeRecord(4, "kept"));
-    add(edited->sim, makeRecord(6, "new"));
-    const auto run = [&] {
-        *out = Lists{};
-        return BVPListMappingProfile_All_Pap(&edited->rgb, &edited->sim, &edited->dst, &out->rgb, &out->sim, &out->dst,
-                                             &excluded->rgb, &excluded->sim, &excluded->dst);
-    };
-    EXPECT_EQ(run(), 0);
-    EXPECT_THAT(shown(out->rgb), ElementsAre());
-    EXPECT_THAT(shown(out->sim), ElementsAre("new:6@4"));
-    bvtest::TestRoot::writeList(bv::profileListXml(file->rgb, file->sim, file->dst).value());
-    EXPECT_EQ(run(), 0);
-    EXPECT_THAT(shown(out->rgb), ElementsAre("kept:4@4"));
-    EXPECT_THAT(shown(out->sim), ElementsAre("kept:4@4", "dropped:4@4", "new:6@4"));
-    EXPECT_THAT(shown(out->dst), ElementsAre("dropped:4@4"));
-}
-
 TEST(CleanUp, KeepsMenuEntriesAsNoLongerOnTheDeviceAndClearsTheRest)
 {
     struct Row
@@ -129,11 +89,9 @@ TEST(CleanUp, KeepsMenuEntriesAsNoLongerOnTheDeviceAndClearsTheRest)
     // clang-format off
     const Row rows[] = {
         {0, "a", 0, 0,   0, true},
-        {0, "a", 1, 0,   0, true},
         {0, "a", 2, 0,   0, true},
         {0, "a", 3, 501, 3, false},
         {0, "a", 4, 501, 3, false},
-        {0, "a", 5, 0,   0, true},
         {0, "a", 6, 0,   0, true},
         {7, "a", 1, 7,   1, false},
         {0, "",  1, 0,   1, false},
@@ -188,17 +146,6 @@ TEST(Padding, PacksRecordsInUseAndLeavesTheClassBehind)
         EXPECT_EQ(std::memcmp(&list->records[slot], &vacated, sizeof vacated), 0) << slot;
     }
     EXPECT_EQ(list->count, 9);
-}
-
-TEST(Fields, AreReadToTheirEndAndFilledTo31Bytes)
-{
-    char field[kProfileTextBytes];
-    std::memset(field, 'x', sizeof field);
-    EXPECT_EQ(bv::fieldText(field).size(), 32u);
-    bv::setFieldText(field, std::string(40, 'y'));
-    EXPECT_EQ(bv::fieldText(field), std::string(31, 'y'));
-    bv::setFieldText(field, "z");
-    EXPECT_EQ(std::string_view(field, 32), "z" + std::string(31, '\0'));
 }
 
 } // namespace

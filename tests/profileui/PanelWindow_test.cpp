@@ -26,9 +26,8 @@ protected:
         panel->willShow();
         QString error;
         panel->restoreValuesAndReturnError(&error);
-        quickColor = view->findChild<QComboBox *>(QStringLiteral("menu_QuickColor"));
         manage = view->findChild<QPushButton *>(QStringLiteral("button_ManageProfile"));
-        ASSERT_TRUE(quickColor && manage);
+        ASSERT_TRUE(manage);
     }
     QComboBox *menu(const char *name) const
     {
@@ -60,7 +59,6 @@ protected:
     TestCallback callback;
     std::unique_ptr<PDEPlugInInterface> panel;
     QWidget *view = nullptr;
-    QComboBox *quickColor = nullptr;
     QPushButton *manage = nullptr;
 };
 
@@ -94,7 +92,7 @@ TEST_F(PanelWindow, AHelperThatIsGoneLeavesTheMenusTrueToTheFile)
 {
     QComboBox *source = menu("menu_iRGBSource");
     const QStringList before = profileItems(source);
-    const QByteArray file = fileBytes();
+    const std::string file = fileBytes();
     manageProfiles([&] {
         clickRow(5);
         press(c()._deleteButton);
@@ -103,21 +101,6 @@ TEST_F(PanelWindow, AHelperThatIsGoneLeavesTheMenusTrueToTheFile)
     });
     EXPECT_EQ(profileItems(source), before);
     EXPECT_EQ(fileBytes(), file);
-}
-
-TEST_F(PanelWindow, TheRulesRunAgainAfterOkAndNotAfterCancel)
-{
-    // A preset leaves nothing to adjust in the advanced pane, so its button is greyed out.
-    auto *toAdvanced = view->findChild<QPushButton *>(QStringLiteral("button_AdvanceColorOptions"));
-    ASSERT_TRUE(toAdvanced);
-    quickColor->setCurrentIndex(0);
-    panel->constraints();
-    ASSERT_FALSE(toAdvanced->isEnabled());
-    toAdvanced->setEnabled(true);
-    manageProfiles([&] { press(c()._windowCancel); });
-    EXPECT_TRUE(toAdvanced->isEnabled());
-    manageProfiles([&] { press(c()._windowOK); });
-    EXPECT_FALSE(toAdvanced->isEnabled());
 }
 
 } // namespace

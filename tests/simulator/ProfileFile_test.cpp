@@ -1,7 +1,5 @@
-// The readable list of profiles, its mistakes, and the table that is made of it.
+// The readable list of profiles and its mistakes.
 #include "simulator/ProfileFile.h"
-#include "simulator/ProfileTable.h"
-#include "simulator/Wire.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -9,7 +7,6 @@
 namespace {
 
 using sim::parseProfiles;
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 TEST(ProfileFile, ReadsRowsGapsAndMissingCells)
@@ -43,18 +40,12 @@ TEST(ProfileFile, SaysWhichLineIsWrong)
 {
     const std::pair<const char *, const char *> cases[] = {
         {"1 disk A B 1", "line 1: a row has six fields"},
-        {"1 disk A B 1 1 1", "line 1: a row has six fields"},
         {"#\n\nx disk A B 1 1", "line 3: the index is no number"},
         {"1 tape A B 1 1", "line 1: the location is none of disk, card, a number"},
-        {"1 \"disk\" A B 1 1", "line 1: the location"},
-        {"1 disk A B 1x 1", "line 1: the class is no number"},
         {"1 disk A B 1 99999999999", "line 1: the availability is no number"},
         {"1 disk A \"open 1 1", "line 1: a quoted text is broken"},
-        {"1 disk A \"\\x4\" 1 1", "line 1: a quoted text is broken"},
-        {"1 disk A \"\\n\" 1 1", "line 1: a quoted text is broken"},
         {"gap 2", "line 1: \"gap\" stands alone"},
         {"row 0", "line 1: row numbers only go up"},
-        {"row x", "line 1: \"row\" wants one number"},
         {"row -1", "line 1: \"row\" wants one number"},
     };
     for (const auto &[text, error] : cases) {
@@ -63,32 +54,6 @@ TEST(ProfileFile, SaysWhichLineIsWrong)
         EXPECT_THAT(file.rows, IsEmpty()) << text;
     }
     EXPECT_EQ(sim::readProfiles("/nowhere/list").error, "it cannot be read");
-    EXPECT_EQ(sim::readProfiles("/").error, "it cannot be read");
-}
-
-TEST(ProfileTable, StepsThroughTheColumnsInOrder)
-{
-    const sim::Cells cells = sim::cellsOf(parseProfiles("1 disk A.ICC A 1 1\n2 disk B.ICC B 1 -\n").rows);
-    EXPECT_EQ(cells.size(), 13U) << "a missing cell is none";
-    sim::Identifier name(sim::printerRoot().begin(), sim::printerRoot().end());
-    size_t steps = 0;
-    for (const sim::Cell *cell; (cell = sim::nextCell(cells, name)); name = cell->name) {
-        EXPECT_EQ(cell, &cells[steps]) << steps;
-        EXPECT_EQ(sim::findCell(cells, cell->name), cell);
-        ++steps;
-    }
-    EXPECT_EQ(steps, cells.size());
-    EXPECT_EQ(sim::findCell(cells, sim::printerRoot()), nullptr);
-}
-
-TEST(Wire, EmptiesTheListOfVariablesOfAnAnswer)
-{
-    const std::vector<u_char> answer = {0x30, 0x1d, 2, 1, 0,    4, 1,    'm', 0xa2, 0x15, 2,    2, 0x12, 0x34, 2, 1,
-                                        0,    2,    1, 0, 0x30, 9, 0x30, 7,   6,    2,    0x2b, 6, 2,    1,    5};
-    EXPECT_THAT(sim::withoutVariables(answer),
-                ElementsAre(0x30, 0x14, 2, 1, 0, 4, 1, 'm', 0xa2, 0x0c, 2, 2, 0x12, 0x34, 2, 1, 0, 2, 1, 0, 0x30, 0));
-    for (size_t length = 0; length < answer.size(); ++length)
-        EXPECT_THAT(sim::withoutVariables(std::span(answer).first(length)), IsEmpty()) << length;
 }
 
 } // namespace

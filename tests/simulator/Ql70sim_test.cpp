@@ -1,8 +1,6 @@
 // The program from outside: its arguments, its list that changes while it runs, and what a stock client sees.
 #include "support/ProgramUnderTest.h"
 
-#include "simulator/Fault.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -58,9 +56,7 @@ TEST_F(Ql70sim, RefusesBadArgumentsAndLists)
     const std::vector<std::pair<std::vector<std::string>, const char *>> cases = {
         {{}, "--port is missing"},
         {{"--port", "x"}, "\"x\" is no port"},
-        {{"--port", "65536"}, "is no port"},
         {{"--port", "0", "--fault", "nonsense"}, "there is no fault \"nonsense\""},
-        {{"--port", "0", "extra"}, "one argument too many"},
         {{"--port", "0", "--profiles", bad}, "bad: line 1: a row has six fields"},
         {{"--port", "0", "--profiles", "/nowhere"}, "/nowhere: it cannot be read"},
         {{"--nonsense"}, "unrecognized option"},
@@ -72,23 +68,6 @@ TEST_F(Ql70sim, RefusesBadArgumentsAndLists)
         EXPECT_EQ(ended.status, 2) << problem;
         EXPECT_THAT(ended.output, HasSubstr(problem));
     }
-}
-
-TEST_F(Ql70sim, HelpNamesEveryFault)
-{
-    const Ended help = run({kSimulator, "--help"});
-    EXPECT_EQ(help.status, 0);
-    for (const sim::Fault &fault : sim::faults())
-        EXPECT_THAT(help.output, HasSubstr(std::string("\n  ") + fault.name + ' '));
-}
-
-TEST_F(Ql70sim, APortThatIsTakenIsExitStatusOne)
-{
-    ProgramUnderTest first({kSimulator, "--port", "0"});
-    ASSERT_TRUE(first.waitFor("ready on 127.0.0.1 port "));
-    const Ended second = run({kSimulator, "--port", std::to_string(first.numberBehind(" port "))});
-    EXPECT_EQ(second.status, 1);
-    EXPECT_THAT(second.output, HasSubstr("cannot listen on udp:127.0.0.1:"));
 }
 
 TEST_F(Ql70sim, ReadsItsListAgainWhileItRuns)
@@ -118,13 +97,6 @@ TEST_F(Ql70sim, AnswersOnlyItsCommunityAndTakesNoChanges)
     EXPECT_THAT(client("snmpset", printer, "mirror", {cell(".1.1.1"), "i", "5"}).output, HasSubstr("noSuchName"));
     m_folder.write("snmp.conf", "mibs :\ntimeout 1\nretries 0\n");
     EXPECT_THAT(client("snmpget", printer, "public", {cell(".1.1.1")}).output, HasSubstr("Timeout"));
-}
-
-TEST_F(Ql70sim, ListensOnOtherAddresses)
-{
-    ProgramUnderTest printer({kSimulator, "--port", "0", "--address", "127.0.0.2"});
-    ASSERT_TRUE(printer.waitFor("ready on 127.0.0.2 port "));
-    EXPECT_EQ(printer.stop(), 0);
 }
 
 } // namespace

@@ -78,6 +78,7 @@ public:
 class TestSession : public bv::PrintSession, public bv::Printer
 {
 public:
+    explicit TestSession(std::optional<QString> deviceUri = {}) : uri(std::move(deviceUri)) {}
     const bv::Printer *currentPrinter() const override { return hasPrinter ? this : nullptr; }
     bv::PrintValue data(const QString &key) const override { return items.value(key); }
     QString identifier() const override { return QStringLiteral("Lab"); }
