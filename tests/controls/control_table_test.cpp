@@ -35,6 +35,16 @@ TEST(ControlTable, JoinsByKindAndEndsWithOneEndRecord)
     EXPECT_EQ(_DEBUGControlTable(joined.get()), 2);
 }
 
+TEST(ControlTable, ConstraintUnitsCountPopUpItemsFromOne)
+{
+    PDEControlItem popUp;
+    popUp.kind = kPDEControlPopUp;
+    EXPECT_EQ(PDECommon::commonConvertToCSTValue(&popUp, -1), 0);
+    EXPECT_EQ(PDECommon::commonConvertToCSTValue(&popUp, 0), 1);
+    EXPECT_EQ(PDECommon::commonConvertFromCSTValue(&popUp, 0), 0);
+    EXPECT_EQ(PDECommon::commonConvertFromCSTValue(&popUp, 3), 2);
+}
+
 // A pane without the interface file: its own controls under the outlets' names.
 class ColorPane : public testing::Test
 {

@@ -144,6 +144,14 @@ TEST_F(TicketBinding, WithoutAPrinterOnlyTheEmptyProductEntryIsMade)
     EXPECT_EQ(PDECommon::commonGetPrintQueueName(nullptr), QString());
 }
 
+TEST_F(TicketBinding, ValueResetClearsTheControl)
+{
+    box.setChecked(true);
+    const PDEControlItem row{&box, kPDEControlValueReset, "BVOn", nullptr, nullptr, "", 0, nullptr};
+    EXPECT_EQ(PDECommon::commonGetTicketValueWithSInt32(&row, "BVOn", bv::PrintValue("True")), 0);
+    EXPECT_FALSE(box.isChecked());
+}
+
 TEST_F(TicketBinding, SessionDataMustBeANumber)
 {
     session.items.setValue("n", bv::PrintValue::integer(70));

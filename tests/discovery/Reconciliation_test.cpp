@@ -68,6 +68,16 @@ TEST(Reconciliation, WhatDoesNotMatchIsAddedInTheFirstFreeSlot)
     EXPECT_EQ(std::memcmp(&list->records[1], &row, sizeof(row)), 0) << "all seven fields are copied";
 }
 
+TEST(Reconciliation, NamesAreComparedOverTheWholeField)
+{
+    const auto list = std::make_unique<ProfileList>();
+    fill(list.get(), {record(1, 1, "A.ICC")});
+    list->records[0].FileName[20] = 'x'; // behind the NUL
+    spoolRows({record(2, 0, "A.ICC")});
+    vRestructDetail(0, list.get());
+    EXPECT_THAT(shown(*list), ElementsAre("A.ICC/4=1", "A.ICC/4=2"));
+}
+
 TEST(Reconciliation, CountsOutOfRangeAndFullListsAreSafe)
 {
     const auto list = std::make_unique<ProfileList>();

@@ -305,6 +305,18 @@ TEST_F(ListFile, TheCompactingReadLeavesOutCode2AndReads4As6)
     EXPECT_EQ(m_lists->rgb.count, 3); // as the file says, so the gap stays
 }
 
+TEST_F(ListFile, ClassDictionariesBeforeAMissingOneAreHandedOut)
+{
+    TestRoot::writeList(list(dict(entry("RGB", classDict({}, number("iNum", "4"))) + entry("DST", classDict()))));
+    bv::PropertyList rgb, sim, dst;
+    EXPECT_EQ(BVPListMappingGetMainDict_FromPlist(&rgb, &sim, &dst), -1);
+    EXPECT_TRUE(rgb && !sim && !dst);
+    ProfileFieldDictionaries fields;
+    int32_t count = 9;
+    EXPECT_EQ(BVPListMappingGetSubDict(rgb.root(), &fields, &count), 0);
+    EXPECT_EQ(count, 4);
+}
+
 TEST_F(ListFile, DamagedAndHostileTextsAreUnreadable)
 {
     expectUnreadable("missing");
