@@ -1,12 +1,17 @@
-// The walk against the simulated printer with every fault, and against an agent on another SNMP stack.
+// The walk against the simulated printer with every fault, the stock SNMP daemon, and an agent on another SNMP stack.
 #include "support/ProgramUnderTest.h"
 
 #include "platform/ChildProcess.h"
+#include "simulator/Fault.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
+#include <memory>
+#include <ostream>
+#include <set>
 #include <sstream>
 #include <unistd.h>
 
@@ -85,6 +90,8 @@ protected:
         EXPECT_TRUE(result && result->exitCode == 0);
         return result ? parse(result->output) : Walked{};
     }
+
+    static std::string at(long port) { return "127.0.0.1:" + std::to_string(port); }
 
     ScratchFolder m_folder;
 };
@@ -169,21 +176,61 @@ constexpr FaultCase kFaultCases[] = {
 };
 // clang-format on
 
-TEST_F(ProfileWalk, EndsAsItShouldWithEachFault)
+void PrintTo(const FaultCase &row, std::ostream *out)
 {
-    for (const FaultCase &expected : kFaultCases) {
-        SCOPED_TRACE(expected.fault);
-        Simulator simulator(expected.fault);
-        const Walked walked = walk({simulator.host()});
-        EXPECT_THAT(walked.statuses, ElementsAre(expected.status));
-        EXPECT_EQ(walked.count, expected.count);
-        EXPECT_EQ(walked.numprinted, expected.numprinted);
-        EXPECT_EQ(walked.message, expected.message);
-        EXPECT_EQ(walked.printed, "");
-        if (expected.requests >= 0) {
-            EXPECT_EQ(simulator.requests(), expected.requests);
-        }
+    *out << row.fault;
+}
+
+class ProfileWalkFault : public ProfileWalk, public testing::WithParamInterface<FaultCase>
+{};
+
+TEST_P(ProfileWalkFault, EndsAsItShould)
+{
+    const FaultCase &expected = GetParam();
+    Simulator simulator(expected.fault);
+    const Walked walked = walk({simulator.host()});
+    EXPECT_THAT(walked.statuses, ElementsAre(expected.status));
+    EXPECT_EQ(walked.count, expected.count);
+    EXPECT_EQ(walked.numprinted, expected.numprinted);
+    EXPECT_EQ(walked.message, expected.message);
+    EXPECT_EQ(walked.printed, "");
+    if (expected.requests >= 0) {
+        EXPECT_EQ(simulator.requests(), expected.requests);
     }
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, ProfileWalkFault, testing::ValuesIn(kFaultCases), [](const auto &info) {
+    std::string name = info.param.fault;
+    std::replace(name.begin(), name.end(), '-', '_');
+    return name;
+});
+
+TEST_F(ProfileWalk, EveryFaultOfTheSimulatorIsTried)
+{
+    std::set<std::string> tried = {"slow"}; // in a test of its own
+    for (const FaultCase &row : kFaultCases)
+        tried.insert(row.fault);
+    for (const sim::Fault &fault : sim::faults())
+        EXPECT_TRUE(tried.contains(fault.name)) << fault.name;
+}
+
+TEST_F(ProfileWalk, CutsTextsAtTheFieldAndAtAZeroByte)
+{
+    Simulator simulator("odd-texts");
+    std::vector<std::string> names;
+    for (const std::string &row : walk({simulator.host()}).rows)
+        names.push_back(row.substr(row.find('"'), row.rfind(" \"") - row.find('"')));
+    EXPECT_THAT(names, ElementsAre('"' + std::string(32, 'A') + '"', '"' + std::string(32, 'B') + '"',
+                                   '"' + std::string(32, 'C') + '"', "\"D\"", "\"F\x01\x1b\n.IC\"", "\"\xff\xfe.ICC\"",
+                                   "\"\"", "\"G%s%n.ICC\""));
+}
+
+TEST_F(ProfileWalk, IgnoresRowsThatHaveNoSlot)
+{
+    Simulator simulator("rows-out-of-range");
+    const Walked walked = walk({simulator.host()});
+    ASSERT_EQ(walked.rows.size(), 7U);
+    EXPECT_THAT(walked.rows.back(), StartsWith("7 7 0 5 "));
 }
 
 TEST_F(ProfileWalk, ASlowPrinterIsLeftAfterTheTimeLimit)
@@ -222,14 +269,28 @@ TEST_F(ProfileWalk, OptionsChangeTheWalk)
     EXPECT_EQ(unchecked.message, "") << "the order is not checked; the number of answers ends the walk";
     EXPECT_EQ(again.requests(), 100);
 
+    Simulator included;
+    EXPECT_THAT(walk({"--word", "-Cip", included.host()}).statuses, ElementsAre(0));
+    EXPECT_EQ(included.requests(), 51) << "the root is asked for first";
+
     Simulator unknown;
     const Walked walked = walk({"--word", "-Cxc", unknown.host()});
     EXPECT_THAT(walked.statuses, ElementsAre(0));
     EXPECT_EQ(walked.message, "Unknown flag passed to -C: x\n");
 }
 
+TEST_F(ProfileWalk, TheRootsOwnValueIsPrintedWhenNothingLiesBelowIt)
+{
+    Simulator simulator("neighbour");
+    const Walked walked = walk({"--root", "1.3.6.1.4.1.39847.1.1.1.1.6.14.0", simulator.host()});
+    EXPECT_THAT(walked.statuses, ElementsAre(0));
+    EXPECT_EQ(walked.numprinted, 1);
+    EXPECT_THAT(walked.printed, testing::HasSubstr("STRING: \"QL70\""));
+}
+
 TEST_F(ProfileWalk, WordsAndHostsThatDoNotWork)
 {
+    EXPECT_THAT(walk({"--root", "no such object", "127.0.0.1"}).statuses, ElementsAre(1));
     EXPECT_THAT(walk({"--word", "-v9", "127.0.0.1"}).statuses, ElementsAre(testing::Lt(0)));
     // A label of a host name has at most 63 bytes (RFC 1035, 2.3.4), so this one is refused before anyone is asked.
     EXPECT_THAT(walk({std::string(80, 'h')}).statuses, ElementsAre(1));
@@ -250,6 +311,36 @@ TEST_F(ProfileWalk, TheEnvironmentBringsNoMibsAndNoPrefix)
     EXPECT_EQ(probe.wait(), 0);
     EXPECT_THAT(probe.output(), StartsWith("status 0\ncount 7\n")) << "nothing on standard error either";
     EXPECT_NE(access((folder + "/persistent").c_str(), F_OK), 0);
+}
+
+// ---- Agents of other makers ----
+
+TEST_F(ProfileWalk, ReadsTheTableOfTheStockDaemon)
+{
+    std::unique_ptr<ProgramUnderTest> daemon;
+    int port = 0;
+    // Another process may take the port between the choice and the start.
+    for (int attempt = 0; attempt < 5 && !daemon; ++attempt) {
+        port = bvtest::freeUdpPort();
+        const std::string configuration =
+            m_folder.write("snmpd/snmpd.conf", "agentAddress udp:" + at(port) +
+                                                   "\nrocommunity mirror 127.0.0.1\n"
+                                                   "pass_persist .1.3.6.1.4.1.39847.1.1.1.1.6.13.1.1 " BV_SOURCE_DIR
+                                                   "/tests/support/pass_table.py\n");
+        setenv("SNMP_PERSISTENT_DIR", m_folder.file("snmpd").c_str(), 1);
+        setenv("MIBS", "", 1);
+        daemon = std::make_unique<ProgramUnderTest>(std::vector<std::string>{"/usr/sbin/snmpd", "-f", "-Lo", "-C", "-c",
+                                                                             configuration, "-I", "-smux,hr_print"});
+        if (!daemon->waitFor("NET-SNMP version"))
+            daemon.reset();
+    }
+    ASSERT_TRUE(daemon);
+    const Walked walked = walk({at(port)});
+    EXPECT_THAT(walked.statuses, ElementsAre(0));
+    EXPECT_THAT(walked.rows,
+                ElementsAre("1 1 0 4 1 1 \"OFFICE.ICC\" \"Office RGB\"", "2 2 0 5 3 1 \"PROOF.ICC\" \"Card Proof\""));
+    EXPECT_EQ(walked.numprinted, 14);
+    daemon->stop();
 }
 
 struct ReplyCase
@@ -275,25 +366,38 @@ constexpr ReplyCase kReplyCases[] = {
 };
 // clang-format on
 
-TEST_F(ProfileWalk, AReplyOfAnotherStackIsTakenOrLeft)
+void PrintTo(const ReplyCase &row, std::ostream *out)
 {
-    for (const ReplyCase &expected : kReplyCases) {
-        SCOPED_TRACE(expected.mode);
-        ProgramUnderTest agent({"/usr/bin/python3", BV_SOURCE_DIR "/tests/support/pysnmp_agent.py", expected.mode});
-        ASSERT_TRUE(agent.waitFor("ready ") && agent.waitFor("\n")) << agent.output();
-        const Walked walked = walk({"127.0.0.1:" + std::to_string(agent.numberBehind("ready "))});
-        EXPECT_THAT(walked.statuses, ElementsAre(expected.status));
-        EXPECT_EQ(walked.count, expected.count);
-        EXPECT_EQ(walked.numprinted, expected.numprinted);
-        agent.stop();
-        int asked = 0;
-        for (size_t i = 0; (i = agent.output().find("asked", i)) != std::string::npos; ++i)
-            ++asked;
-        EXPECT_EQ(asked, expected.requests);
-        if (expected.status == 0) {
-            EXPECT_EQ(walked.rows.front(), "1 11 0 4 1 1 \"ONE.ICC\" \"Première\"");
-        }
+    *out << row.mode;
+}
+
+class ProfileWalkReply : public ProfileWalk, public testing::WithParamInterface<ReplyCase>
+{};
+
+TEST_P(ProfileWalkReply, IsTakenOrLeft)
+{
+    const ReplyCase &expected = GetParam();
+    ProgramUnderTest agent({"/usr/bin/python3", BV_SOURCE_DIR "/tests/support/pysnmp_agent.py", expected.mode});
+    ASSERT_TRUE(agent.waitFor("ready ") && agent.waitFor("\n")) << agent.output();
+    const Walked walked = walk({at(agent.numberBehind("ready "))});
+    EXPECT_THAT(walked.statuses, ElementsAre(expected.status));
+    EXPECT_EQ(walked.count, expected.count);
+    EXPECT_EQ(walked.numprinted, expected.numprinted);
+    agent.stop();
+    const std::string output = agent.output();
+    int asked = 0;
+    for (size_t i = output.find("asked"); i != std::string::npos; i = output.find("asked", i + 1))
+        ++asked;
+    EXPECT_EQ(asked, expected.requests);
+    if (expected.status == 0) {
+        EXPECT_EQ(walked.rows.front(), "1 11 0 4 1 1 \"ONE.ICC\" \"Première\"");
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(Each, ProfileWalkReply, testing::ValuesIn(kReplyCases), [](const auto &info) {
+    std::string name = info.param.mode;
+    std::replace(name.begin(), name.end(), '-', '_');
+    return name;
+});
 
 } // namespace

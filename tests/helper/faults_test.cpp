@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <random>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -106,6 +108,17 @@ TEST_F(Faults, KilledAtRandomMomentsOfAWriteSequence)
     }
 }
 
+TEST_F(Faults, ATornPieceIsNeverCommitted)
+{
+    const auto requests = requestsFor(m_new);
+    ASSERT_TRUE(writeList(m_old));
+    ASSERT_TRUE(answers(true, requests[0]));
+    EXPECT_EQ(run(requests[1], with("write:1:TORN")).exitCode, -1);
+    EXPECT_TRUE(answers(false, requests[2]));
+    EXPECT_TRUE(answers(false, {kCommit, url()}));
+    EXPECT_EQ(contents(current()), m_old);
+}
+
 TEST_F(Faults, AFullDiskEndsTheSequenceAndIsFreed)
 {
     const auto requests = requestsFor(m_new);
@@ -117,6 +130,17 @@ TEST_F(Faults, AFullDiskEndsTheSequenceAndIsFreed)
     EXPECT_TRUE(answers(false, {kSwap, "2", current(), previous()}, with("write:1:ENOSPC")));
     EXPECT_EQ(names(), m_login + "-QL70-profile.plist");
     EXPECT_EQ(contents(current()), m_old);
+}
+
+TEST_F(Faults, AFailedFlushOrRenameLeavesTheOldList)
+{
+    for (const char *fault : {"fsync:1:EIO", "rename:1:EIO", "rename:1:ENOSPC", "ftruncate:1:EIO"}) {
+        ASSERT_TRUE(writeList(m_old));
+        ASSERT_TRUE(answers(true, {kPiece, url(), m_new}));
+        EXPECT_TRUE(answers(false, {kCommit, url()}, with(fault))) << fault;
+        EXPECT_EQ(contents(current()), m_old);
+        EXPECT_EQ(names(), m_login + "-QL70-profile.plist");
+    }
 }
 
 TEST_F(Faults, KilledSwapsLeaveWholeFiles)
@@ -157,13 +181,37 @@ TEST_F(Faults, AFolderThatCannotBeWrittenMakesNoAdministrator)
     ASSERT_TRUE(writeList(m_old));
     ASSERT_EQ(chmod(folder().c_str(), 0555), 0);
     const bool asExpected = underPermissions([&] {
-        return answers(false, {kAdmin, current()}) && answers(true, {kExist, current()}) &&
-               answers(false, {kPiece, url(), m_new}) && answers(false, {kCommit, url()}) &&
-               answers(false, {kSwap, "2", current(), previous()}) && answers(false, {kRemove, current()});
+        return answers(false, {"bvPListIsAdminProfile_XPC", current()}) &&
+               answers(true, {"bvPListExistProfile_XPC", current()}) && answers(false, {kPiece, url(), m_new}) &&
+               answers(false, {kCommit, url()}) && answers(false, {kSwap, "2", current(), previous()}) &&
+               answers(false, {"bvPListRemove_XPC", current()});
     });
     EXPECT_TRUE(asExpected);
     EXPECT_EQ(contents(current()), m_old);
     EXPECT_EQ(names(), m_login + "-QL70-profile.plist");
+}
+
+TEST_F(Faults, AReadOnlyOrFullFileSystemKeepsTheOldList)
+{
+    // A file system of the test's own, which nobody else sees and which goes with the child process.
+    const bool asExpected = inAnotherProcess([&] {
+        if (unshare(m_isRoot ? CLONE_NEWNS : CLONE_NEWNS | CLONE_NEWUSER) != 0)
+            return !m_isRoot; // a kernel that grants users no namespaces
+        if (mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+            mount("none", folder().c_str(), "tmpfs", 0, "size=32k") != 0)
+            return !m_isRoot;
+        if (!m_isRoot)
+            return true; // without a user map the helper's caller has no name there
+        const bool filled = writeList(m_old) && answers(true, {kPiece, url(), m_new.substr(0, 5000)}) &&
+                            answers(false, {kPiece, url(), std::string(30000, 'x')}) &&
+                            names() == m_login + "-QL70-profile.plist";
+        if (mount("none", folder().c_str(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr) != 0)
+            return false;
+        return filled && answers(false, {"bvPListIsAdminProfile_XPC", current()}) &&
+               answers(false, {kPiece, url(), m_new}) && answers(false, {"bvPListRemove_XPC", current()}) &&
+               contents(current()) == m_old;
+    });
+    EXPECT_TRUE(asExpected);
 }
 
 } // namespace bvtest

@@ -1,4 +1,4 @@
-// The tables that the view switching controller gathers from the panes.
+// The view switching controller before and after the panes have their tables.
 #include "plugin/PainChangeController.h"
 
 #include <QVBoxLayout>
@@ -25,6 +25,21 @@ protected:
     AdvancedColorOptions *advanced;
     PainChangeController controller;
 };
+
+TEST_F(Panes, AreNotSwappedBeforeTheirTablesExist)
+{
+    controller.ColorToAdvancedView();
+    EXPECT_FALSE(advanced->isVisibleTo(&container));
+    controller.creatPDEControlTableEachView();
+    controller.ColorToAdvancedView();
+    EXPECT_TRUE(advanced->isVisibleTo(&container));
+    EXPECT_FALSE(color->isVisibleTo(&container));
+    controller.ColorToAdvancedView(); // once more changes nothing
+    EXPECT_TRUE(advanced->isVisibleTo(&container));
+    color->deallocPDEControlTable();
+    controller.AdvancedToColorView();
+    EXPECT_FALSE(color->isVisibleTo(&container));
+}
 
 TEST_F(Panes, GatherTwoTablesAndTheirRecords)
 {

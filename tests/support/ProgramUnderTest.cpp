@@ -9,9 +9,12 @@
 #include <fstream>
 #include <stdexcept>
 
+#include <arpa/inet.h>
 #include <fcntl.h>
+#include <netinet/in.h>
 #include <poll.h>
 #include <spawn.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -136,4 +139,18 @@ std::string ScratchFolder::write(std::string_view name, std::string_view text) c
     std::ofstream(path, std::ios::binary) << text;
     return path;
 }
+
+int freeUdpPort()
+{
+    const int socketDescriptor = socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t length = sizeof(address);
+    bind(socketDescriptor, reinterpret_cast<const sockaddr *>(&address), length);
+    getsockname(socketDescriptor, reinterpret_cast<sockaddr *>(&address), &length);
+    close(socketDescriptor);
+    return ntohs(address.sin_port);
+}
+
 } // namespace bvtest

@@ -61,4 +61,7 @@ private:
     std::string m_path;
 };
 
+// A UDP port of the loopback address that is free at this moment.
+int freeUdpPort();
+
 } // namespace bvtest

@@ -1,0 +1,28 @@
+// Descriptions that the log writes for objects, dictionaries and null.
+#include "plugin/PanelLog.h"
+
+#include <QObject>
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(PanelLog, DescribesObjectsDictionariesAndNull)
+{
+    QObject object;
+    object.setObjectName("pane");
+    const std::string text =
+        bv::formatLog("%@ %d", {bv::LogArgument(static_cast<const QObject *>(&object)), bv::LogArgument(7)});
+    EXPECT_NE(text.find("QObject"), std::string::npos);
+    EXPECT_NE(text.find("pane"), std::string::npos);
+    EXPECT_EQ(bv::formatLog("%@", {bv::LogArgument(static_cast<const QObject *>(nullptr))}), "(null)");
+
+    const auto inner = std::make_shared<bv::PrintDictionary>();
+    inner->setValue("n", bv::PrintValue::integer(3));
+    bv::PrintDictionary outer;
+    outer.setValue("a", bv::PrintValue(bv::PrintArray{bv::PrintValue("x"), bv::PrintValue::boolean(true)}));
+    outer.setValue("d", inner);
+    EXPECT_EQ(bv::formatLog("%@", {bv::LogArgument(outer)}), R"({a = ("x", true); d = {n = 3}})");
+    EXPECT_EQ(bv::formatLog("[%@]", {bv::LogArgument(QStringLiteral("gr\u00FCn"))}), "[gr\u00FCn]");
+}
+
+} // namespace
