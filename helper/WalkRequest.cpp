@@ -4,6 +4,7 @@
 #include "discovery/ProfileWalk.h"
 #include "helper/Diagnostics.h"
 #include "helper/DirectTransport.h"
+#include "helper/PlistLibrary.h"
 #include "helper/SnmpLibrary.h"
 #include "profiles/ProfilePaths.h"
 
@@ -52,7 +53,7 @@ Outcome answerWalk(const Caller &caller, RequestArguments arguments)
         return outcomeOf(false);
     }
 
-    if (!loadSnmpLibrary())
+    if (!loadSnmpLibrary() || !loadPlistLibrary())
         return outcomeOf(false);
 
     setProfileLogin(target->login);

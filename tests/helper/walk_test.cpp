@@ -99,14 +99,17 @@ TEST_F(WalkRequest, RootWalksForAnotherUser)
     EXPECT_EQ(names(), "daemon-QL70-profile.plist");
 }
 
-TEST_F(WalkRequest, WithoutItsLibraryTheWalkIsRefused)
+TEST_F(WalkRequest, WithoutALibraryTheWalkIsRefused)
 {
-    RunOptions options = privateSettings();
-    // Something else under the library's name, found first.
-    std::filesystem::create_directories(real("/lib"));
-    std::ofstream(real("/lib/" BV_SNMP_LIBRARY)) << "no library";
-    options.environment["LD_LIBRARY_PATH"] = real("/lib");
-    EXPECT_TRUE(answers(false, request("127.0.0.1"), options));
+    // Something else under a library's name, found first.
+    for (const char *library : {BV_SNMP_LIBRARY, BV_PLIST_LIBRARY}) {
+        RunOptions options = privateSettings();
+        const std::filesystem::path folder = real("/lib") / std::filesystem::path(library).stem();
+        std::filesystem::create_directories(folder);
+        std::ofstream(folder / library) << "no library";
+        options.environment["LD_LIBRARY_PATH"] = folder.string();
+        EXPECT_TRUE(answers(false, request("127.0.0.1"), options)) << library;
+    }
     EXPECT_EQ(names(), "");
 }
 
