@@ -59,4 +59,10 @@ void explainGreyedControls(PDEControlTable table)
     }
 }
 
+void applyOptionRules(PDEControlTable table)
+{
+    vColorPresetConstraints(table);
+    explainGreyedControls(table);
+}
+
 } // namespace bv

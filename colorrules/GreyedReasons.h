@@ -9,4 +9,7 @@ namespace bv {
 // away from those that are available. To be called after a pass of the rules over the same table.
 void explainGreyedControls(PDEControlTable table);
 
+// A pass of the rules over a table, and the texts that go with it.
+void applyOptionRules(PDEControlTable table);
+
 } // namespace bv

@@ -2,7 +2,6 @@
 #include "plugin/PDEPlugInInterface.h"
 
 #include "colorrules/GreyedReasons.h"
-#include "colorrules/OptionConstraints.h"
 #include "platform/Bundle.h"
 #include "plugin/PanelLog.h"
 #include "profiles/ProfileOperations.h"
@@ -176,19 +175,13 @@ void PDEPlugInInterface::PPDOptionKeyValueDidChange(const QString &, const QStri
 void PDEPlugInInterface::constraints()
 {
     if (pdeMainView) // the joined table's controls live in the view
-        applyRules(compTable.get());
+        bv::applyOptionRules(compTable.get());
 }
 
 void PDEPlugInInterface::selectItem()
 {
     if (onColorView)
-        applyRules(onColorView->getControlData());
-}
-
-void PDEPlugInInterface::applyRules(PDEControlTable table)
-{
-    vColorPresetConstraints(table);
-    bv::explainGreyedControls(table);
+        bv::applyOptionRules(onColorView->getControlData());
 }
 
 void PDEPlugInInterface::terminate()

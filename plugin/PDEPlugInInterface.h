@@ -43,7 +43,6 @@ private:
     void connectOutlets();
     void connectActions();
     bool hasViews() const { return onColorView && onAdvancedView; }
-    static void applyRules(PDEControlTable table);
 
     bv::PrintPanelCallback *pdePluginCallbackObject;
     PMPrintSettings setting = nullptr;

@@ -2,7 +2,7 @@
 #include "profileui/ProfileControl.h"
 
 #include "colorrules/AdvancedColorOptions.h"
-#include "colorrules/OptionConstraints.h"
+#include "colorrules/GreyedReasons.h"
 #include "common/PDECommon.h"
 #include "platform/Bundle.h"
 #include "platform/Log.h"
@@ -199,7 +199,7 @@ void ProfileControl::updateAdvancedPane()
         m_advanced->getControlValueFromTicket();
     }
     if (m_constTable)
-        vColorPresetConstraints(m_constTable);
+        bv::applyOptionRules(m_constTable);
 }
 
 void ProfileControl::escape()

@@ -103,5 +103,20 @@ TEST_F(PanelWindow, AHelperThatIsGoneLeavesTheMenusTrueToTheFile)
     EXPECT_EQ(fileBytes(), file);
 }
 
+TEST_F(PanelWindow, TheRulesRunAgainAfterOkAndNotAfterCancel)
+{
+    // A preset leaves nothing to adjust in the advanced pane, so its button is greyed out and says why.
+    auto *toAdvanced = view->findChild<QPushButton *>(QStringLiteral("button_AdvanceColorOptions"));
+    ASSERT_TRUE(toAdvanced);
+    ASSERT_FALSE(toAdvanced->isEnabled());
+    toAdvanced->setEnabled(true);
+    toAdvanced->setToolTip({});
+    manageProfiles([&] { press(c()._windowCancel); });
+    EXPECT_TRUE(toAdvanced->isEnabled());
+    manageProfiles([&] { press(c()._windowOK); });
+    EXPECT_FALSE(toAdvanced->isEnabled());
+    EXPECT_FALSE(toAdvanced->toolTip().isEmpty());
+}
+
 } // namespace
 } // namespace bvtest
