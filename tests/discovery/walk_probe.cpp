@@ -1,5 +1,5 @@
 // Runs walks in a process of its own and prints what they left: statuses, counters, message and spool.
-// Usage: walk_probe [--answers N] [--milliseconds N] [--word WORD]... HOST...
+// Usage: walk_probe [--answers N] [--milliseconds N] [--word WORD]... [--root OID] HOST...
 // One walk a host, one after the other; the extra words stand before the host. No list file is touched.
 #include "discovery/ProfileSpool.h"
 #include "discovery/ProfileWalk.h"
@@ -35,12 +35,13 @@ void printBytes(const char *label, std::string_view bytes)
         std::printf("%02x", static_cast<unsigned char>(byte));
 }
 
-int32_t walkOnce(const std::string &host, const std::vector<std::string> &extra, const bv::WalkLimits &limits)
+int32_t walkOnce(const std::string &host, const std::string &root, const std::vector<std::string> &extra,
+                 const bv::WalkLimits &limits)
 {
     std::vector<std::string> words = {"snmpwalk", "-Os", "-c", "mirror", "-v", "1"};
     words.insert(words.end(), extra.begin(), extra.end());
     words.push_back(host);
-    words.emplace_back("1.3.6.1.4.1.39847.1.1.1.1.6.13.1.1");
+    words.push_back(root);
     std::vector<char *> vector;
     for (std::string &word : words)
         vector.push_back(word.data());
@@ -55,6 +56,7 @@ int main(int argc, char **argv)
     NoHelper noHelper;
     bv::setHelperTransport(&noHelper);
     bv::WalkLimits limits;
+    std::string root = "1.3.6.1.4.1.39847.1.1.1.1.6.13.1.1";
     std::vector<std::string> extra;
     for (int i = 1; i < argc; ++i) {
         const std::string word = argv[i];
@@ -64,8 +66,10 @@ int main(int argc, char **argv)
             limits.time = std::chrono::milliseconds(std::stoi(argv[++i]));
         else if (word == "--word")
             extra.emplace_back(argv[++i]);
+        else if (word == "--root")
+            root = argv[++i];
         else
-            std::printf("status %d\n", walkOnce(word, extra, limits));
+            std::printf("status %d\n", walkOnce(word, root, extra, limits));
     }
     std::printf("count %d\nnumprinted %d\n", PlistForSpool.count, numprinted);
     printBytes("message ", sDEBUGmsg);
