@@ -5,9 +5,10 @@
 #include "support/PaneFixture.h"
 #include "support/PrivateCupsd.h"
 
-#include "host/PanelLoader.h"
-#include "host/PrintDialog.h"
-#include "host/RememberedTickets.h"
+#include "dialog/PrintDialog.h"
+#include "jobs/FolderSink.h"
+#include "queues/PanelLoader.h"
+#include "queues/RememberedTickets.h"
 
 #include <QDialog>
 #include <QEventLoop>
@@ -117,6 +118,7 @@ int main(int argc, char **argv)
     callback.session = &session;
     callback.ppd = ppd.get();
     const std::unique_ptr<bv::QueueSource> source = bv::makeServerSource();
+    bv::FolderSink sink;
     const bv::RememberedTickets remembered(root.filePath(QStringLiteral("tickets")));
 
     std::vector<double> pane;
@@ -132,7 +134,7 @@ int main(int argc, char **argv)
         // The dialog's plug-in stays loaded until the loader goes.
         bv::PanelLoader loader;
         require(bool(loader.load(QStringLiteral(BV_PLUGIN))), "the plug-in cannot be loaded");
-        const double own = ownDialogTime(*source, loader, const_cast<bv::RememberedTickets &>(remembered));
+        const double own = ownDialogTime(*source, sink, loader, const_cast<bv::RememberedTickets &>(remembered));
         if (run == 0)
             continue;
         pane.push_back(times[0]);

@@ -3,8 +3,8 @@
 #include "support/BatchProcess.h"
 #include "support/PrivateCupsd.h"
 
-#include "host/JobSink.h"
-#include "host/PrintServer.h"
+#include "jobs/PrintServerSink.h"
+#include "queues/PrintServer.h"
 
 #include <QDir>
 #include <QFile>

@@ -2,10 +2,11 @@
 // them in the server's jobs, in the next opening, and when a job fails.
 #include "support/PrivateCupsd.h"
 
-#include "host/PanelLoader.h"
-#include "host/PrintDialog.h"
-#include "host/QueueSource.h"
-#include "host/RememberedTickets.h"
+#include "dialog/PrintDialog.h"
+#include "jobs/PrintServerSink.h"
+#include "queues/PanelLoader.h"
+#include "queues/QueueSource.h"
+#include "queues/RememberedTickets.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -54,7 +55,7 @@ protected:
     // Opens the window on the queue and waits until it is ready.
     void open(const QStringList &documents = {})
     {
-        m_dialog = std::make_unique<PrintDialog>(*m_source, m_loader, m_remembered,
+        m_dialog = std::make_unique<PrintDialog>(*m_source, m_sink, m_loader, m_remembered,
                                                  bv::PrintDialogStart{QStringLiteral("QL70"), std::nullopt, documents});
         QSignalSpy ready(m_dialog.get(), &PrintDialog::ready);
         m_dialog->show();
@@ -120,6 +121,7 @@ protected:
     QString m_second;
     bv::PanelLoader m_loader;
     std::unique_ptr<bv::QueueSource> m_source = bv::makeServerSource();
+    bv::PrintServerSink m_sink;
     bv::RememberedTickets m_remembered{m_folder.filePath("tickets")};
     std::unique_ptr<PrintDialog> m_dialog;
 };

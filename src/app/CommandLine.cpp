@@ -1,0 +1,98 @@
+// The table of bvprint's options, how they are read, and the text of --help.
+#include "app/CommandLine.h"
+
+#include <QCommandLineParser>
+#include <array>
+
+namespace bv {
+
+namespace {
+
+// One option: its name, the word for its value (null: it takes none), where the value goes, and its line of --help.
+struct OptionRow
+{
+    const char *name;
+    const char *value;
+    QString &(*place)(CommandLine &line);
+    const char *help;
+};
+
+// clang-format off
+constexpr std::array<OptionRow, 10> kOptions = {{
+    {"batch",      "SCRIPT", [](CommandLine &line) -> QString & { return line.script; },            "carry out the commands of a file (-: standard input), without a window"},
+    {"plugin",     "FILE",   [](CommandLine &line) -> QString & { return line.plugin; },            "the plug-in to load (default: the one beside this program)"},
+    {"queue",      "NAME",   [](CommandLine &line) -> QString & { return line.session.queue; },     "the print queue (default: the print server's; with --ppd: QL70)"},
+    {"ppd",        "FILE",   [](CommandLine &line) -> QString & { return line.session.ppd; },       "take the options from a PPD file; no print server is needed"},
+    {"device-uri", "URI",    [](CommandLine &line) -> QString & { return line.session.deviceUri; }, "the device URI of the queue"},
+    {"ticket",     "FILE",   [](CommandLine &line) -> QString & { return line.session.ticket; },    "a ticket to start from, as JSON"},
+    {"screenshot", "FILE",   [](CommandLine &line) -> QString & { return line.screenshot; },        "write a picture of the ready window (PNG), and end"},
+    {"no-printer", nullptr,  nullptr,                                                               "with --ppd: there is no current printer"},
+    {"help",       nullptr,  nullptr,                                                               "print this and end"},
+    {"version",    nullptr,  nullptr,                                                               "print the version and end"},
+}};
+// clang-format on
+
+Result<CommandLine> failure(const QString &sentence)
+{
+    return Result<CommandLine>::failure(sentence);
+}
+
+} // namespace
+
+Result<CommandLine> parseCommandLine(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    for (const OptionRow &row : kOptions)
+        parser.addOption({QLatin1String(row.name), QLatin1String(row.help), QLatin1String(row.value)});
+    // The parser passes over the first word, the program's name.
+    if (!parser.parse(QStringList(QStringLiteral("bvprint")) + arguments))
+        return failure(QStringLiteral("%1 See bvprint --help.").arg(parser.errorText()));
+
+    CommandLine line;
+    if (parser.isSet(QStringLiteral("help")) || parser.isSet(QStringLiteral("version"))) {
+        line.mode = parser.isSet(QStringLiteral("help")) ? CommandLine::Mode::Help : CommandLine::Mode::Version;
+        return line;
+    }
+    for (const OptionRow &row : kOptions) {
+        const QString name = QLatin1String(row.name);
+        if (!row.place || !parser.isSet(name))
+            continue;
+        row.place(line) = parser.value(name);
+        if (row.place(line).isEmpty())
+            return failure(QStringLiteral("The value of the option --%1 is empty.").arg(name));
+    }
+    line.session.noPrinter = parser.isSet(QStringLiteral("no-printer"));
+    line.documents = parser.positionalArguments();
+
+    if (!line.script.isEmpty())
+        line.mode = CommandLine::Mode::Batch;
+    if (line.mode == CommandLine::Mode::Batch && !line.documents.isEmpty())
+        return failure(QStringLiteral("A batch takes no documents; its print command names them."));
+    if (line.mode == CommandLine::Mode::Batch && !line.screenshot.isEmpty())
+        return failure(QStringLiteral("A batch takes no --screenshot; its screenshot command names the picture."));
+    if (line.session.noPrinter && line.session.usesServer())
+        return failure(QStringLiteral("The option --no-printer needs --ppd."));
+    return line;
+}
+
+QString commandLineHelp()
+{
+    QString text = QStringLiteral("Usage: bvprint [options] [FILE...]\n"
+                                  "       bvprint [options] --batch SCRIPT\n"
+                                  "Opens the print dialog for the files, or carries out a batch.\n\n");
+    for (const OptionRow &row : kOptions) {
+        const QString usage =
+            QStringLiteral("--%1 %2").arg(QLatin1String(row.name), QLatin1String(row.value)).trimmed();
+        text += QStringLiteral("  %1 %2\n").arg(usage, -18).arg(QLatin1String(row.help));
+    }
+    text += QStringLiteral("\nExit status: 0 printed or cancelled, 1 a command or job of the batch failed,\n"
+                           "2 bad arguments, PPD, ticket or plug-in, or no print queue.\n");
+    return text;
+}
+
+QString commandLineVersion()
+{
+    return QStringLiteral("bvprint " BVPRINT_VERSION "\n");
+}
+
+} // namespace bv

@@ -1,0 +1,34 @@
+// The command line of bvprint: what the options are called and what they mean.
+#pragma once
+
+#include "platform/Result.h"
+#include "queues/SessionRequest.h"
+
+#include <QStringList>
+
+namespace bv {
+
+// One parsed command line. Strings are empty where the option was not given.
+struct CommandLine
+{
+    enum class Mode { Dialog, Batch, Help, Version };
+
+    Mode mode = Mode::Dialog;
+    SessionRequest session; // --queue, --ppd, --device-uri, --ticket, --no-printer
+    QString script;         // --batch: a file of commands, or "-" for standard input
+    QString plugin;         // --plugin; empty: the installed or built plug-in
+    QString screenshot;     // --screenshot: a PNG file for the ready window, which is then closed
+    QStringList documents;  // the files to print
+};
+
+// Reads the arguments, without the program's name. The sentence of a failure says which argument is wrong; the
+// program then ends with status 2.
+Result<CommandLine> parseCommandLine(const QStringList &arguments);
+
+// What --help prints.
+QString commandLineHelp();
+
+// What --version prints.
+QString commandLineVersion();
+
+} // namespace bv

@@ -1,0 +1,87 @@
+// Carries out the commands of a batch on one panel and one session.
+#pragma once
+
+#include "batch/BatchLine.h"
+#include "batch/ControlCatalog.h"
+#include "queues/QueueSession.h"
+
+#include <QJsonValue>
+#include <QPointer>
+#include <functional>
+
+namespace bv {
+
+class JobSink;
+class PanelLoader;
+
+// One panel serves all commands: it is asked for before the first one that needs it, and no call is made to it that no
+// command stands for. The session, the loader and the sink are borrowed and outlive this object.
+class BatchCommands
+{
+public:
+    BatchCommands(QueueSession &session, PanelLoader &loader, JobSink &sink);
+    ~BatchCommands();
+    BatchCommands(const BatchCommands &) = delete;
+    BatchCommands &operator=(const BatchCommands &) = delete;
+
+    // What a command came to.
+    struct Outcome
+    {
+        QJsonValue result = QJsonValue::Null;
+        QString error; // not empty: the command failed, and result means nothing
+    };
+    // line.command is not empty.
+    Outcome run(const BatchLine &line);
+
+    // Whether the command's result is null whenever it does not fail.
+    static bool answersNull(const QString &command);
+
+private:
+    struct Command;
+    static const Command kCommands[];
+    static const Command *find(const QString &word);
+
+    Outcome panels(const QStringList &words);
+    Outcome panelName(const QStringList &words);
+    Outcome panelKind(const QStringList &words);
+    Outcome supportedPPDOptionKeys(const QStringList &words);
+    Outcome panelView(const QStringList &words);
+    Outcome willShow(const QStringList &words);
+    Outcome constraints(const QStringList &words);
+    Outcome terminate(const QStringList &words);
+    Outcome shouldHide(const QStringList &words);
+    Outcome restoreValues(const QStringList &words);
+    Outcome saveValues(const QStringList &words);
+    Outcome shouldPrint(const QStringList &words);
+    Outcome summaryInfo(const QStringList &words);
+    Outcome controls(const QStringList &words);
+    Outcome control(const QStringList &words);
+    Outcome set(const QStringList &words);
+    Outcome type(const QStringList &words);
+    Outcome select(const QStringList &words);
+    Outcome press(const QStringList &words);
+    Outcome choose(const QStringList &words);
+    Outcome ticket(const QStringList &words);
+    Outcome setTicket(const QStringList &words);
+    Outcome screenshot(const QStringList &words);
+    Outcome print(const QStringList &words);
+
+    // Where controls are looked for, in order: the open modal windows from the top one down, then the view.
+    std::vector<ControlRoot> roots() const;
+    struct Found
+    {
+        ControlRoot root;
+        QWidget *control = nullptr; // null: there is none of that name
+    };
+    Found findEverywhere(const QString &name) const;
+    // Finds a control and has something done with it.
+    Outcome onControl(const QString &name, const std::function<QString(QWidget *)> &action) const;
+
+    QueueSession &m_session;
+    PanelLoader &m_loader;
+    JobSink &m_sink;
+    std::unique_ptr<PrintPanel> m_panel; // null until a command needs it
+    QPointer<QWidget> m_view;            // the panel's; null until panelView
+};
+
+} // namespace bv

@@ -1,0 +1,149 @@
+// The batch's event loop.
+#include "batch/BatchRunner.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QJsonDocument>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace bv {
+
+namespace {
+
+// A command that closes a window ends the event loop that ran it, and that loop may still serve one round of events.
+// So a command is carried out in the second round after the one before: by then the code behind the window has run.
+constexpr int kTurnsBetweenCommands = 2;
+
+} // namespace
+
+BatchRunner::BatchRunner(BatchCommands &commands) : m_commands(commands)
+{
+    m_turn.setSingleShot(true);
+    m_turn.setInterval(0);
+    connect(&m_turn, &QTimer::timeout, this, &BatchRunner::turn);
+}
+
+BatchRunner::~BatchRunner()
+{
+    m_notifier.reset();
+    if (m_file > STDIN_FILENO)
+        ::close(m_file);
+}
+
+QString BatchRunner::open(const QString &script)
+{
+    m_file = script == u"-" ? STDIN_FILENO : ::open(QFile::encodeName(script).constData(), O_RDONLY | O_CLOEXEC);
+    struct stat status = {};
+    if (m_file < 0 || fstat(m_file, &status) != 0)
+        return QStringLiteral("The batch %1 cannot be read: %2.").arg(script, QString::fromLocal8Bit(strerror(errno)));
+    if (S_ISDIR(status.st_mode))
+        return QStringLiteral("The batch %1 is a folder.").arg(script);
+    return {};
+}
+
+int BatchRunner::run()
+{
+    m_notifier = std::make_unique<QSocketNotifier>(m_file, QSocketNotifier::Read);
+    connect(m_notifier.get(), &QSocketNotifier::activated, this, &BatchRunner::read);
+    QCoreApplication::exec();
+    m_notifier.reset();
+    return m_failed ? 1 : 0;
+}
+
+void BatchRunner::read()
+{
+    char bytes[65536];
+    const ssize_t count = ::read(m_file, bytes, sizeof bytes);
+    if (count < 0 && (errno == EINTR || errno == EAGAIN))
+        return;
+    if (count > 0) {
+        m_unfinished.append(bytes, count);
+        qsizetype begin = 0;
+        for (qsizetype end; (end = m_unfinished.indexOf('\n', begin)) >= 0; begin = end + 1)
+            m_lines.push_back(m_unfinished.mid(begin, end - begin));
+        m_unfinished.remove(0, begin);
+    } else {
+        m_notifier->setEnabled(false);
+        m_atEnd = true;
+        if (!m_unfinished.isEmpty())
+            m_lines.push_back(m_unfinished);
+    }
+    scheduleTurn();
+}
+
+void BatchRunner::scheduleTurn()
+{
+    if (m_turn.isActive() || (m_lines.empty() && !m_atEnd && m_openCommand.isEmpty()))
+        return;
+    m_turnsToWait = kTurnsBetweenCommands;
+    m_turn.start();
+}
+
+void BatchRunner::turn()
+{
+    if (--m_turnsToWait > 0) {
+        m_turn.start();
+        return;
+    }
+    // A command is still being carried out: it opened a window, and its answer is not to wait for that to be closed.
+    answerOpenCommand();
+    if (m_lines.empty()) {
+        if (m_atEnd)
+            QCoreApplication::exit();
+        return;
+    }
+    const QByteArray line = std::move(m_lines.front());
+    m_lines.pop_front();
+    // Before the command, not after it: it may come back only when later commands have closed its window.
+    scheduleTurn();
+    carryOut(line);
+}
+
+void BatchRunner::carryOut(const QByteArray &line)
+{
+    const BatchLine split = splitBatchLine(QString::fromUtf8(line));
+    if (split.command.isEmpty())
+        return;
+    const bool mayAnswerEarly = BatchCommands::answersNull(split.command);
+    if (mayAnswerEarly) {
+        m_openCommand = split.command;
+        // Whoever waits for the answer before sending the next line gets it from the loop of a window that opens.
+        scheduleTurn();
+    }
+    const BatchCommands::Outcome outcome = m_commands.run(split);
+    // Answered already from a window's own event loop?
+    if (!mayAnswerEarly || !m_openCommand.isEmpty()) {
+        m_openCommand.clear();
+        answer(split.command, outcome);
+    }
+}
+
+void BatchRunner::answerOpenCommand()
+{
+    if (m_openCommand.isEmpty())
+        return;
+    const QString command = m_openCommand;
+    m_openCommand.clear();
+    answer(command, {});
+}
+
+void BatchRunner::answer(const QString &command, const BatchCommands::Outcome &outcome)
+{
+    QJsonObject object{{QStringLiteral("command"), command}};
+    if (outcome.error.isEmpty()) {
+        object[u"result"] = outcome.result;
+    } else {
+        object[u"error"] = outcome.error;
+        m_failed = true;
+    }
+    const QByteArray json = QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
+    std::fwrite(json.constData(), 1, static_cast<size_t>(json.size()), stdout);
+    std::fflush(stdout);
+}
+
+} // namespace bv

@@ -1,0 +1,42 @@
+// One thread that asks for one PPD after the other: a queue whose server is slow holds nobody up.
+#include "dialog/PaneSurvey.h"
+
+#include <algorithm>
+
+namespace bv {
+
+namespace {
+
+bool hasAny(ppd_file_t *ppd, const QStringList &keys)
+{
+    return std::any_of(keys.begin(), keys.end(),
+                       [ppd](const QString &key) { return ppdFindOption(ppd, key.toUtf8().constData()) != nullptr; });
+}
+
+} // namespace
+
+PaneSurvey::PaneSurvey(const QueueSource &source, QStringList queues, QStringList keys, QObject *parent)
+    : QObject(parent)
+{
+    m_thread.reset(QThread::create([this, &source, queues = std::move(queues), keys = std::move(keys)] {
+        for (const QString &queue : queues) {
+            if (m_stop)
+                return;
+            const Result<PpdFile> ppd = source.ppd(queue);
+            // The signal reaches its receivers through their own event loop.
+            if (!ppd)
+                emit withoutPane(queue, ppd.error());
+            else if (!hasAny(ppd.value().handle(), keys))
+                emit withoutPane(queue, QString());
+        }
+    }));
+    m_thread->start();
+}
+
+PaneSurvey::~PaneSurvey()
+{
+    m_stop = true;
+    m_thread->wait();
+}
+
+} // namespace bv

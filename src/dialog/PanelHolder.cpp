@@ -1,0 +1,48 @@
+// The panel's life in the dialog, and who owns its view when.
+#include "dialog/PanelHolder.h"
+
+#include <algorithm>
+
+namespace bv {
+
+PanelHolder::PanelHolder(std::unique_ptr<PrintPanel> panel) : m_panel(std::move(panel))
+{
+    connect(&m_watcher, &ChangeWatcher::changed, this, &PanelHolder::changed);
+}
+
+PanelHolder::~PanelHolder()
+{
+    if (m_area) {
+        QWidget *view = m_area->takeWidget();
+        if (view)
+            view->setParent(nullptr);
+        delete m_area;
+    }
+    m_panel->terminate();
+}
+
+bool PanelHolder::serves(ppd_file_t *ppd)
+{
+    const QStringList keys = m_panel->supportedPPDOptionKeys();
+    return ppd && std::any_of(keys.begin(), keys.end(), [ppd](const QString &key) {
+               return ppdFindOption(ppd, key.toUtf8().constData()) != nullptr;
+           });
+}
+
+QString PanelHolder::prepare()
+{
+    m_view = m_panel->panelView();
+    if (!m_view)
+        return tr("The options of this printer cannot be shown: the plug-in gives no view. Install it anew.");
+    m_area = new PaneArea;
+    m_area->setObjectName(QStringLiteral("paneArea"));
+    m_area->setWidget(m_view);
+    m_view->show();
+    QString error;
+    if (!m_panel->restoreValuesAndReturnError(&error))
+        return error.isEmpty() ? tr("Not all of the choices could be restored. Look them through.") : error;
+    m_watcher.watch(m_view);
+    return {};
+}
+
+} // namespace bv

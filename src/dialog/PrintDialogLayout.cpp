@@ -1,0 +1,275 @@
+// Builds the window's layout, keeps its tab order, and moves the summary when the window's width allows it.
+#include "dialog/PrintDialogLayout.h"
+
+#include "dialog/JobRows.h"
+#include "dialog/PpdOptionRows.h"
+#include "dialog/QueueList.h"
+#include "widgets/DocumentList.h"
+#include "widgets/MessageBar.h"
+#include "widgets/PaneArea.h"
+#include "widgets/ReasonLabel.h"
+#include "widgets/SummaryView.h"
+
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QDialog>
+#include <QFormLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QResizeEvent>
+#include <QScrollBar>
+#include <QSpinBox>
+#include <QStackedWidget>
+#include <algorithm>
+
+namespace bv {
+
+namespace {
+
+// Widths in average characters: of the side, of a summary that stands by itself, and what the pane is given before the
+// summary may stand so.
+constexpr int kSideCharacters = 44;
+constexpr int kWidestSideCharacters = 58;
+constexpr int kSummaryCharacters = 44;
+constexpr int kPaneCharacters = 66;
+
+QLabel *heading(const QString &text, QWidget *parent)
+{
+    auto *label = new QLabel(text, parent);
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
+    return label;
+}
+
+QVBoxLayout *column(QWidget *owner)
+{
+    auto *layout = new QVBoxLayout(owner);
+    layout->setContentsMargins(0, 0, 0, 0);
+    return layout;
+}
+
+QList<QLabel *> labelsOf(const QFormLayout *form)
+{
+    QList<QLabel *> labels;
+    for (int row = 0; row < form->rowCount(); ++row) {
+        const QLayoutItem *item = form->itemAt(row, QFormLayout::LabelRole);
+        if (auto *label = item ? qobject_cast<QLabel *>(item->widget()) : nullptr)
+            labels << label;
+    }
+    return labels;
+}
+
+} // namespace
+
+PrintDialogLayout::PrintDialogLayout(QDialog *dialog) : QWidget(dialog)
+{
+    auto *rows = column(this);
+    queues = new QueueList(this);
+    message = new MessageBar(this);
+    m_middle = new QHBoxLayout;
+    m_middle->setSpacing(12);
+    m_side = makeSide();
+    m_middle->addWidget(m_side);
+    m_middle->addWidget(makePlace(), 1);
+    rows->addWidget(queues);
+    rows->addWidget(message);
+    rows->addLayout(m_middle, 1);
+    rows->addLayout(makeButtons(dialog));
+    setTabOrders();
+}
+
+QWidget *PrintDialogLayout::makeSide()
+{
+    auto *side = new QWidget(this);
+    m_settings = new PaneArea(side);
+    auto *content = new QWidget;
+    documents = new DocumentList(content);
+    job = new JobRows(content);
+    m_rows = new QStackedWidget(content);
+    m_noRows = new QWidget;
+    m_rows->addWidget(m_noRows);
+    auto *inner = column(content);
+    inner->addWidget(documents);
+    inner->addWidget(job);
+    inner->addWidget(m_rows);
+    inner->addStretch(1);
+    // The focus frames of the controls at the edge need a little room.
+    inner->setContentsMargins(2, 2, 4, 2);
+    m_settings->setWidget(content);
+
+    m_sideColumn = column(side);
+    // The settings take what they need, the summary the rest.
+    m_settings->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    m_sideColumn->addWidget(m_settings);
+    m_sideColumn->addWidget(makeSummary(), 1);
+    m_sideColumn->addStretch(0);
+    side->setFixedWidth(fontMetrics().averageCharWidth() * kSideCharacters);
+    return side;
+}
+
+QWidget *PrintDialogLayout::makeSummary()
+{
+    m_summaryBox = new QWidget(this);
+    summary = new SummaryView(m_summaryBox);
+    summary->setMinimumHeight(fontMetrics().height() * 5);
+    summary->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    m_summaryBox->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
+    auto *label = heading(tr("S&ummary"), m_summaryBox);
+    label->setBuddy(summary);
+    auto *box = column(m_summaryBox);
+    box->addWidget(label);
+    box->addWidget(summary, 1);
+    return m_summaryBox;
+}
+
+QWidget *PrintDialogLayout::makePlace()
+{
+    auto *place = new QWidget(this);
+    m_paneTitle = heading(QString(), place);
+    m_paneTitle->setObjectName(QStringLiteral("paneTitle"));
+    m_place = new QStackedWidget(place);
+    m_placeNote = new QWidget;
+    m_placeText = new QLabel(m_placeNote);
+    m_placeText->setObjectName(QStringLiteral("placeText"));
+    m_placeText->setTextFormat(Qt::PlainText);
+    m_placeText->setAlignment(Qt::AlignCenter);
+    m_placeText->setWordWrap(true);
+    auto *noteColumn = new QVBoxLayout(m_placeNote);
+    noteColumn->addWidget(m_placeText);
+    m_place->addWidget(m_placeNote);
+    auto *box = column(place);
+    box->addWidget(m_paneTitle);
+    box->addWidget(m_place, 1);
+    return place;
+}
+
+QBoxLayout *PrintDialogLayout::makeButtons(QDialog *dialog)
+{
+    restore = new QPushButton(tr("Restore De&faults"), this);
+    restore->setObjectName(QStringLiteral("restoreDefaults"));
+    restore->setToolTip(tr("Put all of the printer's settings back to what its driver proposes"));
+    restore->setAutoDefault(false);
+    cancel = new QPushButton(tr("Cancel"), this);
+    cancel->setObjectName(QStringLiteral("cancel"));
+    cancel->setAutoDefault(false);
+    print = new QPushButton(tr("&Print"), this);
+    print->setObjectName(QStringLiteral("print"));
+    print->setDefault(true);
+    reason = new ReasonLabel(print, tr("Print the documents with these settings"), this);
+    reason->setAlignment(Qt::AlignVCenter | Qt::AlignTrailing);
+    connect(cancel, &QPushButton::clicked, dialog, &QDialog::reject);
+    auto *row = new QHBoxLayout;
+    row->addWidget(restore);
+    row->addWidget(reason, 1);
+    row->addWidget(cancel);
+    row->addWidget(print);
+    return row;
+}
+
+void PrintDialogLayout::showQueue(PpdOptionRows *rows, QWidget *pane, const QString &paneName, const QString &sentence)
+{
+    if (rows && m_rows->indexOf(rows) < 0)
+        m_rows->addWidget(rows);
+    m_rows->setCurrentWidget(rows ? static_cast<QWidget *>(rows) : m_noRows);
+    // Only the rows in sight are to take room.
+    for (int i = 0; i < m_rows->count(); ++i) {
+        const bool shown = i == m_rows->currentIndex();
+        m_rows->widget(i)->setSizePolicy(QSizePolicy::Preferred, shown ? QSizePolicy::Preferred : QSizePolicy::Ignored);
+    }
+    if (pane && m_place->indexOf(pane) < 0)
+        m_place->addWidget(pane);
+    m_placeText->setText(pane ? QString() : sentence);
+    m_place->setCurrentWidget(pane ? pane : m_placeNote);
+    m_paneTitle->setText(paneName);
+    m_paneTitle->setVisible(!paneName.isEmpty());
+    alignLabels(rows);
+    widenSide();
+    setTabOrders();
+}
+
+QString PrintDialogLayout::placeText() const
+{
+    return m_placeText->text();
+}
+
+void PrintDialogLayout::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    placeSummary();
+}
+
+bool PrintDialogLayout::event(QEvent *event)
+{
+    const bool done = QWidget::event(event);
+    if (event->type() == QEvent::LayoutRequest)
+        placeSummary();
+    return done;
+}
+
+void PrintDialogLayout::placeSummary()
+{
+    const int character = fontMetrics().averageCharWidth();
+    const int summaryWidth = character * kSummaryCharacters;
+    const int paneWidth = std::max(m_place->minimumSizeHint().width(), character * kPaneCharacters);
+    const bool aside = width() >= m_side->width() + paneWidth + summaryWidth + 4 * m_middle->spacing();
+    if (aside == m_summaryAside)
+        return;
+    m_summaryAside = aside;
+    if (aside) {
+        m_sideColumn->removeWidget(m_summaryBox);
+        m_summaryBox->setFixedWidth(summaryWidth);
+        m_middle->addWidget(m_summaryBox);
+    } else {
+        m_middle->removeWidget(m_summaryBox);
+        m_summaryBox->setMinimumWidth(0);
+        m_summaryBox->setMaximumWidth(QWIDGETSIZE_MAX);
+        m_sideColumn->insertWidget(1, m_summaryBox, 1);
+    }
+    setTabOrders();
+}
+
+// Longer texts, in another language or a PPD, make the side wider, up to where the pane needs the room.
+void PrintDialogLayout::widenSide()
+{
+    const int character = fontMetrics().averageCharWidth();
+    const int content =
+        m_settings->widget()->minimumSizeHint().width() + m_settings->verticalScrollBar()->sizeHint().width();
+    m_side->setFixedWidth(std::clamp(content, character * kSideCharacters, character * kWidestSideCharacters));
+}
+
+// Widgets that come into the window later stand at the end of the chain; whatever belongs behind them is put there
+// anew, so that the pane's own order stays as its maker made it.
+void PrintDialogLayout::setTabOrders()
+{
+    const QList<QWidget *> behind = {summary, restore, cancel, print};
+    QWidget *before = queues->popUp();
+    for (QWidget *widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain()) {
+        const bool takesTabs = (widget->focusPolicy() & Qt::TabFocus) != 0;
+        const bool moved = std::any_of(behind.begin(), behind.end(), [widget](const QWidget *one) {
+            return one == widget || one->isAncestorOf(widget);
+        });
+        if (takesTabs && !moved && isAncestorOf(widget))
+            before = widget;
+    }
+    for (QWidget *widget : behind) {
+        setTabOrder(before, widget);
+        before = widget;
+    }
+}
+
+// The two forms at the side stand one above the other: their fields are to begin at one edge.
+void PrintDialogLayout::alignLabels(PpdOptionRows *rows)
+{
+    QList<QLabel *> labels = labelsOf(job->form());
+    if (rows)
+        labels += labelsOf(rows->form());
+    int widest = 0;
+    for (const QLabel *label : labels)
+        widest = std::max(widest, label->sizeHint().width());
+    for (QLabel *label : labels)
+        label->setMinimumWidth(widest);
+}
+
+} // namespace bv

@@ -1,0 +1,91 @@
+// From a request to a shown dialog, and from its end to the exit status.
+#include "dialog/PrintDialogRunner.h"
+
+#include "dialog/PrintDialog.h"
+#include "jobs/FolderSink.h"
+#include "jobs/PrintServerSink.h"
+#include "queues/PanelLoader.h"
+#include "queues/TicketJson.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QTimer>
+#include <cstdio>
+
+namespace bv {
+
+namespace {
+
+// The smallest screen that the window is made for; pictures show it so.
+constexpr QSize kPictureSize(1024, 600);
+
+int badStart(const QString &sentence)
+{
+    std::fprintf(stderr, "bvprint: %s\n", qPrintable(sentence.simplified()));
+    return 2;
+}
+
+// Writes a picture of the dialog once it is ready, and closes it.
+void takePicture(PrintDialog &dialog, const QString &path, int &status)
+{
+    dialog.resize(kPictureSize);
+    QObject::connect(
+        &dialog, &PrintDialog::ready, &dialog,
+        [&dialog, path, &status] {
+            // One more turn, so that the layout has settled.
+            QTimer::singleShot(0, &dialog, [&dialog, path, &status] {
+                if (!dialog.grab().save(path, "PNG"))
+                    status = badStart(QStringLiteral("The picture %1 cannot be written.").arg(path));
+                dialog.reject();
+            });
+        },
+        Qt::SingleShotConnection);
+}
+
+} // namespace
+
+int runPrintDialog(const WindowRequest &request, PanelLoader &loader)
+{
+    PrintDialogStart start;
+    const SessionRequest &session = request.session;
+    start.queue = session.usesServer() ? session.queue : session.queueWithoutServer();
+    start.documents = request.documents;
+    if (!session.ticket.isEmpty()) {
+        Result<PrintDictionary> ticket = ticketFromFile(session.ticket);
+        if (!ticket)
+            return badStart(ticket.error());
+        start.ticket = std::move(ticket.value());
+    }
+    std::unique_ptr<QueueSource> source;
+    std::unique_ptr<JobSink> sink;
+    if (session.usesServer()) {
+        source = makeServerSource();
+        sink = std::make_unique<PrintServerSink>();
+    } else {
+        const QString folder = demoOutputFolder();
+        Result<std::unique_ptr<QueueSource>> made = makePpdSource(
+            session, QCoreApplication::translate("PrintDialogRunner", "No print server: jobs are written to %1")
+                         .arg(QDir::toNativeSeparators(folder)));
+        if (!made)
+            return badStart(made.error());
+        source = std::move(made.value());
+        sink = std::make_unique<FolderSink>(folder);
+    }
+
+    RememberedTickets remembered;
+    PrintDialog dialog(*source, *sink, loader, remembered, std::move(start));
+    int status = 0;
+    QObject::connect(&dialog, &PrintDialog::printed, [](const QString &note) {
+        if (!note.isEmpty())
+            std::printf("%s\n", qPrintable(note));
+    });
+    if (!request.screenshot.isEmpty())
+        takePicture(dialog, request.screenshot, status);
+    dialog.exec();
+    if (dialog.hadPrinter())
+        return status;
+    // Who started it from a script, for a picture say, saw no window.
+    return badStart(dialog.messageText().isEmpty() ? dialog.printReason() : dialog.messageText());
+}
+
+} // namespace bv

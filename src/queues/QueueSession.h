@@ -1,0 +1,51 @@
+// One print queue as the dialog works with it: its ticket, its PPD and what a panel is told about its printer.
+#pragma once
+
+#include "platform/HostProtocol.h"
+#include "queues/PpdFile.h"
+#include "queues/Ticket.h"
+
+#include <optional>
+
+namespace bv {
+
+// Names the queue of a session.
+struct QueueIdentity
+{
+    QString name;
+    std::optional<QString> deviceUri; // nothing when the print server gives none
+    bool hasPrinter = true;           // false: the session has no current printer
+};
+
+// The callback object of the panels that are made for this queue; it outlives them.
+class QueueSession final : public PrintSession, public PrintPanelCallback
+{
+public:
+    QueueSession(QueueIdentity identity, PpdFile ppd);
+    ~QueueSession() override;
+    QueueSession(const QueueSession &) = delete;
+    QueueSession &operator=(const QueueSession &) = delete;
+
+    const QString &queue() const { return m_identity.name; }
+    Ticket &ticket() { return m_ticket; }
+    const Ticket &ticket() const { return m_ticket; }
+    void setData(const QString &key, const PrintValue &value) { m_data.setValue(key, value); }
+
+    const Printer *currentPrinter() const override;
+    PrintValue data(const QString &key) const override { return m_data.value(key); }
+
+    PMPrintSettings printSettings() override { return &m_ticket; }
+    PMPrintSession printSession() override { return this; }
+    ppd_file_t *ppdFile() override { return m_ppd.handle(); }
+
+private:
+    class QueuePrinter;
+
+    QueueIdentity m_identity;
+    PpdFile m_ppd;
+    Ticket m_ticket;
+    PrintDictionary m_data;
+    std::unique_ptr<QueuePrinter> m_printer; // null: no current printer
+};
+
+} // namespace bv

@@ -1,0 +1,53 @@
+// The two sources of queues.
+#include "queues/QueueSource.h"
+
+namespace bv {
+
+namespace {
+
+class ServerSource final : public QueueSource
+{
+public:
+    Result<std::vector<PrintQueue>> queues() override { return PrintServer::queues(); }
+    Result<PpdFile> ppd(const QString &queue) const override { return PrintServer::ppd(queue); }
+};
+
+class PpdSource final : public QueueSource
+{
+public:
+    PpdSource(const SessionRequest &request, const QString &location)
+        : m_path(request.ppd), m_hasPrinter(!request.noPrinter)
+    {
+        m_queue.name = request.queueWithoutServer();
+        if (!request.deviceUri.isEmpty())
+            m_queue.deviceUri = request.deviceUri;
+        m_queue.isDefault = true;
+        m_queue.location = location;
+    }
+
+    Result<std::vector<PrintQueue>> queues() override { return std::vector<PrintQueue>{m_queue}; }
+    Result<PpdFile> ppd(const QString &) const override { return PpdFile::open(m_path); }
+    bool hasPrinter() const override { return m_hasPrinter; }
+
+private:
+    QString m_path;
+    bool m_hasPrinter;
+    PrintQueue m_queue;
+};
+
+} // namespace
+
+std::unique_ptr<QueueSource> makeServerSource()
+{
+    return std::make_unique<ServerSource>();
+}
+
+Result<std::unique_ptr<QueueSource>> makePpdSource(const SessionRequest &request, const QString &location)
+{
+    using Made = Result<std::unique_ptr<QueueSource>>;
+    if (const Result<PpdFile> ppd = PpdFile::open(request.ppd); !ppd)
+        return Made::failure(ppd.error());
+    return Made(std::make_unique<PpdSource>(request, location));
+}
+
+} // namespace bv

@@ -1,0 +1,81 @@
+// Reads and writes the remembered tickets.
+#include "queues/RememberedTickets.h"
+
+#include "platform/Log.h"
+#include "queues/StateFolder.h"
+#include "queues/TicketJson.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QSaveFile>
+
+namespace bv {
+
+namespace {
+
+// File names hold at most 255 bytes; the rest is room for what is put behind.
+constexpr qsizetype kLongestName = 200;
+
+// What is of one job only, under the names by which the print server and PPDs know it.
+constexpr const char *kNeverRemembered[] = {"copies", "Copies", "page-ranges", "PageRanges"};
+
+void logLine(const QString &text)
+{
+    diagnosticLine(text.toStdString());
+}
+
+} // namespace
+
+RememberedTickets::RememberedTickets(QString folder) : m_folder(std::move(folder)) {}
+
+QString RememberedTickets::defaultFolder()
+{
+    return stateFolder() + QStringLiteral("/bvprint/tickets");
+}
+
+QString RememberedTickets::filePath(const QString &queue) const
+{
+    // Percent-encoding leaves letters, digits, "-" and "_"; a dot in front would hide the file or lead out of the
+    // folder, so dots and tildes are encoded as well.
+    QByteArray name = queue.toUtf8().toPercentEncoding(QByteArray(), ".~");
+    if (name.size() > kLongestName) {
+        const QByteArray digest = QCryptographicHash::hash(queue.toUtf8(), QCryptographicHash::Sha256).toHex();
+        name = name.left(kLongestName - digest.size() - 1) + '+' + digest;
+    }
+    return m_folder + u'/' + QString::fromLatin1(name) + QStringLiteral(".json");
+}
+
+std::optional<PrintDictionary> RememberedTickets::load(const QString &queue) const
+{
+    const QString path = filePath(queue);
+    if (!QFile::exists(path))
+        return std::nullopt;
+    Result<PrintDictionary> ticket = ticketFromFile(path);
+    if (ticket)
+        return std::move(ticket.value());
+    const QString aside = path + QStringLiteral(".unreadable");
+    QFile::remove(aside);
+    const bool kept = QFile::rename(path, aside);
+    logLine(QStringLiteral("remembered choices of \"%1\" not used: %2 %3")
+                .arg(queue, ticket.error(), kept ? QStringLiteral("Kept as ") + aside : QString()));
+    return std::nullopt;
+}
+
+bool RememberedTickets::store(const QString &queue, const PrintDictionary &ticket) const
+{
+    PrintDictionary kept = ticket;
+    for (const char *key : kNeverRemembered)
+        kept.entries.erase(QString::fromLatin1(key));
+    const QString path = filePath(queue);
+    const QByteArray json = QJsonDocument(toJson(kept)).toJson();
+    QSaveFile file(path);
+    const bool stored =
+        QDir().mkpath(m_folder) && file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.commit();
+    if (!stored)
+        logLine(QStringLiteral("choices of \"%1\" not remembered: %2: %3").arg(queue, path, file.errorString()));
+    return stored;
+}
+
+} // namespace bv

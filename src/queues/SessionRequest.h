@@ -1,0 +1,22 @@
+// What a command line says about the queue to work with.
+#pragma once
+
+#include <QString>
+
+namespace bv {
+
+// Strings are empty where nothing was said.
+struct SessionRequest
+{
+    QString queue;          // the queue's name; empty: the print server's default
+    QString ppd;            // a PPD file; not empty: it stands in for a print server, and none is asked for anything
+    QString deviceUri;      // in place of the queue's own device URI
+    QString ticket;         // a JSON file to start from
+    bool noPrinter = false; // with a PPD file: the session has no current printer
+
+    bool usesServer() const { return ppd.isEmpty(); }
+    // The name of the queue when a PPD file stands in for a print server.
+    QString queueWithoutServer() const { return queue.isEmpty() ? QStringLiteral("QL70") : queue; }
+};
+
+} // namespace bv

@@ -1,0 +1,12 @@
+// Makes the session that a request asks for: from a PPD file alone, or from a queue of the print server.
+#pragma once
+
+#include "queues/QueueSession.h"
+#include "queues/SessionRequest.h"
+
+namespace bv {
+
+// With a PPD file no print server is asked. The sentence of a failure says what to do about it.
+Result<std::unique_ptr<QueueSession>> startSession(const SessionRequest &request);
+
+} // namespace bv

@@ -1,0 +1,176 @@
+// The list of documents with its two buttons, and the rules of what may be added.
+#include "widgets/DocumentList.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QMimeData>
+#include <QPainter>
+#include <QPushButton>
+#include <QShortcut>
+#include <QUrl>
+
+namespace bv {
+
+namespace {
+
+// A list that says in its empty place how to fill it.
+class HintedList : public QListWidget
+{
+public:
+    using QListWidget::QListWidget;
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        QListWidget::paintEvent(event);
+        if (count() > 0)
+            return;
+        QPainter painter(viewport());
+        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.drawText(viewport()->rect().adjusted(6, 4, -6, -4), Qt::AlignCenter | Qt::TextWordWrap,
+                         DocumentList::tr("Drop files here, or choose Add."));
+    }
+
+    // A list's own hint is far taller than the few files of a job need.
+    QSize sizeHint() const override { return {fontMetrics().averageCharWidth() * 30, fontMetrics().height() * 4}; }
+    QSize minimumSizeHint() const override
+    {
+        return {fontMetrics().averageCharWidth() * 16, fontMetrics().height() * 3};
+    }
+};
+
+constexpr int kPathRole = Qt::UserRole;
+
+// Why a file cannot be printed; empty when it can.
+QString whyNot(const QFileInfo &file)
+{
+    if (!file.exists())
+        return DocumentList::tr("“%1” was not found.").arg(file.filePath());
+    if (file.isDir())
+        return DocumentList::tr("“%1” is a folder. Add the files in it.").arg(file.fileName());
+    if (!file.isReadable())
+        return DocumentList::tr("“%1” cannot be read. Ask its owner for leave to read it.").arg(file.fileName());
+    return {};
+}
+
+} // namespace
+
+DocumentList::DocumentList(QWidget *parent)
+    : QWidget(parent), m_list(new HintedList(this)), m_add(new QPushButton(tr("&Add…"), this)),
+      m_remove(new QPushButton(tr("Remo&ve"), this))
+{
+    auto *label = new QLabel(tr("&Documents:"), this);
+    label->setBuddy(m_list);
+    m_list->setObjectName(QStringLiteral("documentList"));
+    m_list->setAccessibleName(tr("Documents"));
+    m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_list->setTextElideMode(Qt::ElideMiddle);
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_add->setObjectName(QStringLiteral("documentAdd"));
+    m_add->setToolTip(tr("Choose files to print"));
+    m_add->setAutoDefault(false);
+    m_remove->setObjectName(QStringLiteral("documentRemove"));
+    m_remove->setToolTip(tr("Take the selected files out of the job; the files themselves stay"));
+    m_remove->setAutoDefault(false);
+
+    auto *grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->addWidget(label, 0, 0);
+    grid->addWidget(m_add, 0, 1);
+    grid->addWidget(m_remove, 0, 2);
+    grid->addWidget(m_list, 1, 0, 1, 3);
+    grid->setColumnStretch(0, 1);
+    setTabOrder(m_list, m_add);
+    setTabOrder(m_add, m_remove);
+
+    connect(m_add, &QPushButton::clicked, this, &DocumentList::chooseFiles);
+    connect(m_remove, &QPushButton::clicked, this, &DocumentList::removeSelected);
+    connect(m_list, &QListWidget::itemSelectionChanged, this, &DocumentList::updateButtons);
+    auto *deleteKey = new QShortcut(QKeySequence::Delete, m_list);
+    deleteKey->setContext(Qt::WidgetShortcut);
+    connect(deleteKey, &QShortcut::activated, this, &DocumentList::removeSelected);
+    updateButtons();
+}
+
+void DocumentList::addDocuments(const QStringList &paths)
+{
+    QStringList known = documents();
+    QStringList reasons;
+    bool added = false;
+    for (const QString &path : paths) {
+        const QFileInfo file(path);
+        if (const QString reason = whyNot(file); !reason.isEmpty()) {
+            reasons << reason;
+            continue;
+        }
+        const QString absolute = file.absoluteFilePath();
+        if (known.contains(absolute))
+            continue;
+        known << absolute;
+        auto *item = new QListWidgetItem(file.fileName(), m_list);
+        item->setData(kPathRole, absolute);
+        item->setToolTip(absolute);
+        added = true;
+    }
+    if (!m_list->currentItem() && m_list->count() > 0)
+        m_list->setCurrentRow(0);
+    if (added)
+        emit documentsChanged();
+    if (!reasons.isEmpty())
+        emit refused(reasons.join(u'\n'));
+}
+
+void DocumentList::addDropped(const QMimeData &data)
+{
+    QStringList paths;
+    bool elsewhere = false;
+    for (const QUrl &url : data.urls()) {
+        if (url.isLocalFile())
+            paths << url.toLocalFile();
+        else
+            elsewhere = true;
+    }
+    addDocuments(paths);
+    if (elsewhere)
+        emit refused(tr("Only files of this computer can be printed. Save the document here first."));
+}
+
+bool DocumentList::canTake(const QMimeData &data)
+{
+    return data.hasUrls();
+}
+
+QStringList DocumentList::documents() const
+{
+    QStringList paths;
+    for (int row = 0; row < m_list->count(); ++row)
+        paths << m_list->item(row)->data(kPathRole).toString();
+    return paths;
+}
+
+void DocumentList::chooseFiles()
+{
+    addDocuments(QFileDialog::getOpenFileNames(window(), tr("Add Documents")));
+}
+
+void DocumentList::removeSelected()
+{
+    const QList<QListWidgetItem *> selected = m_list->selectedItems();
+    if (selected.isEmpty())
+        return;
+    // The button greys itself when the list empties; the keyboard then goes on in the list.
+    m_list->setFocus();
+    qDeleteAll(selected);
+    updateButtons();
+    emit documentsChanged();
+}
+
+void DocumentList::updateButtons()
+{
+    m_remove->setEnabled(!m_list->selectedItems().isEmpty());
+}
+
+} // namespace bv

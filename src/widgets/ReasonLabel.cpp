@@ -1,0 +1,27 @@
+// Keeps a button and the text that explains its state together.
+#include "widgets/ReasonLabel.h"
+
+#include <QAbstractButton>
+
+namespace bv {
+
+ReasonLabel::ReasonLabel(QAbstractButton *button, QString usualTip, QWidget *parent)
+    : QLabel(parent), m_button(button), m_usualTip(std::move(usualTip))
+{
+    setObjectName(QStringLiteral("printReason"));
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    explain(QString());
+}
+
+void ReasonLabel::explain(const QString &reason)
+{
+    setText(reason);
+    if (!m_button)
+        return;
+    m_button->setEnabled(reason.isEmpty());
+    m_button->setToolTip(reason.isEmpty() ? m_usualTip : reason);
+    m_button->setAccessibleDescription(reason.isEmpty() ? m_usualTip : reason);
+}
+
+} // namespace bv

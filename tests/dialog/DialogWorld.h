@@ -1,0 +1,162 @@
+// The world of the dialog's tests: a folder of its own, PPD files, a source of queues that can fail, and a panel that
+// is not ours.
+#pragma once
+
+#include "dialog/PrintDialog.h"
+#include "dialog/PrintDialogLayout.h"
+#include "queues/PanelLoader.h"
+#include "queues/QueueSource.h"
+#include "queues/RememberedTickets.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace bvtest {
+
+// A PPD with the foreign panel's option, paper, two-sided printing and two rules of what does not go together.
+inline QByteArray panelPpd()
+{
+    return R"ppd(*PPD-Adobe: "4.3"
+*FormatVersion: "4.3"
+*ModelName: "Paper"
+*NickName: "Paper, 1.0"
+*OpenUI *TPToner/Toner: PickOne
+*DefaultTPToner: Normal
+*TPToner Normal/Normal: ""
+*TPToner Save/Save: ""
+*CloseUI: *TPToner
+*OpenUI *PageSize/Media Size: PickOne
+*DefaultPageSize: A4
+*PageSize A4/A4 paper: "1"
+*PageSize A6/Postcard: "2"
+*CloseUI: *PageSize
+*OpenUI *Duplex/Duplex: PickOne
+*DefaultDuplex: None
+*Duplex None/Off: ""
+*Duplex DuplexNoTumble/Long edge: ""
+*CloseUI: *Duplex
+*UIConstraints: *PageSize A6 *Duplex DuplexNoTumble
+*UIConstraints: *Duplex DuplexNoTumble *PageSize A6
+*UIConstraints: *TPToner Save *PageSize A6
+*UIConstraints: *PageSize A6 *TPToner Save
+)ppd";
+}
+
+// The same without anything that the panel is for.
+inline QByteArray plainPpd()
+{
+    return panelPpd().replace("TPToner", "XXToner");
+}
+
+// Takes jobs and keeps them, or refuses them.
+class RecordingSink final : public bv::JobSink
+{
+public:
+    bv::Result<std::optional<int>> submit(const bv::JobRequest &request) override
+    {
+        if (!refusal.isEmpty())
+            return bv::Result<std::optional<int>>::failure(refusal);
+        jobs.push_back(request);
+        return std::optional<int>(int(jobs.size()));
+    }
+
+    QString refusal;
+    std::vector<bv::JobRequest> jobs;
+};
+
+// Queues by name with the PPD file of each; a queue with an empty path has none.
+class FakeSource final : public bv::QueueSource
+{
+public:
+    bv::Result<std::vector<bv::PrintQueue>> queues() override
+    {
+        if (!failure.isEmpty())
+            return bv::Result<std::vector<bv::PrintQueue>>::failure(failure);
+        return listed;
+    }
+    bv::Result<bv::PpdFile> ppd(const QString &queue) const override
+    {
+        const QString path = ppdPaths.value(queue);
+        return path.isEmpty() ? bv::Result<bv::PpdFile>::failure(QStringLiteral("“%1” has no driver file.").arg(queue))
+                              : bv::PpdFile::open(path);
+    }
+
+    void add(const QString &name, const QString &ppdPath)
+    {
+        bv::PrintQueue queue;
+        queue.name = name;
+        queue.isDefault = listed.empty();
+        listed.push_back(queue);
+        ppdPaths.insert(name, ppdPath);
+    }
+
+    QString failure;
+    std::vector<bv::PrintQueue> listed;
+    QMap<QString, QString> ppdPaths;
+};
+
+class DialogTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(folder.isValid());
+        remembered = std::make_unique<bv::RememberedTickets>(folder.filePath("tickets"));
+        document = write("letter.pdf", "%PDF-1.4\n");
+        loadPlugin(QStringLiteral(BV_BUILD_DIR "/tests/testpanel.so"));
+        source.add("Paper", write("paper.ppd", panelPpd()));
+        source.add("Second", source.ppdPaths.value("Paper"));
+        source.add("Plain", write("plain.ppd", plainPpd()));
+        source.add("Bare", QString());
+    }
+
+    void TearDown() override { dialog.reset(); }
+
+    void loadPlugin(const QString &path)
+    {
+        loader = std::make_unique<bv::PanelLoader>();
+        const auto loaded = loader->load(path);
+        ASSERT_TRUE(loaded) << qPrintable(loaded.error());
+    }
+
+    QString write(const QString &name, const QByteArray &content)
+    {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        return file.fileName();
+    }
+
+    void make(bv::PrintDialogStart start)
+    {
+        dialog = std::make_unique<bv::PrintDialog>(source, sink, *loader, *remembered, std::move(start));
+    }
+
+    // Opens the dialog and waits until the chosen queue is shown.
+    void open(bv::PrintDialogStart start)
+    {
+        make(std::move(start));
+        QSignalSpy ready(dialog.get(), &bv::PrintDialog::ready);
+        dialog->show();
+        ASSERT_TRUE(ready.wait());
+    }
+    void open() { open({QString(), std::nullopt, {document}}); }
+
+    template <typename Widget> Widget *find(const char *name)
+    {
+        auto *widget = dialog->findChild<Widget *>(QLatin1String(name));
+        EXPECT_NE(widget, nullptr) << name;
+        return widget;
+    }
+
+    QTemporaryDir folder;
+    QString document;
+    FakeSource source;
+    RecordingSink sink;
+    std::unique_ptr<bv::RememberedTickets> remembered;
+    std::unique_ptr<bv::PanelLoader> loader;
+    std::unique_ptr<bv::PrintDialog> dialog;
+};
+
+} // namespace bvtest

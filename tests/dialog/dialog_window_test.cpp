@@ -1,0 +1,320 @@
+// Tests of the dialog as its user meets it, on a panel that is not ours: opening, changing, switching, printing.
+#include "DialogWorld.h"
+
+#include "widgets/MessageBar.h"
+#include "widgets/SummaryView.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QTest>
+
+using namespace bv;
+
+namespace {
+
+class Dialog : public bvtest::DialogTest
+{
+protected:
+    QString summary() { return find<SummaryView>("summaryView")->plainSummary(); }
+    QString place() { return dialog->parts().placeText(); }
+    QComboBox *toner() { return visibleControl<QComboBox>("tonerMenu"); }
+
+    // The control of that name in sight; another queue's pane may have one as well.
+    template <typename Widget> Widget *visibleControl(const char *name)
+    {
+        for (Widget *widget : dialog->findChildren<Widget *>(QLatin1String(name))) {
+            if (widget->isVisible())
+                return widget;
+        }
+        ADD_FAILURE() << name << " is not in sight";
+        return nullptr;
+    }
+
+    void switchTo(const QString &queue)
+    {
+        QSignalSpy ready(dialog.get(), &PrintDialog::ready);
+        auto *printers = find<QComboBox>("printer");
+        printers->setCurrentIndex(printers->findData(queue));
+        if (ready.isEmpty()) {
+            ASSERT_TRUE(ready.wait());
+        }
+    }
+
+    // Presses Print; true when the dialog closed with the job sent.
+    bool print()
+    {
+        QSignalSpy printed(dialog.get(), &PrintDialog::printed);
+        const auto busy = [this] { return dialog->printReason().isEmpty() || !dialog->messageText().isEmpty(); };
+        find<QPushButton>("print")->click();
+        return QTest::qWaitFor([&] { return !printed.isEmpty() || (busy() && !dialog->messageText().isEmpty()); }) &&
+               !printed.isEmpty();
+    }
+};
+
+TEST_F(Dialog, PaintsAndSaysThatItPreparesBeforeAnythingCanWait)
+{
+    make({QString(), std::nullopt, {document}});
+    EXPECT_NE(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_FALSE(place().isEmpty());
+    EXPECT_FALSE(find<QPushButton>("print")->isEnabled());
+    EXPECT_FALSE(dialog->printReason().isEmpty());
+    EXPECT_EQ(find<QComboBox>("printer")->count(), 0);
+
+    QSignalSpy ready(dialog.get(), &PrintDialog::ready);
+    dialog->show();
+    ASSERT_TRUE(ready.wait());
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(dialog->printReason(), QString());
+    EXPECT_EQ(place(), QString());
+    EXPECT_EQ(find<QLabel>("paneTitle")->text(), "Paper Stamp");
+}
+
+TEST_F(Dialog, RestoreDefaultsTakesPaneAndRowsBackButLeavesTheJobAlone)
+{
+    PrintDictionary ticket;
+    ticket.setValue("TPToner", "Rich");
+    ticket.setValue("PageSize", "A6");
+    open({QString(), ticket, {document}});
+    EXPECT_TRUE(summary().startsWith("Toner: Rich"));
+    EXPECT_EQ(find<QComboBox>("row_PageSize")->currentData().toString(), "A6");
+    find<QSpinBox>("copies")->setValue(2);
+    find<QPushButton>("restoreDefaults")->click();
+    EXPECT_TRUE(summary().startsWith("Toner: Normal"));
+    EXPECT_EQ(find<QComboBox>("row_PageSize")->currentData().toString(), "A4");
+    EXPECT_EQ(find<QSpinBox>("copies")->value(), 2);
+    ASSERT_TRUE(print());
+    EXPECT_EQ(sink.jobs[0].options.at("TPToner"), "Normal");
+}
+
+TEST_F(Dialog, SendsWhatItShows)
+{
+    const QString second = write("b.txt", "text");
+    open({"Second", std::nullopt, {document, second}});
+    QTest::keyClick(toner(), Qt::Key_Down);
+    find<QComboBox>("row_Duplex")->setCurrentIndex(1);
+    find<QSpinBox>("copies")->setValue(3);
+    QTest::keyClicks(find<QLineEdit>("pageRange"), "2, 1");
+    ASSERT_TRUE(print());
+    ASSERT_EQ(sink.jobs.size(), 1U);
+    const JobRequest &job = sink.jobs[0];
+    EXPECT_EQ(job.queue, "Second");
+    EXPECT_EQ(job.documents, (QStringList{document, second}));
+    for (const auto &[key, value] : JobOptions{{"TPToner", "Save"},
+                                               {"TPSheets", "1"},
+                                               {"PageSize", "A4"},
+                                               {"Duplex", "DuplexNoTumble"},
+                                               {"copies", "3"},
+                                               {"page-ranges", "1-2"}})
+        EXPECT_EQ(job.options.count(key) ? job.options.at(key) : QString(), value) << qPrintable(key);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(dialog->result(), QDialog::Accepted);
+}
+
+TEST_F(Dialog, RemembersAQueuesChoicesOnceTheJobIsSentAndNothingOnCancel)
+{
+    open();
+    QTest::keyClick(toner(), Qt::Key_Down);
+    find<QSpinBox>("copies")->setValue(3);
+    find<QPushButton>("cancel")->click();
+    EXPECT_EQ(dialog->result(), QDialog::Rejected);
+    EXPECT_FALSE(remembered->load("Paper"));
+
+    open();
+    EXPECT_EQ(toner()->currentIndex(), 0);
+    QTest::keyClick(toner(), Qt::Key_Down);
+    find<QComboBox>("row_PageSize")->setCurrentIndex(1);
+    find<QSpinBox>("copies")->setValue(3);
+    ASSERT_TRUE(print());
+
+    open({"Paper", std::nullopt, {}});
+    EXPECT_EQ(toner()->currentIndex(), 1);
+    EXPECT_EQ(find<QComboBox>("row_PageSize")->currentIndex(), 1);
+    EXPECT_EQ(find<QSpinBox>("copies")->value(), 1);
+    EXPECT_FALSE(remembered->load("Second"));
+}
+
+TEST_F(Dialog, SwitchingQueuesSwapsTheValuesAndKeepsEachPane)
+{
+    open();
+    QComboBox *first = toner();
+    QTest::keyClick(first, Qt::Key_Down);
+    find<QComboBox>("row_PageSize")->setCurrentIndex(1);
+    switchTo("Second");
+    EXPECT_NE(toner(), first);
+    EXPECT_EQ(toner()->currentIndex(), 0);
+    EXPECT_EQ(visibleControl<QComboBox>("row_PageSize")->currentIndex(), 0);
+    switchTo("Paper");
+    EXPECT_EQ(toner(), first);
+    EXPECT_EQ(first->currentIndex(), 1);
+    EXPECT_EQ(visibleControl<QComboBox>("row_PageSize")->currentIndex(), 1);
+    EXPECT_TRUE(summary().startsWith("Toner: Save"));
+}
+
+TEST_F(Dialog, SaysWhyAQueueHasNoPaneAndPrintsToItAllTheSame)
+{
+    open({"Plain", std::nullopt, {document}});
+    EXPECT_TRUE(place().contains("Plain"));
+    ASSERT_TRUE(dialog->printReason().isEmpty());
+    ASSERT_TRUE(print());
+    EXPECT_EQ(sink.jobs[0].options.at("PageSize"), "A4");
+}
+
+TEST_F(Dialog, SaysThatAStoppedQueueKeepsTheJobAndSendsIt)
+{
+    source.listed[0].isStopped = true;
+    open();
+    EXPECT_TRUE(dialog->messageText().contains("stopped"));
+    EXPECT_TRUE(dialog->printReason().isEmpty());
+    ASSERT_TRUE(print());
+    EXPECT_EQ(sink.jobs.size(), 1U);
+}
+
+TEST_F(Dialog, FindsTheQueuesWithoutPaneInTheBackground)
+{
+    open();
+    auto *printers = find<QComboBox>("printer");
+    const auto marked = [&](const char *queue) {
+        return !printers->itemData(printers->findData(queue), Qt::ToolTipRole).toString().isEmpty();
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return marked("Plain") && marked("Bare"); }));
+    EXPECT_FALSE(marked("Paper"));
+    EXPECT_FALSE(marked("Second"));
+}
+
+TEST_F(Dialog, ShowsAQueueWithoutDriverAsUnusableAndOffersToTryAgain)
+{
+    open({"Bare", std::nullopt, {document}});
+    EXPECT_TRUE(dialog->messageText().contains("Bare"));
+    EXPECT_FALSE(dialog->printReason().isEmpty());
+    EXPECT_FALSE(dialog->hadPrinter());
+    source.ppdPaths["Bare"] = source.ppdPaths["Paper"];
+    QSignalSpy ready(dialog.get(), &PrintDialog::ready);
+    find<QPushButton>("messageAction")->click();
+    ASSERT_TRUE(ready.wait());
+    EXPECT_EQ(dialog->messageText(), QString());
+    EXPECT_EQ(dialog->printReason(), QString());
+    EXPECT_TRUE(dialog->hadPrinter());
+}
+
+TEST_F(Dialog, SurvivesAPrintServerThatIsNotThereAndLooksAgain)
+{
+    source.failure = "The print server cannot be reached. Start it and try again.";
+    open();
+    EXPECT_EQ(dialog->messageText(), source.failure);
+    EXPECT_FALSE(find<QPushButton>("print")->isEnabled());
+    source.failure.clear();
+    QSignalSpy ready(dialog.get(), &PrintDialog::ready);
+    find<QPushButton>("messageAction")->click();
+    ASSERT_TRUE(ready.wait());
+    EXPECT_TRUE(find<QPushButton>("print")->isEnabled());
+}
+
+TEST_F(Dialog, AFailedJobIsSaidAndLosesNoChoice)
+{
+    open();
+    QTest::keyClick(toner(), Qt::Key_Down);
+    find<QSpinBox>("copies")->setValue(5);
+    sink.refusal = "The print server refused the job.";
+    EXPECT_FALSE(print());
+    EXPECT_EQ(dialog->messageText(), sink.refusal);
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(toner()->currentIndex(), 1);
+    EXPECT_EQ(find<QSpinBox>("copies")->value(), 5);
+    EXPECT_FALSE(remembered->load("Paper"));
+    sink.refusal.clear();
+    EXPECT_TRUE(print());
+    EXPECT_EQ(sink.jobs[0].options.at("TPToner"), "Save");
+}
+
+TEST_F(Dialog, APanelThatRefusesStopsTheJob)
+{
+    for (const char *word : {"refuse", "hold"}) {
+        open();
+        visibleControl<QCheckBox>("stampCheck")->click();
+        visibleControl<QLineEdit>("stampText")->setText(word);
+        EXPECT_FALSE(print()) << word;
+        EXPECT_FALSE(dialog->messageText().isEmpty());
+        EXPECT_TRUE(sink.jobs.empty());
+    }
+}
+
+TEST_F(Dialog, AGreyedPrintButtonSaysWhyInThreePlaces)
+{
+    open({QString(), std::nullopt, {}});
+    const auto *print = find<QPushButton>("print");
+    const auto expectReason = [&](const char *word) {
+        EXPECT_FALSE(print->isEnabled());
+        EXPECT_TRUE(dialog->printReason().contains(word)) << qPrintable(dialog->printReason());
+        EXPECT_EQ(print->toolTip(), dialog->printReason());
+        EXPECT_EQ(print->accessibleDescription(), dialog->printReason());
+    };
+    expectReason("document");
+    open();
+    print = find<QPushButton>("print");
+    QTest::keyClicks(find<QLineEdit>("pageRange"), "3-1");
+    expectReason("backwards");
+    find<QRadioButton>("allPages")->click();
+    EXPECT_TRUE(print->isEnabled());
+    EXPECT_NE(print->toolTip(), QString());
+}
+
+TEST_F(Dialog, ShowsConflictsBetweenThePaneAndTheRows)
+{
+    open();
+    auto *conflict = find<QLabel>("conflictText");
+    EXPECT_FALSE(conflict->isVisible());
+    find<QComboBox>("row_PageSize")->setCurrentIndex(1);
+    QTest::keyClick(toner(), Qt::Key_Down);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return conflict->isVisible(); }));
+    EXPECT_TRUE(summary().startsWith("Toner: Save")) << "live";
+    EXPECT_TRUE(conflict->text().contains("Save")) << qPrintable(conflict->text());
+    find<QComboBox>("row_PageSize")->setCurrentIndex(0);
+    EXPECT_FALSE(conflict->isVisible());
+    EXPECT_TRUE(dialog->printReason().isEmpty());
+}
+
+TEST_F(Dialog, EnterPrintsAndEscapeCancels)
+{
+    open();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
+    QSignalSpy printed(dialog.get(), &PrintDialog::printed);
+    QTest::keyClick(find<QSpinBox>("copies"), Qt::Key_Return);
+    EXPECT_TRUE(printed.wait());
+    open();
+    QTest::keyClick(dialog.get(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(dialog->result(), QDialog::Rejected);
+}
+
+TEST_F(Dialog, DrivesThePanelInOrderAndLetsItGoBeforeThePlugIn)
+{
+    const QString log = folder.filePath("calls");
+    qputenv("TESTPANEL_LOG", log.toUtf8());
+    open();
+    ASSERT_TRUE(print());
+    dialog.reset();
+    qunsetenv("TESTPANEL_LOG");
+    QFile file(log);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    QStringList order = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
+    order.removeIf([](const QString &call) {
+        return call == "supportedPPDOptionKeys" || call == "summaryInfo" || call == "panelName";
+    });
+    EXPECT_EQ(order.first(), "made");
+    EXPECT_LT(order.indexOf("panelView"), order.indexOf("restoreValues"));
+    EXPECT_LT(order.indexOf("restoreValues"), order.indexOf("willShow"));
+    EXPECT_LT(order.indexOf("shouldHide"), order.lastIndexOf("saveValues"));
+    EXPECT_LT(order.lastIndexOf("saveValues"), order.indexOf("shouldPrint"));
+    EXPECT_EQ(order.mid(order.size() - 2), (QStringList{"terminate", "gone"}));
+    for (const char *once :
+         {"made", "panelView", "restoreValues", "willShow", "shouldHide", "shouldPrint", "terminate"})
+        EXPECT_EQ(order.count(once), 1) << once;
+}
+
+} // namespace
