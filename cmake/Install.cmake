@@ -7,7 +7,7 @@ set(BV_LIBRARY "${BV_INSTALL_ROOT}/Library")
 install(TARGETS bvprint RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 # bvprint looks for the plug-in beside itself, in ../lib/bvco.
 install(TARGETS bvco LIBRARY DESTINATION lib/bvco)
-install(TARGETS QL70Helper RUNTIME
+install(TARGETS QL70Helper QL70Walk RUNTIME
   DESTINATION "${BV_LIBRARY}/Application Support/BREVANE/QL70/Helpers/QL70Helper.app/Contents/MacOS")
 
 install(FILES ${CMAKE_SOURCE_DIR}/resources/QL70.ppd DESTINATION ${CMAKE_INSTALL_DATADIR}/ppd/brevane)

@@ -1,9 +1,11 @@
 // The requests that the helper knows, and how one is answered.
 #include "helper/RequestTable.h"
 
+#include "discovery/WalkWords.h"
 #include "helper/Diagnostics.h"
 #include "helper/ListRequests.h"
 #include "helper/WalkRequest.h"
+#include "profiles/RequestNames.h"
 
 #include <algorithm>
 
@@ -20,13 +22,13 @@ struct RequestRow
 
 // clang-format off
 constexpr RequestRow kRequests[] = {
-    {"bvPListIsAdminProfile_XPC",       1, answerIsAdmin},
-    {"bvPListExistProfile_XPC",         1, answerExist},
-    {"bvPListRemove_XPC",               1, answerRemove},
-    {"bvPListSwapProfile_XPC",          3, answerSwap},
-    {"writeDataToPlistFile_XPC",        2, answerPiece},
-    {"writeDataToPlistFileRename_XPC",  1, answerCommit},
-    {kWalkRequest,                     10, answerWalk},
+    {kIsAdminRequest,              1, answerIsAdmin},
+    {kExistRequest,                1, answerExist},
+    {kRemoveRequest,               1, answerRemove},
+    {kSwapRequest,                 3, answerSwap},
+    {kPieceRequest,                2, answerPiece},
+    {kCommitRequest,               1, answerCommit},
+    {kWalkRequest,    kWalkArguments, answerWalk},
 };
 // clang-format on
 
@@ -34,12 +36,12 @@ constexpr RequestRow kRequests[] = {
 
 Outcome outcomeOf(bool done)
 {
-    return done ? Outcome{"TRUE", kExitDone} : Outcome{"FALSE", kExitRefused};
+    return done ? Outcome{std::string(kTrueMark), kExitDone} : Outcome{std::string(kFalseMark), kExitRefused};
 }
 
 Outcome unknownRequest()
 {
-    return {"FALSE", kExitUnknown};
+    return {std::string(kFalseMark), kExitUnknown};
 }
 
 Outcome answerRequest(std::string_view name, RequestArguments arguments, const Caller &caller)

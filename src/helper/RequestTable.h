@@ -9,8 +9,6 @@
 
 namespace bv {
 
-inline constexpr std::string_view kWalkRequest = "mibwalk_XPC";
-
 // What one request comes to: the text behind "NAME=" and the exit status of the process.
 struct Outcome
 {

@@ -1,78 +1,80 @@
-// The request to walk the printer's profile table.
+// The request to walk the printer's profile table. Only this one of the seven requests needs the SNMP library, whose
+// cryptography would more than double the start of the others; so the walk is a program of its own.
 #include "helper/WalkRequest.h"
 
-#include "discovery/ProfileWalk.h"
+#include "discovery/WalkWords.h"
 #include "helper/Diagnostics.h"
-#include "helper/DirectTransport.h"
-#include "helper/PlistLibrary.h"
-#include "helper/SnmpLibrary.h"
-#include "profiles/ProfilePaths.h"
+#include "profiles/RequestNames.h"
 
 #include <array>
-#include <cstdio>
+#include <cerrno>
+#include <climits>
 #include <unistd.h>
+#include <vector>
 
 namespace bv {
 
 namespace {
 
-constexpr size_t kWordsBegin = 2; // behind the model and the login name
-constexpr size_t kHostWord = 6;
-constexpr std::string_view kAnyHost; // stands in the table for the one word that may differ
-
-constexpr std::string_view kModel = "QL70";
-// clang-format off
-constexpr std::array<std::string_view, 8> kWords = {
-    "snmpwalk", "-Os", "-c", "mirror", "-v", "1", kAnyHost, "1.3.6.1.4.1.39847.1.1.1.1.6.13.1.1",
-};
-// clang-format on
+constexpr std::string_view kProgram = "QL70Walk";
 
 bool isWalk(RequestArguments arguments)
 {
-    if (arguments[0] != kModel)
+    if (arguments.size() != kWalkArguments || arguments[0] != kWalkModel)
         return false;
-    const RequestArguments words = arguments.subspan(kWordsBegin);
-    for (size_t i = 0; i < kWords.size(); ++i) {
-        if (i != kHostWord && words[i] != kWords[i])
+    const RequestArguments words = arguments.subspan(kWalkWordsBegin);
+    for (size_t i = 0; i < kWalkWords.size(); ++i) {
+        if (kWalkWords[i] == kAnyHost) {
+            if (words[i].empty() || words[i].starts_with('-'))
+                return false;
+        } else if (words[i] != kWalkWords[i]) {
             return false;
+        }
     }
-    return !words[kHostWord].empty() && !words[kHostWord].starts_with('-');
+    return true;
+}
+
+// The path of QL70Walk in the folder of this program, by the kernel's word (proc(5), /proc/PID/exe) and no other;
+// empty when it cannot be had.
+std::string programBeside()
+{
+    std::array<char, PATH_MAX> path;
+    const ssize_t length = readlink("/proc/self/exe", path.data(), path.size());
+    if (length <= 0 || static_cast<size_t>(length) == path.size())
+        return {};
+    const std::string_view own(path.data(), static_cast<size_t>(length));
+    return std::string(own.substr(0, own.rfind('/') + 1)).append(kProgram);
 }
 
 } // namespace
 
-Outcome answerWalk(const Caller &caller, RequestArguments arguments)
+std::optional<Outcome> walkRefusal(const Caller &caller, RequestArguments arguments)
 {
     if (!isWalk(arguments)) {
         complain("those are not the words of a walk");
         return unknownRequest();
     }
-    const auto target = caller.listOfLogin(arguments[1]);
-    if (!target) {
+    if (!caller.listOfLogin(arguments[1])) {
         complain("the caller may not walk for that login name");
         return outcomeOf(false);
     }
+    return std::nullopt;
+}
 
-    if (!loadSnmpLibrary() || !loadPlistLibrary())
-        return outcomeOf(false);
+Outcome answerWalk(const Caller &caller, RequestArguments arguments)
+{
+    if (const auto refusal = walkRefusal(caller, arguments))
+        return *refusal;
 
-    setProfileLogin(target->login);
-    // The pieces that the walk writes are its own sequence and not its parent's.
-    DirectTransport transport{Caller(getpid())};
-    HelperTransport *before = setHelperTransport(&transport);
-
-    std::array<std::string, kWords.size()> words;
-    std::array<char *, kWords.size() + 1> vector = {};
-    for (size_t i = 0; i < words.size(); ++i) {
-        words[i] = arguments[kWordsBegin + i];
-        vector[i] = words[i].data();
-    }
-    const int32_t status = mib_walk(static_cast<int32_t>(words.size()), vector.data());
-
-    setHelperTransport(before);
-    // What the walk printed stands before the verdict.
-    std::fflush(stdout);
-    return {"iRet=" + std::to_string(status), kExitDone};
+    std::vector<std::string> words = {std::string(kProgram), std::string(kWalkRequest)};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    std::vector<char *> vector;
+    for (std::string &word : words)
+        vector.push_back(word.data());
+    vector.push_back(nullptr);
+    execv(programBeside().c_str(), vector.data());
+    complain("cannot start QL70Walk", errno);
+    return outcomeOf(false);
 }
 
 } // namespace bv

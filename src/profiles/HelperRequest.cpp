@@ -1,6 +1,8 @@
 // Running the helper: as a child process unless another transport was set.
 #include "profiles/HelperRequest.h"
 
+#include "profiles/RequestNames.h"
+
 #include "platform/ChildProcess.h"
 #include "platform/Log.h"
 #include "platform/RootPath.h"
@@ -79,9 +81,19 @@ std::optional<std::string> runHelper(std::string_view request, std::span<const s
     }
 }
 
-bool answerHolds(const std::optional<std::string> &answer, std::string_view marker)
+std::optional<std::string_view> behindMark(const std::optional<std::string> &answer, std::string_view request,
+                                           std::string_view mark)
 {
-    return answer && answer->find(marker) != std::string::npos;
+    const std::string text = std::string(request).append("=").append(mark);
+    const size_t found = answer ? answer->find(text) : std::string::npos;
+    if (found == std::string::npos)
+        return std::nullopt;
+    return std::string_view(*answer).substr(found + text.size());
+}
+
+bool answerIsTrue(const std::optional<std::string> &answer, std::string_view request)
+{
+    return behindMark(answer, request, kTrueMark).has_value();
 }
 
 } // namespace bv

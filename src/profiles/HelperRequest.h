@@ -32,7 +32,12 @@ bool helperAvailable();
 // One request; nothing when the helper is missing or cannot be run.
 std::optional<std::string> runHelper(std::string_view request, std::span<const std::string> arguments);
 
-// Whether an answer holds the marker text anywhere.
-bool answerHolds(const std::optional<std::string> &answer, std::string_view marker);
+// What stands in the answer behind the request's name, "=" and the mark, wherever in the answer that is; nothing where
+// there is no answer or no such text in it.
+std::optional<std::string_view> behindMark(const std::optional<std::string> &answer, std::string_view request,
+                                           std::string_view mark);
+
+// Whether the answer says TRUE to that request.
+bool answerIsTrue(const std::optional<std::string> &answer, std::string_view request);
 
 } // namespace bv

@@ -7,6 +7,7 @@
 #include "profiles/NoThrow_p.h"
 #include "profiles/ProfileListFile.h"
 #include "profiles/ProfilePaths.h"
+#include "profiles/RequestNames.h"
 #include "profiles/TextPieces.h"
 
 #include <array>
@@ -15,8 +16,6 @@
 namespace {
 
 constexpr size_t kPieceUnits = 90000;
-constexpr char kPieceRequest[] = "writeDataToPlistFile_XPC";
-constexpr char kCommitRequest[] = "writeDataToPlistFileRename_XPC";
 
 struct ThreeLists
 {
@@ -28,13 +27,13 @@ int32_t handOver(const std::string &xml)
     const std::string url = bv::fileUrl(bv::profilePaths().current);
     for (std::string &piece : splitCharEvery(xml, kPieceUnits)) {
         const std::array<std::string, 2> arguments = {url, std::move(piece)};
-        if (!bv::answerHolds(bv::runHelper(kPieceRequest, arguments), "writeDataToPlistFile_XPC=TRUE")) {
+        if (!bv::answerIsTrue(bv::runHelper(bv::kPieceRequest, arguments), bv::kPieceRequest)) {
             bv::diagnosticLine("list not written: the helper refused a piece");
             return -1;
         }
     }
     const std::array<std::string, 1> arguments = {url};
-    if (!bv::answerHolds(bv::runHelper(kCommitRequest, arguments), "writeDataToPlistFileRename_XPC=TRUE")) {
+    if (!bv::answerIsTrue(bv::runHelper(bv::kCommitRequest, arguments), bv::kCommitRequest)) {
         bv::diagnosticLine("list not written: the helper refused to commit it");
         return -1;
     }

@@ -4,16 +4,17 @@
 #include "profiles/HelperRequest.h"
 #include "profiles/NoThrow_p.h"
 #include "profiles/ProfilePaths.h"
+#include "profiles/RequestNames.h"
 
 #include <string>
 #include <vector>
 
 namespace {
 
-int32_t ask(const char *request, const char *marker, const std::vector<std::string> &arguments)
+int32_t ask(std::string_view request, const std::vector<std::string> &arguments)
 {
     const auto answer = bv::runHelper(request, arguments);
-    if (bv::answerHolds(answer, marker))
+    if (bv::answerIsTrue(answer, request))
         return 1;
     if (answer)
         bv::diagnosticLine(bv::formatLog("%@: the helper says no", {request}));
@@ -24,17 +25,14 @@ int32_t ask(const char *request, const char *marker, const std::vector<std::stri
 
 int32_t BVPListIsAdminProfile()
 {
-    return bv::withoutThrowing(0, [] {
-        return ask("bvPListIsAdminProfile_XPC", "bvPListIsAdminProfile_XPC=TRUE", {bv::profilePaths().current});
-    });
+    return bv::withoutThrowing(0, [] { return ask(bv::kIsAdminRequest, {bv::profilePaths().current}); });
 }
 
 int32_t BVPListExistProfile()
 {
     if (BVPListIsAdminProfile() == 0)
         return 0;
-    return bv::withoutThrowing(
-        0, [] { return ask("bvPListExistProfile_XPC", "bvPListExistProfile_XPC=TRUE", {bv::profilePaths().current}); });
+    return bv::withoutThrowing(0, [] { return ask(bv::kExistRequest, {bv::profilePaths().current}); });
 }
 
 int32_t BVPListRemove(int32_t which)
@@ -43,7 +41,7 @@ int32_t BVPListRemove(int32_t which)
         return 0;
     return bv::withoutThrowing(0, [&] {
         const bv::ProfilePaths paths = bv::profilePaths();
-        return ask("bvPListRemove_XPC", "bvPListRemove_XPC=TRUE", {which == 3 ? paths.current : paths.previous});
+        return ask(bv::kRemoveRequest, {which == 3 ? paths.current : paths.previous});
     });
 }
 
@@ -54,7 +52,7 @@ void BVPListSwapProfile(int32_t code)
     bv::withoutThrowing(0, [&] {
         const bv::ProfilePaths paths = bv::profilePaths();
         const std::vector<std::string> arguments = {std::to_string(code), paths.current, paths.previous};
-        bv::runHelper("bvPListSwapProfile_XPC", arguments); // the answer is read and not examined
+        bv::runHelper(bv::kSwapRequest, arguments); // the answer is read and not examined
         return 0;
     });
 }

@@ -99,17 +99,32 @@ TEST_F(WalkRequest, RootWalksForAnotherUser)
     EXPECT_EQ(names(), "daemon-QL70-profile.plist");
 }
 
-TEST_F(WalkRequest, WithoutALibraryTheWalkIsRefused)
+TEST_F(WalkRequest, TheWalkIsTheProgramBesideTheHelperAndNoOther)
 {
-    // Something else under a library's name, found first.
-    for (const char *library : {BV_SNMP_LIBRARY, BV_PLIST_LIBRARY}) {
-        RunOptions options = privateSettings();
-        const std::filesystem::path folder = real("/lib") / std::filesystem::path(library).stem();
-        std::filesystem::create_directories(folder);
-        std::ofstream(folder / library) << "no library";
-        options.environment["LD_LIBRARY_PATH"] = folder.string();
-        EXPECT_TRUE(answers(false, request("127.0.0.1"), options)) << library;
-    }
+    const std::filesystem::path folder = real("/helpers");
+    const std::filesystem::path elsewhere = real("/elsewhere");
+    for (const auto &made : {folder, elsewhere})
+        std::filesystem::create_directories(made);
+    std::filesystem::copy_file(BV_BUILD_DIR "/bin/QL70Helper", folder / "QL70Helper");
+    std::ofstream(elsewhere / "QL70Walk") << "#!/bin/sh\necho another\n";
+    std::filesystem::permissions(elsewhere / "QL70Walk", std::filesystem::perms::all);
+    RunOptions options = privateSettings();
+    options.program = folder / "QL70Helper";
+    options.environment["PATH"] = elsewhere;
+    EXPECT_TRUE(answers(false, request("127.0.0.1"), options));
+    EXPECT_EQ(names(), "");
+
+    std::filesystem::copy_file(BV_BUILD_DIR "/bin/QL70Walk", folder / "QL70Walk");
+    EXPECT_EQ(run(request("no-such-host.invalid"), options).output, "mibwalk_XPC=iRet=1\n");
+}
+
+TEST_F(WalkRequest, TheWalkItselfKnowsNoOtherRequestAndNoOtherWords)
+{
+    RunOptions options = privateSettings();
+    options.program = BV_BUILD_DIR "/bin/QL70Walk";
+    Arguments wrong = request("-h");
+    EXPECT_EQ(run(wrong, options).output, "mibwalk_XPC=FALSE\n");
+    EXPECT_EQ(run({kAdmin, current()}, options).output, std::string(kAdmin) + "=FALSE\n");
     EXPECT_EQ(names(), "");
 }
 

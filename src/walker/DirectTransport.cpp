@@ -1,7 +1,8 @@
 // Answers the list requests of code that runs inside the helper, without a further process.
-#include "helper/DirectTransport.h"
+#include "walker/DirectTransport.h"
 
 #include "helper/RequestTable.h"
+#include "profiles/RequestNames.h"
 
 #include <vector>
 
