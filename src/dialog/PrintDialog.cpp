@@ -85,7 +85,8 @@ void PrintDialog::connectParts()
     connect(m_parts->queues, &QueueList::queueChosen, this, &PrintDialog::chooseQueue);
     connect(&m_stepTimer, &QTimer::timeout, this, [this] {
         repaint();
-        (this->*m_step)();
+        const Step step = m_step;
+        (this->*step)();
     });
     connect(m_parts->documents, &DocumentList::documentsChanged, this, &PrintDialog::updateReadiness);
     connect(m_parts->documents, &DocumentList::refused, this, &PrintDialog::say);
