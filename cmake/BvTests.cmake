@@ -31,7 +31,7 @@ function(bv_add_test name)
   set(labels ${CMAKE_CURRENT_BINARY_DIR}/${name}_labels.cmake)
   file(CONFIGURE OUTPUT ${labels} @ONLY CONTENT [==[
 foreach(case IN LISTS @name@_TESTS)
-  set(labels "@room@;@ARG_LABELS@")
+  set(labels @room@ @ARG_LABELS@)
   if(NOT "@ARG_ROOT@" STREQUAL "" AND case MATCHES "@ARG_ROOT@")
     list(APPEND labels root)
   endif()
