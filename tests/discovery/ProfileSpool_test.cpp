@@ -67,6 +67,8 @@ TEST_F(ProfileSpool, ATextOf32BytesFillsTheFieldAndNothingMore)
     EXPECT_EQ(row(1).Location, 0);
     EXPECT_EQ(row(1).ProfileClass, 3);
     spool(cell(4, {1, 1}), std::string("AB"));
+    spool(cell(3, {1, 2}), std::string("D\0E", 3));
+    EXPECT_EQ(bv::fieldText(row(2).ProfileName), "D") << "cut at a zero byte";
     EXPECT_EQ(raw(row(1).FileName), "AB" + std::string(30, 'y')) << "a shorter text leaves the old tail";
 }
 

@@ -1,97 +1,126 @@
-// The walk against the simulated printer with every fault, the stock SNMP daemon, and an agent on another SNMP stack.
+// The walk against the simulated printer with every fault, and against an agent on another SNMP stack.
 #include "support/ProgramUnderTest.h"
 
-#include "platform/ChildProcess.h"
+#include "discovery/ProfileSpool.h"
+#include "discovery/ProfileWalk.h"
+#include "discovery/SnmpEnvironment.h"
 #include "simulator/Fault.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <array>
 #include <cstdlib>
+#include <cstring>
 #include <memory>
-#include <ostream>
 #include <set>
-#include <sstream>
+
+#include <sys/mman.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
 
 using bvtest::ProgramUnderTest;
 using bvtest::ScratchFolder;
+using std::chrono::milliseconds;
 using testing::ElementsAre;
-using testing::StartsWith;
 
-constexpr char kSimulator[] = BV_BUILD_DIR "/bin/ql70sim";
-constexpr char kProbe[] = BV_BUILD_DIR "/tests/walk_probe";
-
-struct Walked
+struct Walks
 {
-    std::vector<int> statuses;
-    int count = -1;
-    int numprinted = -1;
-    std::string message;
-    std::vector<std::string> rows; // as the probe prints them, texts in plain
-    std::string printed;           // what the walk itself printed
+    std::vector<std::string> hosts;        // one walk each
+    std::vector<std::string> options = {}; // in front of the host
+    std::string community = "mirror";
+    std::string root = "1.3.6.1.4.1.39847.1.1.1.1.6.13.1.1";
+    bv::WalkLimits limits = {};
 };
 
-std::string plain(const std::string &hex)
+// What the walks of a process left there.
+struct Walked
 {
-    std::string text;
-    for (size_t i = 0; i + 1 < hex.size(); i += 2)
-        text += static_cast<char>(std::stoi(hex.substr(i, 2), nullptr, 16));
-    return text;
-}
+    std::array<int32_t, 3> statuses;
+    int32_t variables;
+    char message[sizeof(sDEBUGmsg)];
+    ProfileList spool;
 
-Walked parse(const std::string &output)
+    std::string row(int number) const
+    {
+        const ProfileRecord &record = spool.records[number - 1];
+        std::string text;
+        for (const int32_t field :
+             {record.IndexOnDevice, record.InMenu, record.Location, record.ProfileClass, record.Availability})
+            text += std::to_string(field) + ' ';
+        return text.append(bv::fieldText(record.FileName)).append("|").append(bv::fieldText(record.ProfileName));
+    }
+};
+
+// A process of its own for walks: the library and the walk keep things for as long as a process lives.
+class Walker
 {
-    Walked walked;
-    std::istringstream lines(output);
-    for (std::string line; std::getline(lines, line);) {
-        std::istringstream words(line);
-        std::string first;
-        words >> first;
-        if (first == "status") {
-            words >> walked.statuses.emplace_back();
-        } else if (first == "count") {
-            words >> walked.count;
-        } else if (first == "numprinted") {
-            words >> walked.numprinted;
-        } else if (first == "message") {
-            std::string hex;
-            words >> hex;
-            walked.message = plain(hex);
-        } else if (first == "row") {
-            std::string row;
-            for (std::string word; words >> word;)
-                row += (row.empty() ? "" : " ") + (word.ends_with('.') ? '"' + plain(word) + '"' : word);
-            walked.rows.push_back(row);
-        } else {
-            walked.printed += line + '\n';
+public:
+    explicit Walker(const Walks &walks)
+        : m_walked(static_cast<Walked *>(
+              mmap(nullptr, sizeof(Walked), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0)))
+    {
+        m_pid = fork();
+        if (m_pid == 0) {
+            run(walks);
+            _exit(0);
         }
     }
-    return walked;
+    Walker(const Walker &) = delete;
+    Walker &operator=(const Walker &) = delete;
+    ~Walker() { munmap(m_walked, sizeof(Walked)); }
+
+    // Waits for the end.
+    Walked result() const
+    {
+        int status = -1;
+        EXPECT_EQ(waitpid(m_pid, &status, 0), m_pid);
+        EXPECT_EQ(status, 0);
+        return *m_walked;
+    }
+
+private:
+    void run(const Walks &walks) const
+    {
+        for (size_t walk = 0; walk < walks.hosts.size(); ++walk) {
+            std::vector<std::string> words = {"snmpwalk", "-Os", "-c", walks.community, "-v", "1"};
+            words.insert(words.end(), walks.options.begin(), walks.options.end());
+            words.insert(words.end(), {walks.hosts[walk], walks.root});
+            std::vector<char *> vector;
+            for (std::string &word : words)
+                vector.push_back(word.data());
+            vector.push_back(nullptr);
+            m_walked->statuses[walk] =
+                bv::walkProfileTable(static_cast<int32_t>(words.size()), vector.data(), walks.limits);
+        }
+        m_walked->variables = numprinted;
+        std::memcpy(m_walked->message, sDEBUGmsg, sizeof(sDEBUGmsg));
+        m_walked->spool = PlistForSpool;
+    }
+
+    Walked *m_walked;
+    pid_t m_pid;
+};
+
+Walked walked(const Walks &walks)
+{
+    return Walker(walks).result();
 }
 
 class ProfileWalk : public testing::Test
 {
 protected:
     // One time-out of one second where an agent does not answer, and nothing from the machine's own configuration.
+    // There is no helper in this root, so no list is written.
     ProfileWalk()
     {
         m_folder.write("snmp.conf", "timeout 1\nretries 0\n");
         setenv("SNMPCONFPATH", m_folder.path().c_str(), 1);
         setenv("BVCO_ROOT", m_folder.path().c_str(), 1);
     }
-
-    static Walked walk(std::vector<std::string> arguments)
-    {
-        const std::optional<bv::ChildResult> result = bv::runChild(kProbe, arguments);
-        EXPECT_TRUE(result && result->exitCode == 0);
-        return result ? parse(result->output) : Walked{};
-    }
-
-    static std::string at(long port) { return "127.0.0.1:" + std::to_string(port); }
+    ~ProfileWalk() override { unsetenv("BVCO_ROOT"); }
 
     ScratchFolder m_folder;
 };
@@ -99,8 +128,8 @@ protected:
 class Simulator
 {
 public:
-    explicit Simulator(const std::string &fault = {}, const std::string &profiles = {})
-        : m_program(command(fault, profiles))
+    explicit Simulator(const std::string &fault = "", std::vector<std::string> words = {})
+        : m_program(command(fault, std::move(words)))
     {
         EXPECT_TRUE(m_program.waitFor("ready on")) << m_program.output();
         EXPECT_TRUE(m_program.waitFor("\n"));
@@ -114,13 +143,11 @@ public:
     }
 
 private:
-    static std::vector<std::string> command(const std::string &fault, const std::string &profiles)
+    static std::vector<std::string> command(const std::string &fault, std::vector<std::string> words)
     {
-        std::vector<std::string> words = {kSimulator, "--port", "0", "--count"};
+        words.insert(words.begin(), {BV_BUILD_DIR "/bin/ql70sim", "--port", "0", "--count"});
         if (!fault.empty())
             words.insert(words.end(), {"--fault", fault});
-        if (!profiles.empty())
-            words.insert(words.end(), {"--profiles", profiles});
         return words;
     }
 
@@ -131,15 +158,16 @@ TEST_F(ProfileWalk, BringsEveryKeptColumnOfEveryRow)
 {
     const std::string list = m_folder.write("list", "11 disk ONE.ICC \"Profile one\" 1 1\n"
                                                     "12 card TWO.ICC \"Profil \\xc3\\xa9\" 3 0\n");
-    Simulator simulator({}, list);
-    const Walked walked = walk({simulator.host()});
-    EXPECT_THAT(walked.statuses, ElementsAre(0));
-    EXPECT_EQ(walked.count, 2);
-    EXPECT_EQ(walked.numprinted, 14) << "column 6 counts as a variable of the table";
-    EXPECT_EQ(walked.message, "");
-    EXPECT_EQ(walked.printed, "");
-    EXPECT_THAT(walked.rows,
-                ElementsAre("1 11 0 4 1 1 \"ONE.ICC\" \"Profile one\"", "2 12 0 5 3 0 \"TWO.ICC\" \"Profil é\""));
+    Simulator simulator("", {"--profiles", list});
+    testing::internal::CaptureStdout();
+    const Walked left = walked({.hosts = {simulator.host()}});
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+    EXPECT_EQ(left.statuses[0], 0);
+    EXPECT_EQ(left.spool.count, 2);
+    EXPECT_EQ(left.variables, 14) << "column 6 counts as a variable of the table";
+    EXPECT_STREQ(left.message, "");
+    EXPECT_EQ(left.row(1), "11 0 4 1 1 ONE.ICC|Profile one");
+    EXPECT_EQ(left.row(2), "12 0 5 3 0 TWO.ICC|Profil é");
     EXPECT_EQ(simulator.requests(), 15);
 }
 
@@ -148,7 +176,7 @@ struct FaultCase
     const char *fault;
     int status;
     int count;
-    int numprinted;
+    int variables;
     int requests;
     const char *message;
 };
@@ -164,7 +192,6 @@ constexpr FaultCase kFaultCases[] = {
     {"cycle",             1, 8,   50,    50,    kOrder},
     {"no-variables",      0, 7,   25,    26,    ""},
     {"endless",           1, 500, 20000, 20000, ""},
-    {"silent",            1, 0,   0,     1,     ""},
     {"dies",              1, 7,   25,    -1,    ""},
     {"wrong-types",       0, 4,   49,    50,    ""},
     {"rows-out-of-range", 0, 7,   91,    92,    ""},
@@ -176,179 +203,131 @@ constexpr FaultCase kFaultCases[] = {
 };
 // clang-format on
 
-void PrintTo(const FaultCase &row, std::ostream *out)
+TEST_F(ProfileWalk, EndsAsItShouldWithEveryFault)
 {
-    *out << row.fault;
-}
-
-class ProfileWalkFault : public ProfileWalk, public testing::WithParamInterface<FaultCase>
-{};
-
-TEST_P(ProfileWalkFault, EndsAsItShould)
-{
-    const FaultCase &expected = GetParam();
-    Simulator simulator(expected.fault);
-    const Walked walked = walk({simulator.host()});
-    EXPECT_THAT(walked.statuses, ElementsAre(expected.status));
-    EXPECT_EQ(walked.count, expected.count);
-    EXPECT_EQ(walked.numprinted, expected.numprinted);
-    EXPECT_EQ(walked.message, expected.message);
-    EXPECT_EQ(walked.printed, "");
-    if (expected.requests >= 0) {
-        EXPECT_EQ(simulator.requests(), expected.requests);
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(Each, ProfileWalkFault, testing::ValuesIn(kFaultCases), [](const auto &info) {
-    std::string name = info.param.fault;
-    std::replace(name.begin(), name.end(), '-', '_');
-    return name;
-});
-
-TEST_F(ProfileWalk, EveryFaultOfTheSimulatorIsTried)
-{
-    std::set<std::string> tried = {"slow"}; // in a test of its own
-    for (const FaultCase &row : kFaultCases)
+    // All at once, since some wait a second for an answer.
+    std::vector<std::unique_ptr<Simulator>> printers;
+    std::vector<std::unique_ptr<Walker>> walkers;
+    std::set<std::string> tried = {"silent", "slow"}; // in tests of their own
+    for (const FaultCase &row : kFaultCases) {
         tried.insert(row.fault);
+        printers.push_back(std::make_unique<Simulator>(row.fault));
+        walkers.push_back(std::make_unique<Walker>(Walks{.hosts = {printers.back()->host()}}));
+    }
+    for (size_t i = 0; i < walkers.size(); ++i) {
+        const FaultCase &expected = kFaultCases[i];
+        SCOPED_TRACE(expected.fault);
+        const Walked left = walkers[i]->result();
+        EXPECT_EQ(left.statuses[0], expected.status);
+        EXPECT_EQ(left.spool.count, expected.count);
+        EXPECT_EQ(left.variables, expected.variables);
+        EXPECT_STREQ(left.message, expected.message);
+        if (expected.requests >= 0) {
+            EXPECT_EQ(printers[i]->requests(), expected.requests);
+        }
+    }
     for (const sim::Fault &fault : sim::faults())
         EXPECT_TRUE(tried.contains(fault.name)) << fault.name;
-}
-
-TEST_F(ProfileWalk, CutsTextsAtTheFieldAndAtAZeroByte)
-{
-    Simulator simulator("odd-texts");
-    std::vector<std::string> names;
-    for (const std::string &row : walk({simulator.host()}).rows)
-        names.push_back(row.substr(row.find('"'), row.rfind(" \"") - row.find('"')));
-    EXPECT_THAT(names, ElementsAre('"' + std::string(32, 'A') + '"', '"' + std::string(32, 'B') + '"',
-                                   '"' + std::string(32, 'C') + '"', "\"D\"", "\"F\x01\x1b\n.IC\"", "\"\xff\xfe.ICC\"",
-                                   "\"\"", "\"G%s%n.ICC\""));
-}
-
-TEST_F(ProfileWalk, IgnoresRowsThatHaveNoSlot)
-{
-    Simulator simulator("rows-out-of-range");
-    const Walked walked = walk({simulator.host()});
-    ASSERT_EQ(walked.rows.size(), 7U);
-    EXPECT_THAT(walked.rows.back(), StartsWith("7 7 0 5 "));
 }
 
 TEST_F(ProfileWalk, ASlowPrinterIsLeftAfterTheTimeLimit)
 {
     Simulator simulator("slow");
-    const Walked walked = walk({"--milliseconds", "350", simulator.host()});
-    EXPECT_THAT(walked.statuses, ElementsAre(1));
+    EXPECT_EQ(walked({.hosts = {simulator.host()}, .limits = {.time = milliseconds(350)}}).statuses[0], 1);
     EXPECT_LE(simulator.requests(), 4);
 }
 
-TEST_F(ProfileWalk, ALastRequestGetsNoMoreTimeThanIsLeft)
+TEST_F(ProfileWalk, TheTriesOfARequestFitIntoTheTimeThatIsLeft)
 {
     // With ten minutes for each try only the limit can end this within the test's own limit.
     m_folder.write("snmp.conf", "timeout 600\nretries 5\n");
-    Simulator simulator("silent");
-    EXPECT_THAT(walk({"--milliseconds", "100", simulator.host()}).statuses, ElementsAre(1));
-    EXPECT_EQ(simulator.requests(), 1);
+    Simulator once("silent");
+    EXPECT_EQ(walked({.hosts = {once.host()}, .limits = {.time = milliseconds(100)}}).statuses[0], 1);
+    EXPECT_EQ(once.requests(), 1);
+    Simulator twice("silent");
+    EXPECT_EQ(
+        walked({.hosts = {twice.host()}, .options = {"-t", "0.2"}, .limits = {.time = milliseconds(500)}}).statuses[0],
+        1);
+    EXPECT_EQ(twice.requests(), 2);
 }
 
 TEST_F(ProfileWalk, TheNumberOfVariablesOutlivesAWalk)
 {
     Simulator full;
     Simulator empty("no-such-name");
-    const Walked walked = walk({empty.host(), full.host(), empty.host()});
-    EXPECT_THAT(walked.statuses, ElementsAre(0, 0, 0));
-    EXPECT_EQ(walked.numprinted, 49);
-    EXPECT_EQ(walked.count, 0) << "the spool is a new one for each walk";
+    const Walked left = walked({.hosts = {empty.host(), full.host(), empty.host()}});
+    EXPECT_THAT(left.statuses, ElementsAre(0, 0, 0));
+    EXPECT_EQ(left.variables, 49);
+    EXPECT_EQ(left.spool.count, 0) << "the spool is a new one for each walk";
     EXPECT_EQ(empty.requests(), 3) << "the first walk asks for the root itself, the third no more";
 }
 
 TEST_F(ProfileWalk, OptionsChangeTheWalk)
 {
     Simulator again("same-again");
-    const Walked unchecked = walk({"--answers", "100", "--word", "-Cc", again.host()});
-    EXPECT_THAT(unchecked.statuses, ElementsAre(1));
-    EXPECT_EQ(unchecked.message, "") << "the order is not checked; the number of answers ends the walk";
+    const Walked unchecked = walked({.hosts = {again.host()}, .options = {"-Cc"}, .limits = {.answers = 100}});
+    EXPECT_EQ(unchecked.statuses[0], 1);
+    EXPECT_STREQ(unchecked.message, "") << "the order is not checked; the number of answers ends the walk";
     EXPECT_EQ(again.requests(), 100);
 
     Simulator included;
-    EXPECT_THAT(walk({"--word", "-Cip", included.host()}).statuses, ElementsAre(0));
+    EXPECT_EQ(walked({.hosts = {included.host()}, .options = {"-Cip"}}).statuses[0], 0);
     EXPECT_EQ(included.requests(), 51) << "the root is asked for first";
 
     Simulator unknown;
-    const Walked walked = walk({"--word", "-Cxc", unknown.host()});
-    EXPECT_THAT(walked.statuses, ElementsAre(0));
-    EXPECT_EQ(walked.message, "Unknown flag passed to -C: x\n");
+    const Walked left = walked({.hosts = {unknown.host()}, .options = {"-Cxc"}});
+    EXPECT_EQ(left.statuses[0], 0);
+    EXPECT_STREQ(left.message, "Unknown flag passed to -C: x\n");
 }
 
 TEST_F(ProfileWalk, TheRootsOwnValueIsPrintedWhenNothingLiesBelowIt)
 {
     Simulator simulator("neighbour");
-    const Walked walked = walk({"--root", "1.3.6.1.4.1.39847.1.1.1.1.6.14.0", simulator.host()});
-    EXPECT_THAT(walked.statuses, ElementsAre(0));
-    EXPECT_EQ(walked.numprinted, 1);
-    EXPECT_THAT(walked.printed, testing::HasSubstr("STRING: \"QL70\""));
+    testing::internal::CaptureStdout();
+    const Walked left = walked({.hosts = {simulator.host()}, .root = "1.3.6.1.4.1.39847.1.1.1.1.6.14.0"});
+    EXPECT_THAT(testing::internal::GetCapturedStdout(), testing::HasSubstr("STRING: \"QL70\""));
+    EXPECT_EQ(left.statuses[0], 0);
+    EXPECT_EQ(left.variables, 1);
 }
 
 TEST_F(ProfileWalk, WordsAndHostsThatDoNotWork)
 {
-    EXPECT_THAT(walk({"--root", "no such object", "127.0.0.1"}).statuses, ElementsAre(1));
-    EXPECT_THAT(walk({"--word", "-v9", "127.0.0.1"}).statuses, ElementsAre(testing::Lt(0)));
+    EXPECT_EQ(walked({.hosts = {"127.0.0.1"}, .root = "no such object"}).statuses[0], 1);
+    EXPECT_LT(walked({.hosts = {"127.0.0.1"}, .options = {"-v9"}}).statuses[0], 0);
     // A label of a host name has at most 63 bytes (RFC 1035, 2.3.4), so this one is refused before anyone is asked.
-    EXPECT_THAT(walk({std::string(80, 'h')}).statuses, ElementsAre(1));
-    EXPECT_THAT(walk({"[fe80"}).statuses, ElementsAre(1));
+    EXPECT_EQ(walked({.hosts = {std::string(80, 'h')}}).statuses[0], 1);
+    EXPECT_EQ(walked({.hosts = {"[fe80"}}).statuses[0], 1);
 }
 
 TEST_F(ProfileWalk, TheEnvironmentBringsNoMibsAndNoPrefix)
 {
-    const std::string folder = m_folder.path();
-    m_folder.write("mibs/TRAP-MIB", "TRAP-MIB DEFINITIONS ::= BEGIN broken");
     setenv("MIBS", "ALL", 1);
-    setenv("MIBDIRS", (folder + "/mibs").c_str(), 1);
-    setenv("MIBFILES", (folder + "/mibs/TRAP-MIB").c_str(), 1);
+    setenv("MIBDIRS", m_folder.file("mibs").c_str(), 1);
+    setenv("MIBFILES", m_folder.write("mibs/TRAP-MIB", "TRAP-MIB DEFINITIONS ::= BEGIN broken").c_str(), 1);
     setenv("PREFIX", ".1.2.3", 1);
-    setenv("SNMP_PERSISTENT_DIR", (folder + "/persistent").c_str(), 1);
+    setenv("SNMP_PERSISTENT_DIR", m_folder.file("persistent").c_str(), 1);
     Simulator simulator;
-    ProgramUnderTest probe({kProbe, simulator.host()});
-    EXPECT_EQ(probe.wait(), 0);
-    EXPECT_THAT(probe.output(), StartsWith("status 0\ncount 7\n")) << "nothing on standard error either";
-    EXPECT_NE(access((folder + "/persistent").c_str(), F_OK), 0);
+    testing::internal::CaptureStderr();
+    const Walked left = walked({.hosts = {simulator.host()}});
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_EQ(left.statuses[0], 0);
+    EXPECT_EQ(left.spool.count, 7);
+    EXPECT_NE(access(m_folder.file("persistent").c_str(), F_OK), 0);
+
+    bv::prepareSnmpEnvironment(); // in this process, where it can be looked at
+    for (const char *name : {"MIBFILES", "PREFIX", "SNMP_PERSISTENT_FILE"})
+        EXPECT_EQ(getenv(name), nullptr) << name;
+    EXPECT_EQ(getenv("SNMPCONFPATH"), m_folder.path()) << "the caller's own settings stay";
 }
 
-// ---- Agents of other makers ----
-
-TEST_F(ProfileWalk, ReadsTheTableOfTheStockDaemon)
-{
-    std::unique_ptr<ProgramUnderTest> daemon;
-    int port = 0;
-    // Another process may take the port between the choice and the start.
-    for (int attempt = 0; attempt < 5 && !daemon; ++attempt) {
-        port = bvtest::freeUdpPort();
-        const std::string configuration =
-            m_folder.write("snmpd/snmpd.conf", "agentAddress udp:" + at(port) +
-                                                   "\nrocommunity mirror 127.0.0.1\n"
-                                                   "pass_persist .1.3.6.1.4.1.39847.1.1.1.1.6.13.1.1 " BV_SOURCE_DIR
-                                                   "/tests/support/pass_table.py\n");
-        setenv("SNMP_PERSISTENT_DIR", m_folder.file("snmpd").c_str(), 1);
-        setenv("MIBS", "", 1);
-        daemon = std::make_unique<ProgramUnderTest>(std::vector<std::string>{"/usr/sbin/snmpd", "-f", "-Lo", "-C", "-c",
-                                                                             configuration, "-I", "-smux,hr_print"});
-        if (!daemon->waitFor("NET-SNMP version"))
-            daemon.reset();
-    }
-    ASSERT_TRUE(daemon);
-    const Walked walked = walk({at(port)});
-    EXPECT_THAT(walked.statuses, ElementsAre(0));
-    EXPECT_THAT(walked.rows,
-                ElementsAre("1 1 0 4 1 1 \"OFFICE.ICC\" \"Office RGB\"", "2 2 0 5 3 1 \"PROOF.ICC\" \"Card Proof\""));
-    EXPECT_EQ(walked.numprinted, 14);
-    daemon->stop();
-}
+// ---- An agent of another maker ----
 
 struct ReplyCase
 {
     const char *mode;
     int status;
     int count;
-    int numprinted;
+    int variables;
     int requests;
 };
 
@@ -366,38 +345,28 @@ constexpr ReplyCase kReplyCases[] = {
 };
 // clang-format on
 
-void PrintTo(const ReplyCase &row, std::ostream *out)
+TEST_F(ProfileWalk, TakesOrLeavesEveryReplyOfAnotherAgent)
 {
-    *out << row.mode;
-}
-
-class ProfileWalkReply : public ProfileWalk, public testing::WithParamInterface<ReplyCase>
-{};
-
-TEST_P(ProfileWalkReply, IsTakenOrLeft)
-{
-    const ReplyCase &expected = GetParam();
-    ProgramUnderTest agent({"/usr/bin/python3", BV_SOURCE_DIR "/tests/support/pysnmp_agent.py", expected.mode});
+    ProgramUnderTest agent({"/usr/bin/python3", BV_SOURCE_DIR "/tests/support/pysnmp_agent.py"});
     ASSERT_TRUE(agent.waitFor("ready ") && agent.waitFor("\n")) << agent.output();
-    const Walked walked = walk({at(agent.numberBehind("ready "))});
-    EXPECT_THAT(walked.statuses, ElementsAre(expected.status));
-    EXPECT_EQ(walked.count, expected.count);
-    EXPECT_EQ(walked.numprinted, expected.numprinted);
+    const std::string host = "127.0.0.1:" + std::to_string(agent.numberBehind("ready "));
+    // All at once; the community says how the agent is to behave.
+    std::vector<std::unique_ptr<Walker>> walkers;
+    for (const ReplyCase &row : kReplyCases)
+        walkers.push_back(std::make_unique<Walker>(Walks{.hosts = {host}, .community = row.mode}));
+    std::vector<Walked> left;
+    for (const auto &walker : walkers)
+        left.push_back(walker->result());
     agent.stop();
-    const std::string output = agent.output();
-    int asked = 0;
-    for (size_t i = output.find("asked"); i != std::string::npos; i = output.find("asked", i + 1))
-        ++asked;
-    EXPECT_EQ(asked, expected.requests);
-    if (expected.status == 0) {
-        EXPECT_EQ(walked.rows.front(), "1 11 0 4 1 1 \"ONE.ICC\" \"Première\"");
+    for (size_t i = 0; i < left.size(); ++i) {
+        const ReplyCase &expected = kReplyCases[i];
+        SCOPED_TRACE(expected.mode);
+        EXPECT_EQ(left[i].statuses[0], expected.status);
+        EXPECT_EQ(left[i].spool.count, expected.count);
+        EXPECT_EQ(left[i].variables, expected.variables);
+        EXPECT_EQ(left[i].row(1), expected.status == 0 ? "11 0 4 1 1 ONE.ICC|Première" : "11 0 4 0 0 ONE.ICC|Première");
+        EXPECT_EQ(agent.occurrences("asked " + std::string(expected.mode) + '\n'), expected.requests);
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(Each, ProfileWalkReply, testing::ValuesIn(kReplyCases), [](const auto &info) {
-    std::string name = info.param.mode;
-    std::replace(name.begin(), name.end(), '-', '_');
-    return name;
-});
 
 } // namespace

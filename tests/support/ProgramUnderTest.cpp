@@ -9,12 +9,9 @@
 #include <fstream>
 #include <stdexcept>
 
-#include <arpa/inet.h>
 #include <fcntl.h>
-#include <netinet/in.h>
 #include <poll.h>
 #include <spawn.h>
-#include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -86,6 +83,14 @@ long ProgramUnderTest::numberBehind(std::string_view mark) const
     return at == std::string::npos ? 0 : std::strtol(m_output.c_str() + at + mark.size(), nullptr, 10);
 }
 
+int ProgramUnderTest::occurrences(std::string_view text) const
+{
+    int number = 0;
+    for (size_t at = m_output.find(text); at != std::string::npos; at = m_output.find(text, at + 1))
+        ++number;
+    return number;
+}
+
 void ProgramUnderTest::signal(int number) const
 {
     if (m_pid > 0)
@@ -138,19 +143,6 @@ std::string ScratchFolder::write(std::string_view name, std::string_view text) c
     std::filesystem::create_directories(std::filesystem::path(path).parent_path());
     std::ofstream(path, std::ios::binary) << text;
     return path;
-}
-
-int freeUdpPort()
-{
-    const int socketDescriptor = socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t length = sizeof(address);
-    bind(socketDescriptor, reinterpret_cast<const sockaddr *>(&address), length);
-    getsockname(socketDescriptor, reinterpret_cast<sockaddr *>(&address), &length);
-    close(socketDescriptor);
-    return ntohs(address.sin_port);
 }
 
 } // namespace bvtest

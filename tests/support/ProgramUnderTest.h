@@ -26,6 +26,9 @@ public:
     // The number behind the last "mark" in the output; 0 when there is none.
     long numberBehind(std::string_view mark) const;
 
+    // How often the text stands in the output.
+    int occurrences(std::string_view text) const;
+
     void signal(int number) const;
     // Whether it still runs, asked without waiting.
     bool running();
@@ -60,8 +63,5 @@ public:
 private:
     std::string m_path;
 };
-
-// A UDP port of the loopback address that is free at this moment.
-int freeUdpPort();
 
 } // namespace bvtest

@@ -1,11 +1,9 @@
 #!/usr/bin/python3
 """An SNMPv1 agent on pysnmp that serves a small profile table, and can send broken replies.
 
-Usage: pysnmp_agent.py MODE
-Prints "ready PORT" when it listens on a free port of 127.0.0.1, and at each request "asked".
+Prints "ready PORT" when it listens on a free port of 127.0.0.1, and "asked COMMUNITY" at each request. The community
+says how it behaves: "plain", or broken in one of the ways below.
 """
-import sys
-
 from pyasn1.codec.ber import decoder, encoder
 from pysnmp.carrier.asyncore.dgram import udp
 from pysnmp.carrier.asyncore.dispatch import AsyncoreDispatcher
@@ -19,7 +17,6 @@ ROWS = [
     (12, 5, b"Zwei", b"TWO.ICC", 2, 200, 1),
     (13, 4, b"Three", b"THREE.ICC", 3, 300, 0),
 ]
-MODE = sys.argv[1] if len(sys.argv) > 1 else "plain"
 
 CELLS = sorted(
     (ENTRY + (column, 1, number), value)
@@ -33,7 +30,7 @@ def as_value(value):
     return V1.OctetString(value) if isinstance(value, bytes) else V1.Integer(value)
 
 
-def bindings(request):
+def bindings(request, mode):
     """The answer's variables, or None for noSuchName."""
     pdu = V1.apiMessage.getPDU(request)
     asked = tuple(V1.apiPDU.getVarBinds(pdu)[0][0])
@@ -41,50 +38,49 @@ def bindings(request):
     for number, (name, value) in enumerate(CELLS):
         if name == asked and not following or name > asked and following:
             found = [(V1.ObjectIdentifier(name), as_value(value))]
-            if MODE == "extra-variables" and following and number + 1 < len(CELLS):
+            if mode == "extra-variables" and following and number + 1 < len(CELLS):
                 # Two cells in one answer, as if two had been asked for.
                 found.append((V1.ObjectIdentifier(CELLS[number + 1][0]), as_value(CELLS[number + 1][1])))
-            if MODE == "stray-variable" and number == MIDDLE:
+            if mode == "stray-variable" and number == MIDDLE:
                 # Something from elsewhere in front of the cell.
                 found.insert(0, (V1.ObjectIdentifier((1, 3, 6, 1, 2, 1, 1, 1, 0)), V1.OctetString(b"stray")))
             return found, number
     return None, len(CELLS)
 
 
-def broken(message, number):
+def broken(message, number, mode):
     """The bytes that go out for an answer, or None for silence."""
     if number < MIDDLE:
         return message
-    if MODE == "cut":
+    if mode == "cut":
         return message[: len(message) // 2]
-    if MODE == "garbage":
+    if mode == "garbage":
         return b"\x30\x84\xff\xff\xff\xff" + bytes(range(200))
-    if MODE == "long-length":
+    if mode == "long-length":
         # The community claims to be longer than the message.
         return message[:6] + b"\x7f" + message[7:]
-    if MODE == "empty":
+    if mode == "empty":
         return b""
     return message
 
 
 def answer(dispatcher, domain, address, whole):
     while whole:
-        print("asked", flush=True)
         request, whole = decoder.decode(whole, asn1Spec=V1.Message())
-        if bytes(V1.apiMessage.getCommunity(request)) != b"mirror":
-            continue
+        mode = bytes(V1.apiMessage.getCommunity(request)).decode()
+        print("asked", mode, flush=True)
         response = V1.apiMessage.getResponse(request)
         pdu = V1.apiMessage.getPDU(response)
-        found, number = bindings(request)
+        found, number = bindings(request, mode)
         if found is None:
             V1.apiPDU.setVarBinds(pdu, V1.apiPDU.getVarBinds(V1.apiMessage.getPDU(request)))
             V1.apiPDU.setErrorStatus(pdu, 2)
             V1.apiPDU.setErrorIndex(pdu, 1)
         else:
             V1.apiPDU.setVarBinds(pdu, found)
-        if MODE == "wrong-id" and number >= MIDDLE:
+        if mode == "wrong-id" and number >= MIDDLE:
             V1.apiPDU.setRequestID(pdu, int(V1.apiPDU.getRequestID(pdu)) ^ 0x55)
-        dispatcher.sendMessage(broken(encoder.encode(response), number), domain, address)
+        dispatcher.sendMessage(broken(encoder.encode(response), number, mode), domain, address)
     return whole
 
 
