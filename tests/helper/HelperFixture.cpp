@@ -14,6 +14,7 @@
 #include <pwd.h>
 #include <sstream>
 #include <sys/prctl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -37,6 +38,12 @@ std::string ownLogin()
 {
     dup2(output[0], STDOUT_FILENO);
     dup2(output[1], STDERR_FILENO);
+    for (int descriptor = 0; options.withoutStandardStreams && descriptor <= STDERR_FILENO; ++descriptor)
+        close(descriptor);
+    if (options.fileSizeLimit) {
+        const rlimit limit = {*options.fileSizeLimit, *options.fileSizeLimit};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
     if (options.user && (setgroups(1, &kSharedGroup) != 0 || setgid(kSharedGroup) != 0 || setuid(*options.user) != 0))
         _exit(99);
     setenv("BVCO_ROOT", root.c_str(), 1);
@@ -73,6 +80,7 @@ void collect(std::array<int, 2> descriptors, RunResult *result)
 
 HelperTest::HelperTest() : m_isRoot(getuid() == 0), m_login(ownLogin())
 {
+    umask(022);
     std::string pattern = ::testing::TempDir() + "bvhelperXXXXXX";
     m_root = mkdtemp(pattern.data());
     std::filesystem::create_directories(folder());
@@ -100,10 +108,6 @@ RunResult HelperTest::run(const std::vector<std::string> &arguments, const RunOp
         becomeHelper(arguments, options, m_root, {output[1], errors[1]});
     close(output[1]);
     close(errors[1]);
-    if (options.killAfterMicroseconds) {
-        usleep(static_cast<useconds_t>(*options.killAfterMicroseconds));
-        kill(child, SIGKILL);
-    }
     RunResult result;
     collect({output[0], errors[0]}, &result);
     close(output[0]);
@@ -127,6 +131,39 @@ RunResult HelperTest::run(const std::vector<std::string> &arguments, const RunOp
 bool HelperTest::answersElsewhere(bool expected, const std::vector<std::string> &arguments) const
 {
     return inAnotherProcess([&] { return static_cast<bool>(answers(expected, arguments)); });
+}
+
+RunOptions HelperTest::with(const std::string &fault)
+{
+    RunOptions options;
+    options.environment = {{"LD_PRELOAD", BV_BUILD_DIR "/tests/bvfault.so"},
+                           {"FAULT", fault},
+                           {"ASAN_OPTIONS", "verify_asan_link_order=0:detect_leaks=0"}};
+    return options;
+}
+
+std::vector<std::string> HelperTest::walkRequest(const std::string &host) const
+{
+    return {"mibwalk_XPC",
+            "QL70",
+            m_login,
+            "snmpwalk",
+            "-Os",
+            "-c",
+            "mirror",
+            "-v",
+            "1",
+            host,
+            "1.3.6.1.4.1.39847.1.1.1.1.6.13.1.1"};
+}
+
+RunOptions HelperTest::walkSettings() const
+{
+    std::filesystem::create_directories(real("/snmp"));
+    put("/snmp/snmp.conf", "defaultPort 9\nretries 0\ntimeout 1\n");
+    RunOptions options;
+    options.environment = {{"SNMPCONFPATH", real("/snmp")}, {"SNMP_PERSISTENT_DIR", real("/snmp")}};
+    return options;
 }
 
 bool HelperTest::writeList(const std::string &text, const RunOptions &options, size_t pieceBytes) const

@@ -25,7 +25,8 @@ struct RunOptions
     std::map<std::string, std::string> environment; // beside BVCO_ROOT
     std::optional<uid_t> user;                      // another real user (root only), in the fixture's group
     std::string program;                            // another one than the built helper
-    std::optional<int> killAfterMicroseconds;
+    std::optional<size_t> fileSizeLimit;            // in bytes, see setrlimit(2)
+    bool withoutStandardStreams = false;            // descriptors 0 to 2 are closed, so no output is seen
 };
 
 struct RunResult
@@ -48,6 +49,11 @@ protected:
                                        const RunOptions &options = {}) const;
     // The same question, asked by another process that is gone afterwards.
     bool answersElsewhere(bool expected, const std::vector<std::string> &arguments) const;
+    // What the fault library and the sanitizers need to get along; see FaultInjection.cpp for the words of a fault.
+    static RunOptions with(const std::string &fault);
+    // The request for a walk, and the SNMP library's settings for it: a host that needs no network does not resolve.
+    std::vector<std::string> walkRequest(const std::string &host = std::string(80, 'h')) const;
+    RunOptions walkSettings() const;
 
     // Sends the text in pieces and commits it; true when every answer was TRUE.
     bool writeList(const std::string &text, const RunOptions &options = {}, size_t pieceBytes = 90000) const;

@@ -1,9 +1,11 @@
 // To whom a sequence of pieces belongs, and what becomes of one that was given up.
+#include "helper/Caller.h"
 #include "helper/HelperFixture.h"
 
 #include <fcntl.h>
 #include <future>
 #include <sys/file.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -23,6 +25,43 @@ TEST_F(Sequences, AnotherProcessCanOnlyTakeOver)
     EXPECT_TRUE(answers(false, {kCommit, url()}));
     EXPECT_EQ(contents(current()), std::nullopt);
     EXPECT_TRUE(writeList(text));
+    EXPECT_EQ(contents(current()), text);
+}
+
+TEST_F(Sequences, AnotherProcessOfTheSameIdIsNotTheOwner)
+{
+    ASSERT_TRUE(answers(true, {kPiece, url(), "<?xml"}));
+    std::string staged = contents(staging()).value_or("");
+    const size_t time = staged.find(' ' + std::to_string(bv::identifyProcess(getpid())->startTime) + ' ');
+    ASSERT_NE(time, std::string::npos) << "the start time is part of the owner";
+    staged[time + 1] = staged[time + 1] == '1' ? '2' : '1';
+    put(staging(), staged);
+    EXPECT_TRUE(answers(false, {kPiece, url(), " "}));
+    EXPECT_TRUE(answers(false, {kCommit, url()}));
+}
+
+TEST_F(Sequences, AProcessIsKnownByTheTimeOfItsStartWhateverItsName)
+{
+    usleep(20000); // two ticks of the clock that start times are counted in
+    EXPECT_TRUE(inAnotherProcess(
+        [parent = bv::identifyProcess(getppid())->startTime, own = bv::identifyProcess(getpid())->startTime] {
+            prctl(PR_SET_NAME, "a) b (c 1 2 3");
+            const uint64_t child = bv::identifyProcess(getpid())->startTime;
+            return parent <= own && own < child && child - own < 100 * 3600;
+        }));
+    EXPECT_FALSE(bv::identifyProcess(0));
+}
+
+TEST_F(Sequences, ALineOfDiagnosticsNeverGetsIntoAText)
+{
+    const std::string text = listText("ours");
+    ASSERT_TRUE(answers(true, {kPiece, url(), text}));
+    EXPECT_TRUE(inAnotherProcess([&] {
+        RunOptions options;
+        options.withoutStandardStreams = true;
+        return run({kCommit, url()}, options).exitCode == 1; // and says why, to whoever has descriptor 2
+    }));
+    EXPECT_TRUE(answers(true, {kCommit, url()}));
     EXPECT_EQ(contents(current()), text);
 }
 
@@ -48,6 +87,21 @@ TEST_F(Sequences, AWriterWaitsUntilTheOtherOneIsDone)
     close(lock);
     EXPECT_TRUE(waiting.get());
     EXPECT_EQ(contents(current()), listText("waiting"));
+}
+
+TEST_F(Sequences, NobodyWaitsLongerThanTenSeconds)
+{
+    const int lock = open(folder().c_str(), O_RDONLY | O_CLOEXEC);
+    ASSERT_EQ(flock(lock, LOCK_EX), 0);
+    RunOptions options = with("none:0:NONE");
+    options.environment["FAULT_CLOCK"] = "1";
+    options.environment["FAULT_LOG"] = real("/calls");
+    EXPECT_TRUE(answers(false, {kPiece, url(), listText("late")}, options));
+    close(lock);
+    // Each try is one line "flock", and 5 ms on the clock of the waiting process.
+    const size_t tries = contents("/calls").value_or("").size() / 6;
+    EXPECT_LE(tries, 2001U);
+    EXPECT_GE(tries, 1500U);
 }
 
 TEST_F(Sequences, WritersAtOnceNeverMixTheirTexts)

@@ -1,6 +1,7 @@
 // Two real users of one group, and root, in one folder. Needs root: only root can become another user.
 #include "helper/HelperFixture.h"
 
+#include <filesystem>
 #include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -28,10 +29,7 @@ protected:
             // The build folder need not be open to everybody.
             user->as.program = m_root + "/QL70Helper";
         }
-        ASSERT_EQ(link(BV_BUILD_DIR "/bin/QL70Helper", m_alice.as.program.c_str()) == 0 ||
-                      symlink(BV_BUILD_DIR "/bin/QL70Helper", m_alice.as.program.c_str()) == 0,
-                  true);
-        ASSERT_EQ(chmod(real("/Library/Printers").c_str(), 0755), 0);
+        placeHelper(m_alice.as.program, 0755);
     }
 
     struct User
@@ -39,6 +37,12 @@ protected:
         std::string login;
         RunOptions as;
     };
+
+    static void placeHelper(const std::string &path, mode_t mode)
+    {
+        std::filesystem::copy_file(BV_BUILD_DIR "/bin/QL70Helper", path);
+        ASSERT_EQ(chmod(path.c_str(), mode), 0);
+    }
 
     bool writes(const User &user, const std::string &login, const std::string &text) const
     {
@@ -120,6 +124,20 @@ TEST_F(Users, RootWritesForAnyUserOfThePasswordDatabase)
     EXPECT_TRUE(answers(false, {kRemove, currentPath(m_alice.login)}));
 }
 
+TEST_F(Users, OnlyTheVeryLoginNameStandsForAUser)
+{
+    RunOptions anyCase = with("none:0:NONE");
+    anyCase.environment["FAULT_LOGINS"] = "1";
+    EXPECT_TRUE(answers(true, {kAdmin, currentPath("daemon")}, anyCase));
+    EXPECT_TRUE(answers(false, {kAdmin, currentPath("Daemon")}, anyCase));
+
+    std::vector<std::string> walk = walkRequest();
+    for (const char *login : {"bin", "daemo", "daemons", "Daemon", ""}) {
+        walk[2] = login;
+        EXPECT_TRUE(answers(false, walk, m_alice.as)) << login;
+    }
+}
+
 TEST_F(Users, WhoIsNotOfTheGroupOrHasNoNameMayNotWrite)
 {
     ASSERT_TRUE(writes(m_superuser, m_alice.login, listText("by root")));
@@ -142,9 +160,7 @@ TEST_F(Users, ASetIdHelperActsWithItsCallersRightsAndWithoutHisEnvironment)
 {
     RunOptions options = m_alice.as;
     options.program = m_root + "/set-id";
-    ASSERT_EQ(std::system(("cp '" BV_BUILD_DIR "/bin/QL70Helper' '" + options.program + "'").c_str()), 0);
-    ASSERT_EQ(chown(options.program.c_str(), 0, 0), 0);
-    ASSERT_EQ(chmod(options.program.c_str(), 06755), 0);
+    placeHelper(options.program, 06755);
     // Without BVCO_ROOT the system's own folder is meant, in which this user may not write.
     EXPECT_TRUE(answers(false, {kAdmin, currentPath(m_alice.login)}, options));
     EXPECT_TRUE(answers(false, {kPiece, url(m_alice.login), listText("x")}, options));

@@ -15,38 +15,11 @@ constexpr size_t kHost = 9;
 
 } // namespace
 
-class WalkRequest : public HelperTest
-{
-protected:
-    Arguments request(const std::string &host) const
-    {
-        return {"mibwalk_XPC",
-                "QL70",
-                m_login,
-                "snmpwalk",
-                "-Os",
-                "-c",
-                "mirror",
-                "-v",
-                "1",
-                host,
-                "1.3.6.1.4.1.39847.1.1.1.1.6.13.1.1"};
-    }
-
-    // The SNMP library's files and settings in the test's own folder.
-    RunOptions privateSettings() const
-    {
-        std::filesystem::create_directories(real("/snmp"));
-        std::ofstream(real("/snmp/snmp.conf")) << "defaultPort 9\nretries 0\ntimeout 1\n";
-        RunOptions options;
-        options.environment = {{"SNMPCONFPATH", real("/snmp")}, {"SNMP_PERSISTENT_DIR", real("/snmp")}};
-        return options;
-    }
-};
+using WalkRequest = HelperTest;
 
 TEST_F(WalkRequest, OtherWordsAreNoRequest)
 {
-    const Arguments right = request("127.0.0.1");
+    const Arguments right = walkRequest("127.0.0.1");
     std::vector<Arguments> wrong;
     for (size_t word = 1; word < right.size(); ++word) {
         if (word == kLogin)
@@ -61,7 +34,7 @@ TEST_F(WalkRequest, OtherWordsAreNoRequest)
     wrong.push_back(right);
     std::swap(wrong.back()[4], wrong.back()[5]);
     for (const Arguments &arguments : wrong) {
-        const RunResult result = run(arguments, privateSettings());
+        const RunResult result = run(arguments, walkSettings());
         EXPECT_EQ(result.output, "mibwalk_XPC=FALSE\n");
         EXPECT_EQ(result.exitCode, 2);
     }
@@ -72,16 +45,16 @@ TEST_F(WalkRequest, OtherWordsAreNoRequest)
 TEST_F(WalkRequest, AnotherLoginNameIsRefused)
 {
     for (const char *login : {"", "no-such-user", "../root", "root\n"}) {
-        Arguments arguments = request("127.0.0.1");
+        Arguments arguments = walkRequest("127.0.0.1");
         arguments[kLogin] = login;
-        EXPECT_TRUE(answers(false, arguments, privateSettings())) << login;
+        EXPECT_TRUE(answers(false, arguments, walkSettings())) << login;
     }
     EXPECT_EQ(names(), "");
 }
 
 TEST_F(WalkRequest, AHostThatDoesNotResolveIsAWalkThatRan)
 {
-    const RunResult result = run(request("no-such-host.invalid"), privateSettings());
+    const RunResult result = run(walkRequest(), walkSettings());
     EXPECT_EQ(result.output, "mibwalk_XPC=iRet=1\n");
     EXPECT_EQ(result.exitCode, 0);
     // The reconciliation wrote an empty list through the same commit.
@@ -89,13 +62,23 @@ TEST_F(WalkRequest, AHostThatDoesNotResolveIsAWalkThatRan)
     EXPECT_TRUE(contents(current()).value_or("").starts_with("<?xml"));
 }
 
+TEST_F(WalkRequest, TheSequenceOfAWalkIsNotItsParents)
+{
+    RunOptions options = walkSettings();
+    options.environment.merge(with("ftruncate:1:KILL").environment); // between the last piece and the commit
+    EXPECT_EQ(run(walkRequest(), options).exitCode, -1);
+    EXPECT_EQ(names(), m_login + "-QL70-profile.plist.part");
+    EXPECT_TRUE(answers(false, {kCommit, url()}));
+    EXPECT_EQ(contents(current()), std::nullopt);
+}
+
 TEST_F(WalkRequest, RootWalksForAnotherUser)
 {
     if (!m_isRoot)
         GTEST_SKIP() << "needs root, who alone may name another user";
-    Arguments arguments = request("no-such-host.invalid");
+    Arguments arguments = walkRequest();
     arguments[kLogin] = "daemon";
-    EXPECT_EQ(run(arguments, privateSettings()).output, "mibwalk_XPC=iRet=1\n");
+    EXPECT_EQ(run(arguments, walkSettings()).output, "mibwalk_XPC=iRet=1\n");
     EXPECT_EQ(names(), "daemon-QL70-profile.plist");
 }
 
@@ -108,21 +91,21 @@ TEST_F(WalkRequest, TheWalkIsTheProgramBesideTheHelperAndNoOther)
     std::filesystem::copy_file(BV_BUILD_DIR "/bin/QL70Helper", folder / "QL70Helper");
     std::ofstream(elsewhere / "QL70Walk") << "#!/bin/sh\necho another\n";
     std::filesystem::permissions(elsewhere / "QL70Walk", std::filesystem::perms::all);
-    RunOptions options = privateSettings();
+    RunOptions options = walkSettings();
     options.program = folder / "QL70Helper";
     options.environment["PATH"] = elsewhere;
-    EXPECT_TRUE(answers(false, request("127.0.0.1"), options));
+    EXPECT_TRUE(answers(false, walkRequest("127.0.0.1"), options));
     EXPECT_EQ(names(), "");
 
     std::filesystem::copy_file(BV_BUILD_DIR "/bin/QL70Walk", folder / "QL70Walk");
-    EXPECT_EQ(run(request("no-such-host.invalid"), options).output, "mibwalk_XPC=iRet=1\n");
+    EXPECT_EQ(run(walkRequest(), options).output, "mibwalk_XPC=iRet=1\n");
 }
 
 TEST_F(WalkRequest, TheWalkItselfKnowsNoOtherRequestAndNoOtherWords)
 {
-    RunOptions options = privateSettings();
+    RunOptions options = walkSettings();
     options.program = BV_BUILD_DIR "/bin/QL70Walk";
-    Arguments wrong = request("-h");
+    Arguments wrong = walkRequest("-h");
     EXPECT_EQ(run(wrong, options).output, "mibwalk_XPC=FALSE\n");
     EXPECT_EQ(run({kAdmin, current()}, options).output, std::string(kAdmin) + "=FALSE\n");
     EXPECT_EQ(names(), "");

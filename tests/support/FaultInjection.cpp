@@ -6,21 +6,31 @@
 //           KILL                 the process dies by SIGKILL before the call
 //           TORN                 a write takes half of its bytes, then the process dies
 //           SWAP                 before the call, the name in FAULT_NAME becomes a symbolic link to FAULT_TARGET
+//           MOVE                 before the call, FAULT_TARGET is renamed to the name in FAULT_NAME
 // FAULT_LOG=FILE        each call's name is appended to the file, one a line
+// FAULT_CLOCK=1         the process sleeps for no time at all, but its clock goes forward by what it wanted to sleep
+// FAULT_LOGINS=1        the password database finds login names in any case, as some do
 //
-// write and pwrite count as "write", fsync and fdatasync as "fsync", rename and renameat as "rename". Calls on
-// descriptors up to 2 are left alone and not counted.
+// write and pwrite count as "write", fsync and fdatasync as "fsync" ("fsync-folder" for a folder), rename and renameat
+// as "rename", openat as "open", which is neither logged nor one of "any". Calls on descriptors up to 2 are left alone
+// and not counted.
+#include <algorithm>
+#include <cctype>
 #include <cerrno>
 #include <csignal>
+#include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <pwd.h>
 #include <string>
 #include <string_view>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/types.h>
+#include <time.h>
 #include <unistd.h>
 
 namespace {
@@ -48,14 +58,31 @@ void logCall(std::string_view call)
     syscall(SYS_close, log);
 }
 
-void swapName()
+void changeName(std::string_view action)
 {
     const char *name = std::getenv("FAULT_NAME");
     const char *target = std::getenv("FAULT_TARGET");
     if (!name || !target)
         std::abort();
     syscall(SYS_unlinkat, AT_FDCWD, name, 0);
-    syscall(SYS_symlinkat, target, AT_FDCWD, name);
+    if (action == "SWAP")
+        syscall(SYS_symlinkat, target, AT_FDCWD, name);
+    else
+        syscall(SYS_renameat, AT_FDCWD, target, AT_FDCWD, name);
+}
+
+bool isFolder(int descriptor)
+{
+    struct stat status = {};
+    return fstat(descriptor, &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+timespec slept = {}; // with FAULT_CLOCK
+
+void advance(timespec *time, const timespec &by)
+{
+    time->tv_sec += by.tv_sec + (time->tv_nsec + by.tv_nsec) / 1'000'000'000;
+    time->tv_nsec = (time->tv_nsec + by.tv_nsec) % 1'000'000'000;
 }
 
 enum class Fate { Normal, Fail, Short, Torn };
@@ -64,7 +91,9 @@ enum class Fate { Normal, Fail, Short, Torn };
 Fate fateOf(std::string_view call)
 {
     static int calls = 0;
-    logCall(call);
+    const bool counted = call != "open";
+    if (counted)
+        logCall(call);
     const char *setting = std::getenv("FAULT");
     if (!setting)
         return Fate::Normal;
@@ -72,13 +101,13 @@ Fate fateOf(std::string_view call)
     const size_t first = fault.find(':');
     const size_t second = fault.find(':', first + 1);
     const std::string_view action = fault.substr(second + 1);
-    if ((fault.substr(0, first) != call && fault.substr(0, first) != "any") ||
+    if ((fault.substr(0, first) != call && (fault.substr(0, first) != "any" || !counted)) ||
         ++calls != std::atoi(setting + first + 1))
         return Fate::Normal;
     if (action == "KILL")
         std::raise(SIGKILL);
-    if (action == "SWAP")
-        swapName();
+    if (action == "SWAP" || action == "MOVE")
+        changeName(action);
     for (const ErrorRow &row : kErrors) {
         if (row.name == action) {
             errno = row.error;
@@ -128,7 +157,8 @@ ssize_t pwrite64(int descriptor, const void *bytes, size_t size, off64_t offset)
 
 int fsync(int descriptor)
 {
-    return fateOf("fsync") == Fate::Fail ? -1 : next<int(int)>("fsync")(descriptor);
+    const char *call = isFolder(descriptor) ? "fsync-folder" : "fsync";
+    return fateOf(call) == Fate::Fail ? -1 : next<int(int)>("fsync")(descriptor);
 }
 
 int fdatasync(int descriptor)
@@ -156,6 +186,40 @@ int renameat(int fromFolder, const char *from, int toFolder, const char *to) noe
 int unlinkat(int folder, const char *name, int flags) noexcept
 {
     return fateOf("unlink") == Fate::Fail ? -1 : next<int(int, const char *, int)>("unlinkat")(folder, name, flags);
+}
+
+int openat(int folder, const char *name, int flags, ...)
+{
+    va_list more;
+    va_start(more, flags);
+    const mode_t mode = flags & O_CREAT ? va_arg(more, mode_t) : 0;
+    va_end(more);
+    return fateOf("open") == Fate::Fail ? -1
+                                        : next<int(int, const char *, int, ...)>("openat")(folder, name, flags, mode);
+}
+
+int nanosleep(const timespec *time, timespec *left)
+{
+    if (!std::getenv("FAULT_CLOCK"))
+        return next<int(const timespec *, timespec *)>("nanosleep")(time, left);
+    advance(&slept, *time);
+    return 0;
+}
+
+int clock_gettime(clockid_t clock, timespec *time) noexcept
+{
+    const int result = next<int(clockid_t, timespec *)>("clock_gettime")(clock, time);
+    if (result == 0)
+        advance(time, slept);
+    return result;
+}
+
+passwd *getpwnam(const char *login)
+{
+    std::string name(login);
+    if (std::getenv("FAULT_LOGINS"))
+        std::transform(name.begin(), name.end(), name.begin(), [](unsigned char c) { return std::tolower(c); });
+    return next<passwd *(const char *)>("getpwnam")(name.c_str());
 }
 
 int flock(int descriptor, int operation) noexcept
