@@ -11,6 +11,7 @@
 #include <csignal>
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/time.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -84,6 +85,24 @@ TEST(Child, AnswersInAHostWithoutStandardStreamsOrChildSignals)
     int status = 0;
     ASSERT_EQ(waitpid(host, &status, 0), host);
     EXPECT_EQ(status, 0);
+}
+
+TEST(Child, IsReadToItsEndWhateverSignalsTheHostGets)
+{
+    // A signal each 2 ms interrupts whatever system call the host waits in.
+    struct sigaction action = {};
+    struct sigaction before = {};
+    action.sa_handler = [](int) {};
+    sigaction(SIGALRM, &action, &before);
+    const itimerval often = {{0, 2000}, {0, 2000}};
+    setitimer(ITIMER_REAL, &often, nullptr);
+    const auto result = shell("printf a; sleep .03; printf b; exec >&-; sleep .03; exit 3");
+    const itimerval never = {};
+    setitimer(ITIMER_REAL, &never, nullptr);
+    sigaction(SIGALRM, &before, nullptr);
+    ASSERT_TRUE(result);
+    EXPECT_EQ(result->output, "ab");
+    EXPECT_EQ(result->exitCode, 3);
 }
 
 std::string nested(int depth, const std::string &open, const std::string &close)
