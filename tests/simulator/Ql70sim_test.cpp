@@ -40,8 +40,10 @@ protected:
     static Ended client(const char *tool, const ProgramUnderTest &printer, const std::string &community,
                         std::vector<std::string> words)
     {
-        std::vector<std::string> command = {
-            tool, "-v1", "-On", "-c", community, "127.0.0.1:" + std::to_string(printer.numberBehind(" port "))};
+        std::vector<std::string> command = {tool, "-v1", "-On", "-c", community};
+        if (community != "mirror")
+            command.insert(command.end(), {"-t", "0.2", "-r", "0"}); // nobody will answer
+        command.push_back("127.0.0.1:" + std::to_string(printer.numberBehind(" port ")));
         command.insert(command.end(), words.begin(), words.end());
         return run(command);
     }
@@ -70,6 +72,23 @@ TEST_F(Ql70sim, RefusesBadArgumentsAndLists)
     }
 }
 
+TEST_F(Ql70sim, ATakenPortHasAnExitStatusOfItsOwn)
+{
+    ProgramUnderTest first({kSimulator, "--port", "0"});
+    ASSERT_TRUE(first.waitFor("ready on"));
+    const Ended second = run({kSimulator, "--port", std::to_string(first.numberBehind(" port "))});
+    EXPECT_EQ(second.status, 1);
+    EXPECT_THAT(second.output, HasSubstr("cannot listen on udp:127.0.0.1:"));
+}
+
+TEST_F(Ql70sim, DecreasingStepsBackFromTheMiddleCell)
+{
+    ProgramUnderTest printer({kSimulator, "--port", "0", "--fault", "decreasing"});
+    ASSERT_TRUE(printer.waitFor("ready on"));
+    EXPECT_THAT(client("snmpgetnext", printer, "mirror", {cell(".4.1.4")}).output, HasSubstr(cell(".4.1.3 = ")));
+    EXPECT_THAT(client("snmpgetnext", printer, "mirror", {cell(".4.1.3")}).output, HasSubstr(cell(".4.1.4 = ")));
+}
+
 TEST_F(Ql70sim, ReadsItsListAgainWhileItRuns)
 {
     const std::string list = m_folder.write("list", "1 disk A.ICC Alpha 1 1\n2 disk B.ICC Beta 1 1\n");
@@ -95,7 +114,6 @@ TEST_F(Ql70sim, AnswersOnlyItsCommunityAndTakesNoChanges)
     ProgramUnderTest printer({kSimulator, "--port", "0"});
     ASSERT_TRUE(printer.waitFor("ready on"));
     EXPECT_THAT(client("snmpset", printer, "mirror", {cell(".1.1.1"), "i", "5"}).output, HasSubstr("noSuchName"));
-    m_folder.write("snmp.conf", "mibs :\ntimeout 1\nretries 0\n");
     EXPECT_THAT(client("snmpget", printer, "public", {cell(".1.1.1")}).output, HasSubstr("Timeout"));
 }
 
