@@ -30,13 +30,17 @@ PaneSurvey::PaneSurvey(const QueueSource &source, QStringList queues, QStringLis
                 emit withoutPane(queue, QString());
         }
     }));
-    m_thread->start();
 }
 
 PaneSurvey::~PaneSurvey()
 {
     m_stop = true;
     m_thread->wait();
+}
+
+void PaneSurvey::start()
+{
+    m_thread->start();
 }
 
 } // namespace bv

@@ -20,6 +20,9 @@ public:
     // Ends after the queue that is being looked at.
     ~PaneSurvey() override;
 
+    // Begins to look. Connect first: what is found before that is told to nobody.
+    void start();
+
 signals:
     // Sent on the thread that the survey lives in. Without a PPD, error says why; else the PPD has none of the options.
     void withoutPane(const QString &queue, const QString &error);

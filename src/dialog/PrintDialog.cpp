@@ -286,6 +286,7 @@ void PrintDialog::surveyOthers()
             m_parts->queues->markWithoutPane(queue,
                                              error.isEmpty() ? noPaneSentence(queueTitle(found->queue())) : error);
     });
+    m_survey->start();
 }
 
 void PrintDialog::setBusy(bool busy)

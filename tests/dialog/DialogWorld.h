@@ -8,6 +8,7 @@
 #include "queues/QueueSource.h"
 #include "queues/RememberedTickets.h"
 
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -77,6 +78,7 @@ public:
     }
     bv::Result<bv::PpdFile> ppd(const QString &queue) const override
     {
+        asked.release();
         const QString path = ppdPaths.value(queue);
         return path.isEmpty() ? bv::Result<bv::PpdFile>::failure(QStringLiteral("“%1” has no driver file.").arg(queue))
                               : bv::PpdFile::open(path);
@@ -94,6 +96,7 @@ public:
     QString failure;
     std::vector<bv::PrintQueue> listed;
     QMap<QString, QString> ppdPaths;
+    mutable QSemaphore asked; // one for each PPD that was asked for
 };
 
 class DialogTest : public ::testing::Test

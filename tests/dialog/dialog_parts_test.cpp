@@ -1,8 +1,8 @@
-// Tests of the dialog's parts that need no queue: page ranges, summary, watcher, documents, remembered tickets, rows.
+// The dialog's parts by themselves: summary, watcher, documents, the survey of other queues, rows.
 #include "DialogWorld.h"
 
+#include "dialog/PaneSurvey.h"
 #include "dialog/PpdOptionRows.h"
-#include "jobs/PageRange.h"
 #include "queues/Ticket.h"
 #include "widgets/ChangeWatcher.h"
 #include "widgets/DocumentList.h"
@@ -20,23 +20,6 @@
 using namespace bv;
 
 namespace {
-
-// The option that comes of a text; none: refused.
-TEST(PageRanges, AreReadAsPeopleWriteThem)
-{
-    // clang-format off
-    const std::pair<const char *, const char *> rows[] = {
-        {"3", "3"}, {" 1 - 3 , 8- ", "1-3,8-"}, {"-2", "1-2"}, {"9, 1-4; 3-6", "1-6,9"}, {"1-2,3", "1-3"},
-        {"5-, 7-9", "5-"}, {"1,,2-2", "1-2"}, {"2–4، ٧", "2-4,7"}, {"99999999999999999999", "2147483647"}, {"", ""},
-        {" , ", ""}, {"-", ""}, {"0-3", ""}, {"5-2", ""}, {"1-2-3", ""}, {"a", ""}, {"1 2", ""}, {"+1", ""},
-    };
-    // clang-format on
-    for (const auto &[text, option] : rows) {
-        const PageRange range = parsePageRange(QString::fromUtf8(text));
-        EXPECT_EQ(range.toOption().toStdString(), option) << text;
-        EXPECT_EQ(range.isValid(), *option != '\0') << text;
-    }
-}
 
 TEST(Summary, FollowsTheOrderArrayAndPassesOverWhatHasNoText)
 {
@@ -121,42 +104,16 @@ TEST_F(DialogParts, TakesDroppedFilesOfThisMachineOnly)
     EXPECT_EQ(refused.count(), 1);
 }
 
-TEST_F(DialogParts, KeepsEachQueueApartUnderAnyName)
+TEST_F(DialogParts, LookThroughTheOtherQueuesOnlyOnceSomebodyListens)
 {
-    // clang-format off
-    const QStringList names = {
-        "QL70", "ql70", "a/b", "..", "a b", "a%2Fb", "Büro", QString(300, 'x'), QString(300, 'x') + "y",
-        QString(120, QChar(0x65e5)),
-    };
-    // clang-format on
-    for (qsizetype i = 0; i < names.size(); ++i) {
-        PrintDictionary ticket;
-        ticket.setValue("Number", PrintValue::integer(i));
-        ASSERT_TRUE(remembered->store(names[i], ticket)) << qPrintable(names[i]);
-        EXPECT_LT(QFileInfo(remembered->filePath(names[i])).fileName().toUtf8().size(), 256);
-        EXPECT_EQ(QFileInfo(remembered->filePath(names[i])).dir(), QDir(folder.filePath("tickets")));
-    }
-    for (qsizetype i = 0; i < names.size(); ++i) {
-        const auto ticket = remembered->load(names[i]);
-        ASSERT_TRUE(ticket);
-        EXPECT_EQ(*ticket->value("Number").integer(), i);
-    }
-    EXPECT_FALSE(remembered->load("never stored"));
-}
-
-TEST_F(DialogParts, PutsAnUnreadableFileAside)
-{
-    const QString path = remembered->filePath("Q");
-    for (const char *content : {"{ no json", "[1]", "", "{\"a\": null}"}) {
-        remembered->store("Q", {});
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        file.close();
-        EXPECT_FALSE(remembered->load("Q")) << content;
-        EXPECT_FALSE(QFile::exists(path));
-        EXPECT_TRUE(QFile::exists(path + ".unreadable"));
-    }
+    PaneSurvey survey(source, {"Plain", "Second", "Bare"}, {"TPStamp", "TPToner"});
+    EXPECT_FALSE(source.asked.tryAcquire(1, 50));
+    QSignalSpy found(&survey, &PaneSurvey::withoutPane);
+    survey.start();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return found.count() == 2; }));
+    EXPECT_EQ(found[0], (QVariantList{"Plain", ""}));
+    EXPECT_EQ(found[1][0], "Bare");
+    EXPECT_TRUE(found[1][1].toString().contains("driver"));
 }
 
 TEST_F(DialogParts, HoldTheTicketsChoicesAndTakeDefaultsForUnknownOnes)

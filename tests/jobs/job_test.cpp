@@ -1,0 +1,110 @@
+// What becomes of a ticket: the options of a job, page ranges, and the sink that keeps jobs in a folder.
+#include "jobs/FolderSink.h"
+#include "jobs/PageRange.h"
+#include "jobs/PrintJob.h"
+#include "jobs/StandardAttributes.h"
+#include "queues/PpdFile.h"
+#include "queues/TicketJson.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using bv::JobOptions;
+using bv::ticketFromJson;
+using ::testing::Pair;
+using ::testing::UnorderedElementsAre;
+
+TEST(JobOptions, AreTheTopLevelStringsAndIntegersAndNothingElse)
+{
+    const auto ticket = ticketFromJson(R"({"a":":;<=>?","b":"","n":-42,"r":1.5,"t":true,"l":["x"],"d":{"x":"y"}})");
+    EXPECT_THAT(bv::ticketOptions(ticket.value()),
+                UnorderedElementsAre(Pair("a", ":;<=>?"), Pair("b", ""), Pair("n", "-42")));
+}
+
+TEST(JobOptions, OfTheDialogBeatTheTicketsAndTheRestIsKept)
+{
+    const auto ticket = ticketFromJson(R"({"copies":5,"page-ranges":"1","x":"y"})");
+    EXPECT_THAT(bv::jobOptions(ticket.value(), nullptr, {{"copies", "2"}, {"page-ranges", "3-4"}}),
+                UnorderedElementsAre(Pair("copies", "2"), Pair("page-ranges", "3-4"), Pair("x", "y")));
+}
+
+TEST(JobOptions, SayTheColorModeThatTheChoiceMeans)
+{
+    const std::pair<JobOptions, QString> rows[] = {
+        {{}, ""},
+        {{{"BVColorAsGray", "True"}}, "monochrome"},
+        {{{"BVColorAsGray", "false"}}, "color"},
+        {{{"BVColorAsGray", "Perhaps"}}, ""},
+        {{{"BVColorAsGray", "True"}, {"print-color-mode", "color"}}, "color"}};
+    for (auto [options, mode] : rows) {
+        bv::addStandardAttributes(options, nullptr);
+        const auto found = options.find("print-color-mode");
+        EXPECT_EQ(found == options.end() ? QString() : found->second, mode);
+    }
+}
+
+TEST(ColorModeOfAPpd, IsThatOfADefaultWhichTheOptionHas)
+{
+    const QTemporaryDir folder;
+    for (const char *choices : {"", "*BVColorAsGray True: \"\"\n"}) {
+        QFile file(folder.filePath("gray.ppd"));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write("*PPD-Adobe: \"4.3\"\n*OpenUI *BVColorAsGray: Boolean\n*DefaultBVColorAsGray: True\n");
+        file.write(choices);
+        file.write("*CloseUI: *BVColorAsGray\n");
+        file.close();
+        const auto ppd = bv::PpdFile::open(file.fileName());
+        ASSERT_TRUE(ppd) << ppd.error().toStdString();
+        JobOptions options;
+        bv::addStandardAttributes(options, ppd.value().handle());
+        EXPECT_EQ(options.count("print-color-mode"), *choices ? 1U : 0U);
+    }
+}
+
+TEST(FolderSink, KeepsTheOptionsAndTheDocumentsOfOneNameApart)
+{
+    const QTemporaryDir folder;
+    QDir(folder.path()).mkpath("x");
+    for (const char *name : {"a.txt", "x/a.txt"}) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(name);
+    }
+    bv::FolderSink sink(folder.filePath("jobs"));
+    const bv::JobRequest request{"Q", "t", {folder.filePath("a.txt"), folder.filePath("x/a.txt")}, {{"k", "a b"}}};
+    ASSERT_TRUE(sink.submit(request));
+    const auto second = sink.submit(request);
+    ASSERT_TRUE(second);
+    EXPECT_EQ(second.value(), 2);
+    const QDir job(folder.filePath("jobs/job-1"));
+    QFile options(job.filePath("options.json"));
+    QFile copy(job.filePath("2-a.txt"));
+    ASSERT_TRUE(options.open(QIODevice::ReadOnly) && copy.open(QIODevice::ReadOnly));
+    EXPECT_EQ(QJsonDocument::fromJson(options.readAll()).object(), (QJsonObject{{"k", "a b"}}));
+    EXPECT_EQ(copy.readAll(), "x/a.txt");
+}
+
+// The option that comes of a text; none: refused.
+TEST(PageRanges, AreReadAsPeopleWriteThem)
+{
+    // clang-format off
+    const std::pair<const char *, const char *> rows[] = {
+        {"3", "3"}, {" 1 - 3 , 8- ", "1-3,8-"}, {"-2", "1-2"}, {"9, 1-4; 3-6", "1-6,9"}, {"1-2,3", "1-3"},
+        {"5-, 7-9", "5-"}, {"1,,2-2", "1-2"}, {"2–4، ٧", "2-4,7"}, {"99999999999999999999", "2147483647"}, {"", ""},
+        {" , ", ""}, {"-", ""}, {"0-3", ""}, {"5-2", ""}, {"1-2-3", ""}, {"a", ""}, {"1 2", ""}, {"+1", ""},
+    };
+    // clang-format on
+    for (const auto &[text, option] : rows) {
+        const bv::PageRange range = bv::parsePageRange(QString::fromUtf8(text));
+        EXPECT_EQ(range.toOption().toStdString(), option) << text;
+        EXPECT_EQ(range.isValid(), *option != '\0') << text;
+    }
+}
+
+} // namespace
