@@ -203,9 +203,11 @@ void PrintDialog::openQueue()
         return;
     }
     std::optional<PrintDictionary> ticket = m_remembered.load(m_current->queue().name);
-    const bool isFirst = m_start.queue.isEmpty() || m_current->queue().name == m_start.queue;
-    if (m_start.ticket && isFirst) {
-        ticket = std::exchange(m_start.ticket, std::nullopt);
+    // The ticket is for the first queue, whenever that opens: a second try starts from it as well.
+    if (m_start.queue.isEmpty())
+        m_start.queue = m_current->queue().name;
+    if (m_start.ticket && m_current->queue().name == m_start.queue) {
+        ticket = m_start.ticket;
         for (const char *key : kJobKeys)
             ticket->entries.erase(QString::fromLatin1(key));
     }

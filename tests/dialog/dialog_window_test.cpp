@@ -90,6 +90,7 @@ TEST_F(Dialog, RestoreDefaultsTakesPaneAndRowsBackButLeavesTheJobAlone)
     EXPECT_EQ(find<QSpinBox>("copies")->value(), 2);
     ASSERT_TRUE(print());
     EXPECT_EQ(sink.jobs[0].options.at("TPToner"), "Normal");
+    EXPECT_EQ(sink.jobs[0].options.at("copies"), "2");
 }
 
 TEST_F(Dialog, SendsWhatItShows)
@@ -114,6 +115,22 @@ TEST_F(Dialog, SendsWhatItShows)
         EXPECT_EQ(job.options.count(key) ? job.options.at(key) : QString(), value) << qPrintable(key);
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(dialog->result(), QDialog::Accepted);
+}
+
+TEST_F(Dialog, ATicketToStartFromIsForItsQueueAloneAndSaysNothingOfCopiesAndPages)
+{
+    PrintDictionary ticket;
+    ticket.setValue("TPToner", "Rich");
+    for (const char *key : {"copies", "page-ranges"})
+        ticket.setValue(key, "7");
+    open({"Bare", ticket, {document}}); // which cannot be opened
+    switchTo("Paper");
+    EXPECT_TRUE(summary().startsWith("Toner: Normal"));
+    source.ppdPaths["Bare"] = source.ppdPaths["Paper"];
+    switchTo("Bare");
+    EXPECT_TRUE(summary().startsWith("Toner: Rich"));
+    ASSERT_TRUE(print());
+    EXPECT_EQ(sink.jobs[0].options.count("copies") + sink.jobs[0].options.count("page-ranges"), 0U);
 }
 
 TEST_F(Dialog, RemembersAQueuesChoicesOnceTheJobIsSentAndNothingOnCancel)
@@ -165,10 +182,20 @@ TEST_F(Dialog, SaysWhyAQueueHasNoPaneAndPrintsToItAllTheSame)
     EXPECT_EQ(sink.jobs[0].options.at("PageSize"), "A4");
 }
 
-TEST_F(Dialog, SaysThatAStoppedQueueKeepsTheJobAndSendsIt)
+TEST_F(Dialog, TakesTheDefaultQueueAndSaysWhatStateItIsIn)
 {
-    source.listed[0].isStopped = true;
+    source.listed[0].isDefault = false;
+    source.listed[1].isDefault = true;
+    source.listed[1].acceptsJobs = false;
     open();
+    EXPECT_EQ(find<QComboBox>("printer")->currentData().toString(), "Second");
+    EXPECT_TRUE(find<QLabel>("printerNote")->text().contains("takes no jobs"));
+    EXPECT_TRUE(dialog->printReason().contains("takes no jobs"));
+    EXPECT_FALSE(find<QPushButton>("print")->isEnabled());
+
+    source.listed[1].acceptsJobs = source.listed[1].isStopped = true;
+    open();
+    EXPECT_FALSE(find<QLabel>("printerNote")->text().contains("takes no jobs"));
     EXPECT_TRUE(dialog->messageText().contains("stopped"));
     EXPECT_TRUE(dialog->printReason().isEmpty());
     ASSERT_TRUE(print());
@@ -232,7 +259,7 @@ TEST_F(Dialog, AFailedJobIsSaidAndLosesNoChoice)
     EXPECT_EQ(sink.jobs[0].options.at("TPToner"), "Save");
 }
 
-TEST_F(Dialog, APanelThatRefusesStopsTheJob)
+TEST_F(Dialog, APanelThatRefusesStopsTheJobAndIsNotLeft)
 {
     for (const char *word : {"refuse", "hold"}) {
         open();
@@ -242,6 +269,20 @@ TEST_F(Dialog, APanelThatRefusesStopsTheJob)
         EXPECT_FALSE(dialog->messageText().isEmpty());
         EXPECT_TRUE(sink.jobs.empty());
     }
+    visibleControl<QLineEdit>("stampText")->setText("refuse");
+    auto *printers = find<QComboBox>("printer");
+    printers->setCurrentIndex(printers->findData("Second"));
+    EXPECT_EQ(printers->currentData().toString(), "Paper");
+    EXPECT_EQ(dialog->messageText(), "The stamp is not to be used.");
+}
+
+TEST_F(Dialog, SaysWhatAPanelDidNotTakeOfATicket)
+{
+    PrintDictionary ticket;
+    ticket.setValue("TPStamp", "odd");
+    open({QString(), ticket, {document}});
+    EXPECT_EQ(dialog->messageText(), "The stamp is not known.");
+    EXPECT_TRUE(dialog->printReason().isEmpty());
 }
 
 TEST_F(Dialog, AGreyedPrintButtonSaysWhyInThreePlaces)
@@ -254,6 +295,10 @@ TEST_F(Dialog, AGreyedPrintButtonSaysWhyInThreePlaces)
         EXPECT_EQ(print->toolTip(), dialog->printReason());
         EXPECT_EQ(print->accessibleDescription(), dialog->printReason());
     };
+    expectReason("document");
+    open();
+    print = find<QPushButton>("print");
+    find<QPushButton>("documentRemove")->click();
     expectReason("document");
     open();
     print = find<QPushButton>("print");
@@ -292,11 +337,30 @@ TEST_F(Dialog, EnterPrintsAndEscapeCancels)
     EXPECT_EQ(dialog->result(), QDialog::Rejected);
 }
 
+TEST_F(Dialog, NothingStopsOrChangesAJobThatIsBeingSent)
+{
+    open();
+    QSignalSpy printed(dialog.get(), &PrintDialog::printed);
+    auto *printers = find<QComboBox>("printer");
+    find<QPushButton>("print")->click();
+    QTest::keyClick(dialog.get(), Qt::Key_Escape);
+    printers->setCurrentIndex(printers->findData("Second"));
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(printers->currentData().toString(), "Paper");
+    ASSERT_TRUE(printed.wait());
+    EXPECT_EQ(sink.jobs.at(0).queue, "Paper");
+}
+
 TEST_F(Dialog, DrivesThePanelInOrderAndLetsItGoBeforeThePlugIn)
 {
     const QString log = folder.filePath("calls");
     qputenv("TESTPANEL_LOG", log.toUtf8());
     open();
+    find<QComboBox>("row_PageSize")->setCurrentIndex(1);
+    find<QComboBox>("row_PageSize")->setCurrentIndex(0);
+    sink.refusal = "Not now.";
+    ASSERT_FALSE(print());
+    sink.refusal.clear();
     ASSERT_TRUE(print());
     dialog.reset();
     qunsetenv("TESTPANEL_LOG");
@@ -310,11 +374,14 @@ TEST_F(Dialog, DrivesThePanelInOrderAndLetsItGoBeforeThePlugIn)
     EXPECT_LT(order.indexOf("panelView"), order.indexOf("restoreValues"));
     EXPECT_LT(order.indexOf("restoreValues"), order.indexOf("willShow"));
     EXPECT_LT(order.indexOf("shouldHide"), order.lastIndexOf("saveValues"));
-    EXPECT_LT(order.lastIndexOf("saveValues"), order.indexOf("shouldPrint"));
+    EXPECT_LT(order.lastIndexOf("saveValues"), order.lastIndexOf("shouldPrint"));
     EXPECT_EQ(order.mid(order.size() - 2), (QStringList{"terminate", "gone"}));
-    for (const char *once :
-         {"made", "panelView", "restoreValues", "willShow", "shouldHide", "shouldPrint", "terminate"})
+    for (const char *once : {"made", "panelView", "restoreValues", "terminate",
+                             "PPDOptionKeyValueDidChange PageSize A6", "PPDOptionKeyValueDidChange PageSize A4"})
         EXPECT_EQ(order.count(once), 1) << once;
+    // The refused job is left and entered again.
+    for (const char *twice : {"willShow", "shouldHide", "shouldPrint"})
+        EXPECT_EQ(order.count(twice), 2) << twice;
 }
 
 } // namespace

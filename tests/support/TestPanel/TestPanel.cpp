@@ -184,7 +184,7 @@ bool TestPanel::shouldHide()
     return true;
 }
 
-bool TestPanel::restoreValuesAndReturnError(QString *)
+bool TestPanel::restoreValuesAndReturnError(QString *error)
 {
     log(QStringLiteral("restoreValues"));
     buildView();
@@ -197,7 +197,11 @@ bool TestPanel::restoreValuesAndReturnError(QString *)
     m_stampText->setEnabled(m_stamp->isChecked());
     m_stampText->setText(stamp.string() ? *stamp.string() : QString());
     m_sheets->setValue(sheets.integer() ? static_cast<int>(*sheets.integer()) : 1);
-    return true;
+    if (m_stampText->text() != u"odd")
+        return true;
+    if (error)
+        *error = QStringLiteral("The stamp is not known.");
+    return false;
 }
 
 bool TestPanel::saveValuesAndReturnError(QString *error)

@@ -23,6 +23,7 @@ public:
     QWidget *panelView() override;
     void willShow() override;
     bool shouldHide() override;
+    // Refuses a stamp of the text "odd".
     bool restoreValuesAndReturnError(QString *error) override;
     // Refuses while the stamp's text is "refuse".
     bool saveValuesAndReturnError(QString *error) override;
