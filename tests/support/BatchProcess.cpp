@@ -14,8 +14,9 @@ constexpr int kPatience = 30000;
 
 BatchProcess::BatchProcess() : m_environment(QProcessEnvironment::systemEnvironment())
 {
-    for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_LOGGING_RULES", "XDG_RUNTIME_DIR",
-                                 "XDG_CONFIG_HOME", "XDG_DATA_HOME", "BVCO_LOG", "LPDEST", "PRINTER"})
+    for (const char *variable :
+         {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_LOGGING_RULES", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME",
+          "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME", "BVCO_LOG", "LPDEST", "PRINTER"})
         m_environment.remove(QLatin1String(variable));
     m_environment.insert(QStringLiteral("HOME"), m_home.path());
     m_environment.insert(QStringLiteral("BVCO_ROOT"), m_home.filePath(QStringLiteral("root")));

@@ -1,10 +1,17 @@
-// main() of the tests that need Qt: an application object on the platform that the environment names (offscreen when it
-// names none), then GoogleTest.
+// main() of the tests that need Qt: a home of their own, so that nothing of the developer's is read or written; an
+// application object on the platform that the environment names (offscreen when it names none); then GoogleTest.
 #include <QApplication>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 int main(int argc, char **argv)
 {
+    const QTemporaryDir home;
+    qputenv("HOME", home.path().toLocal8Bit());
+    for (const char *variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME", "BVCO_ROOT",
+                                 "BVCO_LOG", "CUPS_SERVER", "LPDEST", "PRINTER"})
+        qunsetenv(variable);
+    qputenv("XDG_RUNTIME_DIR", home.path().toLocal8Bit());
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     ::testing::InitGoogleTest(&argc, argv);
