@@ -67,6 +67,7 @@ TEST(BatchWords, AnOpenQuoteIsAnErrorAndTheRestOfALineStaysAsItStands)
 {
     EXPECT_FALSE(bv::batchWords("a \"b"));
     EXPECT_FALSE(bv::batchWords("\"a\\\""));
+    EXPECT_FALSE(bv::batchWords(R"(a\"b)")) << "outside quotes a backslash is a character like any other";
     EXPECT_EQ(bv::splitBatchLine(" setTicket  {\"a\": \"b  \\\" c\"} ").rest, "{\"a\": \"b  \\\" c\"}");
 }
 

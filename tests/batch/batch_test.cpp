@@ -255,6 +255,24 @@ TEST(BatchOnOurPane, APictureHasThePanesSizeAtOnceAfterASwap)
     EXPECT_EQ(sizes[4], sizes[0]);
 }
 
+TEST(BatchOnOurPane, ALocaleChangesTheWordsOfThePaneAndOfThePpd)
+{
+    // clang-format off
+    const std::tuple<const char *, const char *, const char *> rows[] = {
+        {"C", "EconoMode", "Photo"}, {"de_DE.UTF-8", "Economy Print", "Foto"}, {"nl_NL", "Economy Print", "Photo"}};
+    // clang-format on
+    for (const auto &[locale, title, choice] : rows) {
+        SCOPED_TRACE(locale);
+        BatchProcess batch;
+        batch.setVariable("LC_ALL", locale);
+        batch.start({"--ppd", BV_SOURCE_DIR "/resources/QL70.ppd"});
+        ASSERT_EQ(batch.result("panelView"), "pdeMainView");
+        EXPECT_EQ(batch.result("control check_EconomyPrint").toObject()["text"].toString().toStdString(), title);
+        EXPECT_EQ(batch.result("control menu_QuickColor").toObject()["items"].toArray()[1].toString().toStdString(),
+                  choice);
+    }
+}
+
 TEST_F(Batch, PrintSavesAsksAndAnswersWithWhatIsSent)
 {
     const QString document = write("a b.txt", "text");
@@ -337,6 +355,9 @@ TEST_F(Batch, ABadStartEndsAtOnceWithStatus2AndOneLineOnStandardError)
         EXPECT_TRUE(message.startsWith("bvprint: ")) << message.toStdString();
         EXPECT_TRUE(message.count('\n') == 1 && message.endsWith('\n')) << message.toStdString();
     }
+    m_batch.setVariable("TESTPANEL_REFUSES_START", "1");
+    start();
+    EXPECT_EQ(m_batch.finish(), 2);
 }
 
 TEST_F(Batch, AClosedStandardInputIsAnEmptyBatch)

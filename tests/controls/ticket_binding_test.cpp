@@ -111,6 +111,10 @@ TEST_F(TicketBinding, MirrorsEveryEntryOfTheQueueAndOnlyOfThisQueue)
     EXPECT_TRUE(ticket.value("List").array());
     EXPECT_EQ(other->entries.size(), 1U);
     EXPECT_EQ(*other->value("BVA").string(), "One");
+
+    ticket.putInQueue("Other", bv::PrintValue("changed"));
+    EXPECT_EQ(restore(), noErr);
+    EXPECT_EQ(ticket.atTop("Other"), "changed") << "restoring mirrors as well";
 }
 
 TEST_F(TicketBinding, TicketsOfAnyShapeAreLeftAlone)

@@ -1,6 +1,7 @@
 // The panel as a dialog drives it, on the project's own PPD and on poor ones.
 #include "plugin/PDEPlugInInterface.h"
 #include "support/PaneFixture.h"
+#include "support/TestRoot.h"
 
 #include "platform/Bundle.h"
 
@@ -9,6 +10,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QTest>
 
 using bvtest::TestPpd;
 
@@ -101,6 +103,39 @@ TEST_F(Panel, OpensOnTheColorOptionsPaneWithThePpdsDefaults)
     EXPECT_FALSE(control<QPushButton>("button_ManageProfile")->toolTip().isEmpty());
 }
 
+TEST_F(Panel, OnlyAdministratorsManageProfilesAndHaveThemRefreshed)
+{
+    session.uri = "lpd://192.0.2.1/lp";
+    for (const char *answer : {"FALSE", "TRUE"}) {
+        bvtest::TestRoot::installHelper(std::string(R"(echo "$1" >> "${0%%/Library/*}/asked"; echo "$1=)") + answer +
+                                        '"');
+        panel = std::make_unique<PDEPlugInInterface>(&callback);
+        view = panel->panelView();
+        QFile asked(root.filePath("asked"));
+        ASSERT_TRUE(asked.open(QIODevice::ReadOnly));
+        const bool allowed = answer == std::string("TRUE");
+        EXPECT_EQ(asked.readAll().contains("mibwalk_XPC"), allowed);
+        EXPECT_EQ(control<QPushButton>("button_ManageProfile")->isEnabled(), allowed);
+    }
+}
+
+TEST_F(Panel, TheDownloadManagerIsStartedOutOfItsBundle)
+{
+    open();
+    auto *download = control<QPushButton>("button_DownloadManager");
+    download->click(); // it is not installed: nothing happens
+    const QString folder =
+        root.filePath("Applications/Download Manager QL70/BREVANE Download Manager.app/Contents/MacOS/");
+    ASSERT_TRUE(QDir().mkpath(folder));
+    QFile program(folder + "BREVANE Download Manager");
+    ASSERT_TRUE(program.open(QIODevice::WriteOnly));
+    program.write("#!/bin/sh\n: > \"$0.ran\"\n");
+    program.close();
+    program.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    download->click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(program.fileName() + ".ran"); }));
+}
+
 TEST_F(Panel, GoesToTheAdvancedPaneAndBack)
 {
     open();
@@ -114,7 +149,11 @@ TEST_F(Panel, GoesToTheAdvancedPaneAndBack)
     EXPECT_FALSE(control<QComboBox>("menu_iRGBSource")->isEnabled()) << "the pane is right the moment it shows";
     control<QPushButton>("button_HideAdvancedOptions")->click();
     EXPECT_TRUE(control<QWidget>("onColorView")->isVisibleTo(view));
+    control<QCheckBox>("check_ColorAsGrayscale")->click();
     toAdvanced->click();
+    EXPECT_TRUE(control<QComboBox>("menu_iRGBIntent")->isEnabled());
+    choose("menu_iRGBSource", 0);
+    EXPECT_FALSE(control<QComboBox>("menu_iRGBIntent")->isEnabled()) << "a choice greys what depends on it at once";
     panel->willShow();
     EXPECT_TRUE(control<QWidget>("onColorView")->isVisibleTo(view));
     EXPECT_FALSE(control<QWidget>("onAdvancedView")->isVisibleTo(view));

@@ -1,6 +1,7 @@
 // The view switching controller before and after the panes have their tables.
 #include "plugin/PainChangeController.h"
 
+#include <QPushButton>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 
@@ -39,6 +40,25 @@ TEST_F(Panes, AreNotSwappedBeforeTheirTablesExist)
     color->deallocPDEControlTable();
     controller.AdvancedToColorView();
     EXPECT_FALSE(color->isVisibleTo(&container));
+}
+
+TEST_F(Panes, HandTheFocusOnToTheFirstControlThatCanTakeIt)
+{
+    QPushButton outside(&container);
+    QPushButton first(color);
+    QPushButton greyed(advanced);
+    QPushButton second(advanced);
+    greyed.setEnabled(false);
+    controller.creatPDEControlTableEachView();
+    container.show();
+    first.setFocus();
+    controller.ColorToAdvancedView();
+    EXPECT_EQ(container.focusWidget(), &second);
+    controller.AdvancedToColorView();
+    EXPECT_EQ(container.focusWidget(), &first);
+    outside.setFocus();
+    controller.ColorToAdvancedView();
+    EXPECT_EQ(container.focusWidget(), &outside) << "a focus elsewhere stays there";
 }
 
 TEST_F(Panes, GatherTwoTablesAndTheirRecords)

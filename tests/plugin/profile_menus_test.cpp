@@ -97,9 +97,13 @@ TEST_F(ProfileMenus, AChosenProfileGoesIntoTheTicketAndComesBack)
     save();
     EXPECT_EQ(ticket.atTop("BVSrcCustom"), "True");
     EXPECT_EQ(ticket.atTop("BVSrc"), "Off") << "the first choice stands in for a profile";
-    rgb.setCurrentIndex(0);
-    restore();
-    EXPECT_EQ(rgb.currentIndex(), 6);
+    for (const int profile : {6, 5}) {
+        rgb.setCurrentIndex(profile);
+        save();
+        rgb.setCurrentIndex(0);
+        restore();
+        EXPECT_EQ(rgb.currentIndex(), profile);
+    }
 
     rgb.setCurrentIndex(2);
     save();

@@ -151,6 +151,23 @@ TEST_F(ProfileWindow, TheArrowKeysReachTheFirstRowFromNoSelection)
     }
 }
 
+TEST_F(ProfileWindow, TypingALetterAgainWalksThroughTheRowsThatBeginWithIt)
+{
+    writeFile();
+    inWindow([&] {
+        table()->setFocus();
+        for (const int row : {1, 2, 1}) { // two, three, two
+            type(table(), QStringLiteral("t"));
+            EXPECT_EQ(table()->selectedRow(), row);
+        }
+        type(table(), QStringLiteral("h")); // "ttth" is none
+        EXPECT_EQ(table()->selectedRow(), 1);
+        table()->model()->setData(table()->model()->index(0, bv::ProfileTableModel::kInMenu), Qt::Unchecked,
+                                  Qt::CheckStateRole);
+        EXPECT_EQ(cell(0, bv::ProfileTableModel::kInMenu, Qt::CheckStateRole), Qt::Unchecked) << "set as it was";
+    });
+}
+
 TEST(IconedCell, DrawsTheIcon3PointsFromTheLeftAtTheTopOverWhatIsThere)
 {
     QImage icon(64, 64, QImage::Format_ARGB32_Premultiplied);

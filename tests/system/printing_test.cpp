@@ -32,8 +32,6 @@ QByteArray everyByte()
     return bytes;
 }
 
-const QByteArray kPicture = QByteArray::fromHex("89504e470d0a1a0a0000000d494844520000000100000001");
-
 class Printing : public ::testing::Test
 {
 protected:
@@ -101,47 +99,30 @@ TEST_F(Printing, OptionsAndDocumentReachTheBackendAsTheyAre)
     EXPECT_EQ(m_server.recordedCount(), 1);
 }
 
-TEST_F(Printing, TheServerAddsNoColorModeThatContradictsTheChoice)
-{
-    const QString document = write("a.txt", "text\n");
-    start();
-    ASSERT_EQ(m_batch.result("panelView"), "pdeMainView");
-    EXPECT_EQ(m_batch.result("restoreValues"), true);
-    for (const bool gray : {false, true, false}) {
-        EXPECT_TRUE(m_batch.result(QString("set check_ColorAsGrayscale %1").arg(gray ? 1 : 0)).isNull());
-        const int job = print(document)["result"].toObject()["job"].toInt();
-        RecordedJob got = m_server.recorded(job);
-        EXPECT_EQ(asCarried(got.options["BVColorAsGray"]), gray ? "true" : "false");
-        EXPECT_EQ(got.options["print-color-mode"], gray ? "monochrome" : "color");
-    }
-}
-
 TEST_F(Printing, TheDefaultQueueIsTakenAndItsPpdLeavesNoFileBehind)
 {
+    ASSERT_TRUE(m_server.addQueue("Hall", m_server.directPpd(BV_SOURCE_DIR "/resources/QL70.ppd")));
     ASSERT_TRUE(m_server.administer("lpadmin", {"-d", "QL70"}));
     QDir(m_folder.path()).mkdir("tmp");
-    m_batch.setVariable("TMPDIR", m_folder.filePath("tmp"));
-    start({});
-    EXPECT_EQ(m_batch.result("panelView"), "pdeMainView");
-    EXPECT_EQ(m_batch.result("restoreValues"), true);
-    // The pane keeps its values under the queue's name.
-    EXPECT_EQ(m_batch.result("saveValues"), true);
-    EXPECT_TRUE(m_batch.result("ticket").toObject()["QL70"].toObject().contains("QL70"));
+    // The user's own default goes first, here an instance: a queue with a set of options.
+    for (const char *queue : {"QL70", "Hall"}) {
+        BatchProcess batch;
+        batch.setVariable("CUPS_SERVER", m_server.address());
+        batch.setVariable("TMPDIR", m_folder.filePath("tmp"));
+        if (queue == QLatin1String("Hall")) {
+            QDir(batch.home()).mkdir(".cups");
+            QFile options(batch.home() + "/.cups/lpoptions");
+            ASSERT_TRUE(options.open(QIODevice::WriteOnly));
+            options.write("Default Hall/draft sides=one-sided\n");
+        }
+        batch.start({});
+        EXPECT_EQ(batch.result("panelView"), "pdeMainView");
+        EXPECT_EQ(batch.result("restoreValues"), true);
+        // The pane keeps its values under the queue's name.
+        EXPECT_EQ(batch.result("saveValues"), true);
+        EXPECT_EQ(batch.result("ticket").toObject()["QL70"].toObject().keys(), QStringList{queue});
+    }
     EXPECT_EQ(QDir(m_folder.filePath("tmp")).entryList(QDir::Files), QStringList());
-}
-
-TEST_F(Printing, ADocumentOfARefusedFormatCancelsItsJobAndOthersStillPrint)
-{
-    const QString picture = write("picture.png", kPicture);
-    const QString text = write("a.txt", "text\n");
-    start();
-    EXPECT_THAT(print(picture)["error"].toString().toStdString(), HasSubstr("picture.png"));
-    const int job = print(text)["result"].toObject()["job"].toInt();
-    EXPECT_EQ(m_server.recorded(job).data, "text\n");
-    EXPECT_EQ(m_batch.finish(), 1);
-    useServerHere();
-    EXPECT_EQ(PrivateCupsd::jobStates("QL70").begin()->second, IPP_JSTATE_CANCELED);
-    EXPECT_EQ(m_server.recordedCount(), 1);
 }
 
 TEST_F(Printing, SeveralDocumentsAreOneJobAndOneRefusedMeansNoneIsPrinted)
@@ -150,9 +131,11 @@ TEST_F(Printing, SeveralDocumentsAreOneJobAndOneRefusedMeansNoneIsPrinted)
     ASSERT_TRUE(m_server.addQueue("QL70", m_server.copyingPpd(BV_SOURCE_DIR "/resources/QL70.ppd")));
     const QString first = write("1.txt", "first\n");
     const QString second = write("2.txt", "second\n");
-    const QString picture = write("3.png", kPicture);
+    const QString picture = write("3.png", QByteArray::fromHex("89504e470d0a1a0a0000000d4948445200000001"));
     bv::PrintServerSink sink;
-    EXPECT_FALSE(sink.submit({"QL70", "title", {first, picture, second}, {}}));
+    const auto refused = sink.submit({"QL70", "title", {first, picture, second}, {}});
+    ASSERT_FALSE(refused);
+    EXPECT_THAT(refused.error().toStdString(), HasSubstr("3.png"));
     const auto job = sink.submit({"QL70", "title", {first, second}, {{"k", "v"}}});
     ASSERT_TRUE(job) << job.error().toStdString();
     const RecordedJob got = m_server.recorded(job.value().value_or(0));
@@ -178,10 +161,12 @@ TEST_F(Printing, AnOptionThatWouldBeReadAsOthersIsRefusedAndOtherBracesPass)
         EXPECT_THAT(print(text)["error"].toString().toStdString(), HasSubstr(keyword));
     }
     for (const char *value : {"x{", "{x}", "{a b {c}}", "}"}) {
-        EXPECT_TRUE(m_batch.result(QString("setTicket {\"brace\":\"%1\",\"next\":\"n\"}").arg(value)).isNull());
+        // An option without a name is left out.
+        EXPECT_TRUE(m_batch.result(QString(R"(setTicket {"":"x","brace":"%1","next":"n"})").arg(value)).isNull());
         RecordedJob got = m_server.recorded(print(text)["result"].toObject()["job"].toInt());
         EXPECT_EQ(got.options["brace"].toStdString(), value);
         EXPECT_EQ(got.options["next"], "n");
+        EXPECT_EQ(got.options.count(""), 0U);
     }
 }
 
