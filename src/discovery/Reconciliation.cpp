@@ -3,6 +3,7 @@
 
 #include "discovery/FileNameRule.h"
 #include "discovery/ProfileSpool.h"
+#include "profiles/MenuState.h"
 #include "profiles/ProfileOperations.h"
 
 #include <algorithm>
@@ -12,18 +13,30 @@ namespace {
 
 struct StateChange
 {
-    int32_t before;
-    int32_t after;
+    bv::MenuState before;
+    bv::MenuState after;
 };
 
 // clang-format off
-constexpr StateChange kAnsweredChanges[] = { {1, 1}, {2, 1}, {4, 3} };
-constexpr StateChange kFailedChanges[]   = { {1, 0}, {2, 0}, {4, 6} };
-constexpr StateChange kMatchChanges[]    = { {1, 2}, {5, 2}, {3, 4}, {6, 4} };
+// The printer answered: nothing counts as found before its rows are merged.
+constexpr StateChange kAnsweredChanges[] = {
+    {bv::kOnPrinter,       bv::kMissing},
+    {bv::kOnPrinterInMenu, bv::kMissingInMenu},
+};
+// It did not: what is in the menus becomes the user's own, the rest goes.
+constexpr StateChange kFailedChanges[] = {
+    {bv::kMissing,         bv::kFreeSlot},
+    {bv::kOnPrinter,       bv::kFreeSlot},
+    {bv::kOnPrinterInMenu, bv::kOwnInMenu},
+};
+// The printer reports a profile that the list knows.
+constexpr StateChange kMatchChanges[] = {
+    {bv::kMissing,       bv::kOnPrinter},
+    {bv::kOwn,           bv::kOnPrinter},
+    {bv::kMissingInMenu, bv::kOnPrinterInMenu},
+    {bv::kOwnInMenu,     bv::kOnPrinterInMenu},
+};
 // clang-format on
-
-// The state of a profile that the printer reports and that is not in the menus.
-constexpr int32_t kReported = 2;
 
 void changeState(ProfileRecord *record, std::span<const StateChange> changes)
 {
@@ -101,11 +114,11 @@ void vRestructDetail(int32_t row, ProfileList *list)
         return;
     }
     const auto slot = std::find_if(std::begin(list->records), std::end(list->records),
-                                   [](const ProfileRecord &record) { return record.InMenu == 0; });
+                                   [](const ProfileRecord &record) { return !bv::isUsed(record.InMenu); });
     if (slot == std::end(list->records))
         return;
     *slot = reported;
-    slot->InMenu = kReported;
+    slot->InMenu = bv::kOnPrinter;
     ++list->count;
 }
 

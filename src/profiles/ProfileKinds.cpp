@@ -35,16 +35,6 @@ std::optional<ProfileClassIndex> profileClassOfKind(int16_t profileKind)
     }
 }
 
-bool shownInMenu(int32_t inMenu)
-{
-    return inMenu != 1 && inMenu != 2 && inMenu != 5;
-}
-
-bool countsInNumbering(int32_t inMenu)
-{
-    return inMenu == 3 || inMenu == 4 || inMenu == 6;
-}
-
 std::string devicePath(const ProfileRecord &record)
 {
     std::string path(storageFolder(record.Location));

@@ -1,4 +1,4 @@
-// How a row of the advanced pane finds its stored profiles: list, listed states, storage folder and its encoding.
+// How a row of the advanced pane finds its stored profiles: list, storage folder and its encoding.
 #pragma once
 
 #include "common/PDEControlItem.h"
@@ -12,11 +12,6 @@ namespace bv {
 
 // The list of a row's profile kind (1 RGB, 2 DST, 3 SIM); nothing for any other kind.
 std::optional<ProfileClassIndex> profileClassOfKind(int16_t profileKind);
-
-// Whether a state code stands in the menus (0, 3, 4, 6) and whether it counts in the numbering of choices (3, 4, 6).
-// The two differ for code 0 on purpose: records of older lists are shown but cannot be named in a ticket.
-bool shownInMenu(int32_t inMenu);
-bool countsInNumbering(int32_t inMenu);
 
 // The path of a profile on the printer: the folder of its storage (none for unknown storage) and its file name.
 std::string devicePath(const ProfileRecord &record);

@@ -19,7 +19,7 @@ inline constexpr int32_t kLocationCard = 5;
 struct ProfileRecord
 {
     int32_t IndexOnDevice;               // index in the printer's profile table; 0 none, 501 kept without one
-    int32_t InMenu;                      // state code 0 to 6; 0 marks a free slot
+    int32_t InMenu;                      // a bv::MenuState; other numbers only from a file
     int32_t ProfileClass;                // as the printer reports it
     char FileName[kProfileTextBytes];    // UTF-8; may fill the field without a NUL when it comes from a walk
     char ProfileName[kProfileTextBytes]; // likewise

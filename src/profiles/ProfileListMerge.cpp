@@ -1,6 +1,7 @@
 // Merging edited lists with those of the list file.
 #include "profiles/ProfileOperations.h"
 
+#include "profiles/MenuState.h"
 #include "profiles/NoThrow_p.h"
 
 #include <algorithm>
@@ -25,11 +26,6 @@ bool holdsProfile(const ProfileList *list, const ProfileRecord &wanted)
     });
 }
 
-bool isCarriedOver(const ProfileRecord &record)
-{
-    return record.InMenu == 2 || record.InMenu == 4;
-}
-
 } // namespace
 
 void BVPListMapping_Pap(const ProfileList *edited, const ProfileList *fromFile, ProfileList *out,
@@ -40,8 +36,9 @@ void BVPListMapping_Pap(const ProfileList *edited, const ProfileList *fromFile, 
         if (filled < kProfileSlots)
             out->records[filled++] = record;
     };
+    // What the printer has stays in the file, whatever the window of a local queue lists.
     for (const ProfileRecord &record : usedRecords(fromFile))
-        if (isCarriedOver(record) && !holdsProfile(excluded, record) && !holdsProfile(edited, record))
+        if (bv::isOnPrinter(record.InMenu) && !holdsProfile(excluded, record) && !holdsProfile(edited, record))
             append(record);
     for (const ProfileRecord &record : usedRecords(edited))
         append(record);

@@ -2,6 +2,7 @@
 #include "profiles/ProfileOperations.h"
 
 #include "platform/Log.h"
+#include "profiles/MenuState.h"
 #include "profiles/NoThrow_p.h"
 #include "profiles/ProfileListFile.h"
 
@@ -113,9 +114,9 @@ int32_t BVPListReadProfile_Dict_Pap(ProfileList *list, int32_t which)
             ProfileRecord &record = list->records[out];
             int32_t inMenu = record.InMenu;
             reader.readInMenu(slot, &inMenu);
-            if (inMenu == 2)
+            if (inMenu == bv::kOnPrinter)
                 continue;
-            record.InMenu = inMenu == 4 ? 6 : inMenu;
+            record.InMenu = inMenu == bv::kOnPrinterInMenu ? bv::kOwnInMenu : inMenu;
             reader.readOthers(slot, &record);
             ++out;
         }
@@ -127,7 +128,7 @@ int32_t BVPListReadProfile_Dict_Pap(ProfileList *list, int32_t which)
 void BVPlistCheckWithInMenu_Dict(ProfileList *list)
 {
     const auto used = std::count_if(std::begin(list->records), std::end(list->records),
-                                    [](const ProfileRecord &record) { return record.InMenu != 0; });
+                                    [](const ProfileRecord &record) { return bv::isUsed(record.InMenu); });
     if (used == list->count)
         return;
     // Whatever stands from there on goes, even records in use behind a gap: this is intended.

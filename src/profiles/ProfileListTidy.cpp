@@ -1,6 +1,8 @@
 // Tidying of a list after the printer was asked: clean-up, salvage, padding.
 #include "profiles/ProfileOperations.h"
 
+#include "profiles/MenuState.h"
+
 #include <cstring>
 
 namespace {
@@ -19,9 +21,9 @@ void BVPListCleanProfile_Dict(ProfileList *list)
     for (ProfileRecord &record : list->records) {
         if (record.IndexOnDevice != 0 || !hasFileName(record))
             continue;
-        if (record.InMenu == 3 || record.InMenu == 4) {
+        if (record.InMenu == bv::kMissingInMenu || record.InMenu == bv::kOnPrinterInMenu) {
             record.IndexOnDevice = kNoLongerOnDevice;
-            record.InMenu = 3;
+            record.InMenu = bv::kMissingInMenu;
         } else {
             record = ProfileRecord{};
             --list->count;
@@ -32,17 +34,17 @@ void BVPListCleanProfile_Dict(ProfileList *list)
 void BVPListSalvage_Dict(ProfileList *list)
 {
     for (ProfileRecord &record : list->records)
-        if (record.IndexOnDevice != 0 && hasFileName(record) && record.InMenu == 3)
-            record.InMenu = 6;
+        if (record.IndexOnDevice != 0 && hasFileName(record) && record.InMenu == bv::kMissingInMenu)
+            record.InMenu = bv::kOwnInMenu;
 }
 
 void BVPListPaddingProfile_Dict(ProfileList *list)
 {
     int from = 0;
     for (int to = 0; to < kProfileSlots; ++to) {
-        if (list->records[to].InMenu != 0)
+        if (bv::isUsed(list->records[to].InMenu))
             continue;
-        for (from = from > to ? from : to + 1; from < kProfileSlots && list->records[from].InMenu == 0; ++from)
+        for (from = from > to ? from : to + 1; from < kProfileSlots && !bv::isUsed(list->records[from].InMenu); ++from)
             ;
         if (from == kProfileSlots)
             return;

@@ -3,6 +3,7 @@
 
 #include "platform/Bundle.h"
 #include "platform/Log.h"
+#include "profiles/MenuState.h"
 #include "profiles/ProfileKinds.h"
 #include "profiles/ProfileOperations.h"
 
@@ -40,7 +41,7 @@ bool appendProfiles(QComboBox *menu, const ProfileList &list)
     bool complete = true;
     for (int32_t i = 0; i < std::min<int32_t>(list.count, kProfileSlots); ++i) {
         const ProfileRecord &record = list.records[i];
-        if (!bv::shownInMenu(record.InMenu))
+        if (!bv::isListed(record.InMenu))
             continue;
         const QString storage = storageName(record.Location);
         if (storage.isNull()) {

@@ -11,7 +11,8 @@
 int32_t BVPListReadProfile_All(ProfileList *rgb, ProfileList *sim, ProfileList *dst);
 // Reads one class (a ProfileClassIndex). 0 or -1.
 int32_t BVPListReadProfile_Dict(ProfileList *list, int32_t which);
-// Reads one class for the management window of a local queue: code 2 left out, code 4 read as 6. 0 or -1.
+// Reads one class for the management window of a local queue: what is only on the printer is left out, what is in the
+// menus too becomes an own entry. 0 or -1.
 int32_t BVPListReadProfile_Dict_Pap(ProfileList *list, int32_t which);
 // Makes the count the number of records in use and clears every record from there on.
 void BVPlistCheckWithInMenu_Dict(ProfileList *list);
@@ -27,7 +28,8 @@ int32_t BVPListMappingProfile_All_Pap(const ProfileList *rgb, const ProfileList 
                                       ProfileList *rgbOut, ProfileList *simOut, ProfileList *dstOut,
                                       const ProfileList *rgbDelete, const ProfileList *simDelete,
                                       const ProfileList *dstDelete);
-// Merge of one class: file entries of code 2 or 4 neither edited nor excluded, then the edited list, cut at 500.
+// Merge of one class: file entries on the printer that are neither edited nor excluded, then the edited list, cut at
+// 500.
 void BVPListMapping_Pap(const ProfileList *edited, const ProfileList *fromFile, ProfileList *out,
                         const ProfileList *excluded);
 // Writes one class and keeps the other two as the file has them; the outputs that are given receive the three lists.

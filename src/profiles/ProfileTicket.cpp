@@ -2,6 +2,7 @@
 #include "common/PDECommon.h"
 
 #include "platform/Log.h"
+#include "profiles/MenuState.h"
 #include "profiles/ProfileKinds.h"
 #include "profiles/ProfileOperations.h"
 
@@ -30,12 +31,12 @@ std::unique_ptr<ProfileList> rowsList(ProfileClassIndex which)
     return list;
 }
 
-// Calls `visit(record, number)` for each record that counts, numbered from 1, until it answers true.
+// Calls `visit(record, number)` for each record that is in the menus, numbered from 1, until it answers true.
 template <typename Visit> void visitNumbered(const ProfileList &list, Visit visit)
 {
     int16_t number = 0;
     for (int32_t i = 0; i < std::min<int32_t>(list.count, kProfileSlots); ++i) {
-        if (bv::countsInNumbering(list.records[i].InMenu) && visit(list.records[i], ++number))
+        if (bv::isInMenu(list.records[i].InMenu) && visit(list.records[i], ++number))
             return;
     }
 }

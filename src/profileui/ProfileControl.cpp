@@ -7,6 +7,7 @@
 #include "platform/Bundle.h"
 #include "platform/Log.h"
 #include "platform/RootPath.h"
+#include "profiles/MenuState.h"
 #include "profiles/ProfileOperations.h"
 #include "profileui/KeyFilters.h"
 #include "profileui/ManagementWindow.h"
@@ -31,7 +32,6 @@ constexpr int32_t kUSB = 3;
 
 // A new entry's place in the printer's table, counted on from its slot; and what else it starts with.
 constexpr int32_t kFirstOwnIndex = 500;
-constexpr int32_t kNewInMenu = 6;
 constexpr int32_t kNewProfileClass = 2;
 constexpr int32_t kNewAvailability = 3;
 
@@ -372,7 +372,8 @@ ProfileRecord *ProfileControl::targetOfProfileOK()
         return edited;
     }
     ProfileRecord *end = std::end(list->records);
-    ProfileRecord *free = std::find_if(list->records, end, [](const ProfileRecord &r) { return r.InMenu == 0; });
+    ProfileRecord *free =
+        std::find_if(list->records, end, [](const ProfileRecord &r) { return !bv::isUsed(r.InMenu); });
     return free == end ? nullptr : free;
 }
 
@@ -401,7 +402,7 @@ void ProfileControl::profileOK()
     if (buttonIdentify == kAdding) {
         ProfileList *list = currentProfileDict();
         target->IndexOnDevice = static_cast<int32_t>(target - list->records) + kFirstOwnIndex;
-        target->InMenu = kNewInMenu;
+        target->InMenu = bv::kOwnInMenu;
         target->ProfileClass = kNewProfileClass;
         target->Availability = kNewAvailability;
         ++list->count;
@@ -429,7 +430,7 @@ void ProfileControl::deleteButton()
     rememberDeleted(list->records[row]);
     std::copy(list->records + row + 1, std::end(list->records), list->records + row);
     // Only the code says that the last slot is free; its other fields stay.
-    list->records[kProfileSlots - 1].InMenu = 0;
+    list->records[kProfileSlots - 1].InMenu = bv::kFreeSlot;
     --list->count;
     showFields({}, {});
     reloadTable();

@@ -4,6 +4,7 @@
 #include "platform/Bundle.h"
 #include "platform/HostProtocol.h"
 #include "platform/RootPath.h"
+#include "profiles/MenuState.h"
 
 #include <QFontDatabase>
 
@@ -38,29 +39,7 @@ QString textOf(std::string_view utf8)
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
-// The other menu state of a profile: 1 and 3, 2 and 4, 5 and 6 belong together.
-int32_t flipped(int32_t inMenu)
-{
-    constexpr std::array<int32_t, 7> kOther = {0, 3, 4, 1, 2, 6, 5};
-    return inMenu >= 0 && inMenu < static_cast<int32_t>(kOther.size()) ? kOther[static_cast<size_t>(inMenu)] : inMenu;
-}
-
 } // namespace
-
-bool isInMenu(int32_t inMenu)
-{
-    return inMenu == 3 || inMenu == 4 || inMenu == 6;
-}
-
-bool isOnPrinter(int32_t inMenu)
-{
-    return inMenu == 2 || inMenu == 4;
-}
-
-bool isFromPrinter(int32_t inMenu)
-{
-    return inMenu >= 1 && inMenu <= 4;
-}
 
 ProfileTableModel::ProfileTableModel(QObject *parent)
     : QAbstractTableModel(parent), m_icon(QString::fromStdString(mapRootPath(kIconPath))),
@@ -159,7 +138,7 @@ bool ProfileTableModel::setData(const QModelIndex &index, const QVariant &value,
     ProfileRecord &record = m_list->records[index.row()];
     if (isInMenu(record.InMenu) == (value.toInt() == Qt::Checked))
         return true;
-    record.InMenu = flipped(record.InMenu);
+    record.InMenu = flippedInMenu(record.InMenu);
     emit dataChanged(index, index, {role, Qt::AccessibleTextRole});
     return true;
 }

@@ -9,13 +9,6 @@
 
 namespace bv {
 
-// Whether a profile of that state code is in the profile menus (3, 4 and 6).
-bool isInMenu(int32_t inMenu);
-// Whether the last walk found the profile on the printer (2 and 4).
-bool isOnPrinter(int32_t inMenu);
-// Whether the profile is known from the printer (1 to 4), not made by the user.
-bool isFromPrinter(int32_t inMenu);
-
 class ProfileTableModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -32,7 +25,7 @@ public:
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
-    // Takes Qt::CheckStateRole in the last column: flips the state code between its two menu states.
+    // Takes Qt::CheckStateRole in the last column: puts the profile into the profile menus or takes it out.
     bool setData(const QModelIndex &index, const QVariant &value, int role) override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
