@@ -114,9 +114,9 @@ public:
 
     // ---- Device address and refresh (discovery/DeviceAddress.cpp, discovery/ProfileRefresh.cpp) ----
 
-    // Kind of connection of the session's printer: 0 LPD, 1 Bonjour, 2 AppleTalk, 3 USB, -1 unknown.
+    // Kind of connection of the session's printer (discovery/ProtocolCodes.h).
     static int32_t commoniGetProtocol(PMPrintSession session);
-    // The same for a device URI; a null string gives -1.
+    // The same for a device URI; unknown for a null string.
     static int32_t commoniGetProtocolByUrl(const QString &url);
     // Brings the stored profile list up to date from the printer through the helper. Always 0.
     static int32_t commonGetProfilesFromMIB(PMPrintSession session);

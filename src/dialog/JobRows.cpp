@@ -2,6 +2,7 @@
 #include "dialog/JobRows.h"
 
 #include "jobs/PageRange.h"
+#include "queues/JobOnlyKeys.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -56,9 +57,9 @@ JobOptions JobRows::options() const
 {
     JobOptions options;
     if (m_copies->value() > 1)
-        options[QStringLiteral("copies")] = QString::number(m_copies->value());
+        options[QString::fromLatin1(kCopiesKey)] = QString::number(m_copies->value());
     if (m_somePages->isChecked())
-        options[QStringLiteral("page-ranges")] = parsePageRange(m_range->text()).toOption();
+        options[QString::fromLatin1(kPageRangesKey)] = parsePageRange(m_range->text()).toOption();
     return options;
 }
 

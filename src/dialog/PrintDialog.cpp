@@ -6,6 +6,7 @@
 #include "dialog/PrintDialogLayout.h"
 #include "dialog/QueueList.h"
 #include "dialog/QueueRoom.h"
+#include "queues/JobOnlyKeys.h"
 #include "queues/PanelLoader.h"
 #include "widgets/DocumentList.h"
 #include "widgets/MessageBar.h"
@@ -29,9 +30,6 @@ namespace {
 
 // How long the user may rest on a queue, on the way through the list by keys, before it is opened.
 constexpr int kRestMilliseconds = 200;
-
-// What belongs to one job; the dialog's own rows say it, so a ticket to start from does not.
-constexpr const char *kJobKeys[] = {"copies", "Copies", "page-ranges", "PageRanges"};
 
 // Room for pane and summary side by side where the screen has it.
 QSize startSize()
@@ -208,8 +206,7 @@ void PrintDialog::openQueue()
         m_start.queue = m_current->queue().name;
     if (m_start.ticket && m_current->queue().name == m_start.queue) {
         ticket = m_start.ticket;
-        for (const char *key : kJobKeys)
-            ticket->entries.erase(QString::fromLatin1(key));
+        removeJobOnlyKeys(&*ticket);
     }
     m_openFailure = m_current->open(m_source, ticket);
     if (!m_openFailure.isEmpty()) {

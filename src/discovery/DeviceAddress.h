@@ -1,6 +1,7 @@
 // From a print queue's device URI to the printer's host: parts of a URI, and the host that a walk is to ask.
 #pragma once
 
+#include "discovery/ProtocolCodes.h"
 #include "platform/NetworkService.h"
 #include "platform/PrintSettings.h"
 
@@ -12,13 +13,6 @@
 #include <string_view>
 
 namespace bv {
-
-// Protocol codes of a queue's connection.
-inline constexpr int16_t kProtocolLpd = 0;
-inline constexpr int16_t kProtocolBonjour = 1;
-inline constexpr int16_t kProtocolAppleTalk = 2;
-inline constexpr int16_t kProtocolUsb = 3;
-inline constexpr int16_t kProtocolUnknown = -1;
 
 // The network location of a URI (RFC 3986, 3.2): host and optional port, as they stand, percent escapes too; without
 // user information. Nothing when the URI has no authority or an empty one.

@@ -75,9 +75,7 @@ bool removeMisnamed(ProfileList *list, int32_t slot)
 void mergeRow(int32_t row, ProfileList *rgb, ProfileList *sim, ProfileList *dst)
 {
     const ProfileRecord &record = PlistForSpool.records[row];
-    if (record.Location != kLocationDisk && record.Location != kLocationCard)
-        return;
-    if (!bJudgement8point3Format(bv::fieldText(record.FileName)))
+    if (!bv::profileStorage(record.Location) || !bJudgement8point3Format(bv::fieldText(record.FileName)))
         return;
     switch (record.ProfileClass) {
     case 1:
@@ -97,7 +95,8 @@ void mergeRow(int32_t row, ProfileList *rgb, ProfileList *sim, ProfileList *dst)
 
 void vDeleteMIBprofilesTemporary(int32_t status, ProfileList *list)
 {
-    const std::span<const StateChange> changes = status == 0 ? std::span(kAnsweredChanges) : std::span(kFailedChanges);
+    const std::span<const StateChange> changes =
+        status == 0 ? std::span<const StateChange>(kAnsweredChanges) : kFailedChanges;
     for (ProfileRecord &record : list->records)
         changeState(&record, changes);
 }

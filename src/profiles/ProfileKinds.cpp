@@ -7,18 +7,6 @@ namespace {
 
 constexpr size_t kDevicePathLength = 96;
 
-std::string_view storageFolder(int32_t location)
-{
-    switch (location) {
-    case kLocationDisk:
-        return "/ata1a/data/USfiles/Profiles/";
-    case kLocationCard:
-        return "/ataCf1a/data/USfiles/Profiles/";
-    default:
-        return "";
-    }
-}
-
 } // namespace
 
 std::optional<ProfileClassIndex> profileClassOfKind(int16_t profileKind)
@@ -37,7 +25,8 @@ std::optional<ProfileClassIndex> profileClassOfKind(int16_t profileKind)
 
 std::string devicePath(const ProfileRecord &record)
 {
-    std::string path(storageFolder(record.Location));
+    const ProfileStorage *storage = profileStorage(record.Location);
+    std::string path(storage ? storage->folder : "");
     path.append(fieldText(record.FileName));
     path.resize(std::min(path.size(), kDevicePathLength));
     return path;

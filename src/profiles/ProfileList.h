@@ -2,6 +2,8 @@
 // The records are plain data: zeroing, copying and comparing them is whole-record work.
 #pragma once
 
+#include "profiles/ProfileStorage.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -11,10 +13,6 @@ inline constexpr size_t kProfileTextBytes = 32;
 
 // Class indexes, in the order in which the three lists are always passed.
 enum ProfileClassIndex : int32_t { kProfileRGB = 0, kProfileSIM = 1, kProfileDST = 2 };
-
-// Storage of a profile on the printer; other values are unknown storage.
-inline constexpr int32_t kLocationDisk = 4;
-inline constexpr int32_t kLocationCard = 5;
 
 struct ProfileRecord
 {

@@ -17,41 +17,24 @@ namespace {
 
 using ThreeLists = std::array<ProfileList, 3>;
 
-// The menu title of a profile: file name, profile name in parentheses, storage. The bytes are cut at 255.
-QString profileTitle(const ProfileRecord &record, const QString &storage)
+// The menu title of a profile: file name, profile name in parentheses, storage (none where it is unknown). The bytes
+// are cut at 255.
+QString profileTitle(const ProfileRecord &record)
 {
     std::string title(bv::fieldText(record.FileName));
-    title.append("(").append(bv::fieldText(record.ProfileName)).append(")").append(storage.toStdString());
+    title.append("(").append(bv::fieldText(record.ProfileName)).append(")");
+    if (const bv::ProfileStorage *storage = bv::profileStorage(record.Location))
+        title.append(localizedString(storage->name).toStdString());
     return QString::fromUtf8(title.data(), qsizetype(std::min(title.size(), size_t{255})));
 }
 
-// The localised name of a storage; an empty text for unknown storage, a null one when the name cannot be had.
-QString storageName(int32_t location)
+void appendProfiles(QComboBox *menu, const ProfileList &list)
 {
-    const char *key = location == kLocationDisk ? "Disk" : location == kLocationCard ? "Card" : nullptr;
-    if (!key)
-        return QStringLiteral("");
-    const QString name = localizedString(key);
-    return name.isEmpty() ? QString() : name;
-}
-
-// Appends the listed profiles; false when some storage name could not be had.
-bool appendProfiles(QComboBox *menu, const ProfileList &list)
-{
-    bool complete = true;
     for (int32_t i = 0; i < std::min<int32_t>(list.count, kProfileSlots); ++i) {
         const ProfileRecord &record = list.records[i];
-        if (!bv::isListed(record.InMenu))
-            continue;
-        const QString storage = storageName(record.Location);
-        if (storage.isNull()) {
-            complete = false;
-            continue;
-        }
-        if (menu)
-            menu->addItem(profileTitle(record, storage));
+        if (bv::isListed(record.InMenu))
+            menu->addItem(profileTitle(record));
     }
-    return complete;
 }
 
 } // namespace
@@ -69,8 +52,10 @@ int32_t PDECommon::commonAddMenuFromProfilePlist(PDEControlTable table)
             const auto which = bv::profileClassOfKind(table[row].profileKind);
             auto *menu = qobject_cast<QComboBox *>(table[row].control);
             // Once set, the result stays: only the last value counts, and no profile row sets it back.
-            if (!which || !appendProfiles(menu, (*lists)[*which]))
+            if (!which)
                 result = paramErr;
+            else if (menu)
+                appendProfiles(menu, (*lists)[*which]);
         }
         return result;
     } catch (const std::bad_alloc &) {

@@ -92,8 +92,7 @@ int16_t PDECommon::commonGetTicketAddedProfile(const PDEControlItem *item, const
     int16_t position = 0;
     if (list) {
         visitNumbered(*list, [&](const ProfileRecord &record, int16_t number) {
-            const bool known = record.Location == kLocationDisk || record.Location == kLocationCard;
-            if (!known || QString::fromStdString(bv::devicePath(record)) != wanted)
+            if (!bv::profileStorage(record.Location) || QString::fromStdString(bv::devicePath(record)) != wanted)
                 return false;
             position = number;
             return true;

@@ -4,6 +4,7 @@
 #include "colorrules/AdvancedColorOptions.h"
 #include "colorrules/GreyedReasons.h"
 #include "common/PDECommon.h"
+#include "discovery/ProtocolCodes.h"
 #include "platform/Bundle.h"
 #include "platform/Log.h"
 #include "platform/RootPath.h"
@@ -20,23 +21,17 @@
 
 namespace {
 
-constexpr char kProfileFolder[] = "/Library/Printers/BREVANE/QL70/Profiles";
+// Where browsing for a profile begins.
+constexpr char kBrowseFolder[] = "/Library/Printers/BREVANE/QL70/Profiles";
 
 constexpr uint32_t kFileNameLimit = 31;
 constexpr uint32_t kExtensionLimit = 3;
 constexpr uint32_t kProfileNameLimit = 30;
 
-// Protocol codes of the queues whose printer is not on the network.
-constexpr int32_t kAppleTalk = 2;
-constexpr int32_t kUSB = 3;
-
 // A new entry's place in the printer's table, counted on from its slot; and what else it starts with.
 constexpr int32_t kFirstOwnIndex = 500;
 constexpr int32_t kNewProfileClass = 2;
 constexpr int32_t kNewAvailability = 3;
-
-constexpr int kDiskItem = 0;
-constexpr int kCardItem = 1;
 
 QString textOf(const char (&field)[kProfileTextBytes])
 {
@@ -92,7 +87,7 @@ void ProfileControl::setConstTable(PDEControlTable table)
 
 bool ProfileControl::isLocalQueue() const
 {
-    return protocolType == kAppleTalk || protocolType == kUSB;
+    return bv::isLocalProtocol(protocolType);
 }
 
 // ---- Opening and closing ----
@@ -141,7 +136,8 @@ void ProfileControl::initWithProfileControl()
     protocolType = PDECommon::commoniGetProtocol(m_session);
 
     c._locationMenu->clear();
-    c._locationMenu->addItems({localizedString("Disk"), localizedString("Card")});
+    for (const bv::ProfileStorage &storage : bv::kProfileStorages)
+        c._locationMenu->addItem(localizedString(storage.name), storage.location);
     c._profileMenu->setCurrentIndex(kProfileRGB);
     c._profileMenu->setEnabled(true);
     c._fileNameEdit->setMaxLength(kFileNameLimit, kExtensionLimit);
@@ -264,10 +260,8 @@ void ProfileControl::selectionChanged()
     const bool onPrinter = bv::isOnPrinter(record.InMenu);
     showFields(textOf(record.FileName), textOf(record.ProfileName));
     // Any other storage leaves the menu as it was.
-    if (record.Location == kLocationDisk)
-        m_window->controls._locationMenu->setCurrentIndex(kDiskItem);
-    else if (record.Location == kLocationCard)
-        m_window->controls._locationMenu->setCurrentIndex(kCardItem);
+    if (const int item = m_window->controls._locationMenu->findData(record.Location); item >= 0)
+        m_window->controls._locationMenu->setCurrentIndex(item);
     enableListButtons(true, true, !onPrinter);
     if (onPrinter)
         m_window->explainDelete(localizedString("A profile that is on the printer cannot be deleted"));
@@ -386,7 +380,7 @@ void ProfileControl::profileOK()
     const QString fileName = c._fileNameEdit->text();
     if (fileName.isEmpty() || fileName.startsWith(u'.'))
         return;
-    const int32_t location = c._locationMenu->currentIndex() == kDiskItem ? kLocationDisk : kLocationCard;
+    const int32_t location = c._locationMenu->currentData().toInt();
     if (isTaken(fileName.toStdString(), location, buttonIdentify == kEditing ? row : -1))
         return;
     ProfileRecord *target = targetOfProfileOK();
@@ -440,7 +434,7 @@ void ProfileControl::deleteButton()
 
 void ProfileControl::browseButton()
 {
-    const QString folder = QString::fromStdString(bv::mapRootPath(kProfileFolder));
+    const QString folder = QString::fromStdString(bv::mapRootPath(kBrowseFolder));
     // Its parent may go while it is open, and takes it along.
     const QPointer<QFileDialog> panel(new QFileDialog(m_window, localizedString("Choose a Profile"), folder));
     panel->setOption(QFileDialog::DontUseNativeDialog);

@@ -39,12 +39,18 @@ QString textOf(std::string_view utf8)
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
+// Empty for unknown storage.
+QString storageName(int32_t location)
+{
+    const ProfileStorage *storage = profileStorage(location);
+    return storage ? localizedString(storage->name) : QString();
+}
+
 } // namespace
 
 ProfileTableModel::ProfileTableModel(QObject *parent)
     : QAbstractTableModel(parent), m_icon(QString::fromStdString(mapRootPath(kIconPath))),
-      m_font(QFontDatabase::systemFont(QFontDatabase::GeneralFont)), m_disk(localizedString("Disk")),
-      m_card(localizedString("Card"))
+      m_font(QFontDatabase::systemFont(QFontDatabase::GeneralFont))
 {
     m_font.setPointSize(kTextPoints);
 }
@@ -75,7 +81,7 @@ QString ProfileTableModel::cellText(const ProfileRecord &record, int column) con
     case kProfileName:
         return textOf(fieldText(record.ProfileName));
     case kLocation:
-        return record.Location == kLocationDisk ? m_disk : record.Location == kLocationCard ? m_card : QString();
+        return storageName(record.Location);
     default:
         return {};
     }

@@ -39,8 +39,6 @@ private:
     bool m_showIcons = false;
     QImage m_icon;
     QFont m_font;
-    QString m_disk;
-    QString m_card;
 };
 
 } // namespace bv

@@ -2,6 +2,7 @@
 #include "queues/RememberedTickets.h"
 
 #include "platform/Log.h"
+#include "queues/JobOnlyKeys.h"
 #include "queues/StateFolder.h"
 #include "queues/TicketJson.h"
 
@@ -17,9 +18,6 @@ namespace {
 
 // File names hold at most 255 bytes; the rest is room for what is put behind.
 constexpr qsizetype kLongestName = 200;
-
-// What is of one job only, under the names by which the print server and PPDs know it.
-constexpr const char *kNeverRemembered[] = {"copies", "Copies", "page-ranges", "PageRanges"};
 
 void logLine(const QString &text)
 {
@@ -66,8 +64,7 @@ std::optional<PrintDictionary> RememberedTickets::load(const QString &queue) con
 bool RememberedTickets::store(const QString &queue, const PrintDictionary &ticket) const
 {
     PrintDictionary kept = ticket;
-    for (const char *key : kNeverRemembered)
-        kept.entries.erase(QString::fromLatin1(key));
+    removeJobOnlyKeys(&kept);
     const QString path = filePath(queue);
     const QByteArray json = QJsonDocument(toJson(kept)).toJson();
     QSaveFile file(path);
