@@ -1,9 +1,15 @@
 // The batch, driven from outside on a panel that is not ours.
+#include "batch/ControlActions.h"
+#include "batch/ControlCatalog.h"
 #include "support/BatchProcess.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QFile>
 #include <QImage>
 #include <QJsonArray>
+#include <QLineEdit>
+#include <QPushButton>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -14,6 +20,24 @@ using ::testing::HasSubstr;
 
 const QStringList kStart = {"--plugin", BV_BUILD_DIR "/tests/testpanel.so", "--ppd",
                             BV_SOURCE_DIR "/tests/support/small.ppd"};
+
+TEST(Controls, AreDescribedByThemselvesAndDrivenFromTheEndOfWhatStandsThere)
+{
+    QWidget view;
+    QWidget box(&view);
+    QPushButton button("Save && &X", &box);
+    QLineEdit field("ab", &view);
+    box.setEnabled(false);
+    const QJsonObject described = bv::describeControl({&view, false}, &button);
+    EXPECT_EQ(described["enabled"], true);
+    EXPECT_EQ(described["text"], "Save & X");
+    field.setCursorPosition(0);
+    EXPECT_EQ(bv::typeIntoControl(&field, "c"), "");
+    EXPECT_EQ(field.text(), "abc");
+    QApplication::clipboard()->setText("kept");
+    EXPECT_EQ(bv::setControl(&field, "new"), "");
+    EXPECT_EQ(QApplication::clipboard()->text(), "kept");
+}
 
 class Batch : public ::testing::Test
 {
@@ -203,7 +227,7 @@ const QString kWrongCommands =
     R"(set paperTable.used 1 x|set paperTable.used 2 0|set paperTable.size 1 1|set paperTable.paper 1 1|)"
     R"(set tonerMenu 1 1|type tonerMenu x|select paperTable 3|select paperTable -2|select tonerMenu 0|)"
     R"(press nothing|press tonerMenu|control nothing|control qt_spinbox_lineedit|controls window|choose x|)"
-    R"(set tonerMenu "1|setTicket|setTicket {"a":null}|setTicket [1]|print|print /nonexistent|)"
+    R"(set tonerMenu "1|setTicket|setTicket {"a":null}|setTicket [1]|print|print /nonexistent|print /dev/null|)"
     R"(screenshot ""|screenshot /nonexistent/x.png)";
 
 TEST_F(Batch, AWrongCommandIsAnErrorThatChangesNothingAndDoesNotEndTheBatch)

@@ -20,8 +20,11 @@ TEST(GreyedReasons, NameTheConditionThatHoldsAndGoAway)
     EXPECT_EQ(t.control("GoToAdvancedOptionsButton")->toolTip(),
               "Available only while QuickColorPopup is set to fourth. Choose that to use this setting.");
 
-    t.box("ColorAsGrayCheckBox")->setChecked(false);
     t.menu("ImageRGBSourcePopup")->setCurrentIndex(1);
+    bv::explainGreyedControls(t.table());
+    EXPECT_EQ(intent->toolTip(), "Not available while ColorAsGrayCheckBox is on. Turn it off to use this setting.");
+
+    t.box("ColorAsGrayCheckBox")->setChecked(false);
     vColorPresetConstraints(t.table());
     bv::explainGreyedControls(t.table());
     EXPECT_TRUE(intent->toolTip().isEmpty());

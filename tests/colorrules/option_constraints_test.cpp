@@ -116,6 +116,8 @@ TEST(Evaluator, OperatorsAndExpressions)
     EXPECT_FALSE(bv::conditionHolds({"edgetypepopup", 3, kCSTEqual}, t.table()));
 
     const CSTCondition trueFalse[] = {{"EconoModeCheckBox", 1, kCSTEqual}, {"EconoModeCheckBox", 0, kCSTEqual}};
+    std::vector<int32_t> long41(40, 1); // no end token among forty: the or behind them is not read
+    long41.insert(long41.end(), {kCSTOr, kCSTEnd});
     const CSTCondition falseTrue[] = {{"EconoModeCheckBox", 0, kCSTEqual}, {"EconoModeCheckBox", 1, kCSTEqual}};
     struct
     {
@@ -132,7 +134,7 @@ TEST(Evaluator, OperatorsAndExpressions)
         {falseTrue, 0, {kCSTEnd}, 0},
         {trueFalse, 2, {kCSTAnd, kCSTEnd}, 0}, // an operator without an operand takes false
         {falseTrue, 2, {999, kCSTOr, 1, kCSTOr, kCSTEnd}, 1},
-        {falseTrue, 2, std::vector<int32_t>(45, 0), 0}, // no end token: forty are read
+        {falseTrue, 2, long41, 0},
     };
     for (const auto &row : rules) {
         const CSTRule rule{VRCHG, row.count, row.conditions, 0, row.expression.data(), "", 0, kCSTEnd, 0, nullptr};

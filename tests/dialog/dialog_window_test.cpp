@@ -117,22 +117,6 @@ TEST_F(Dialog, SendsWhatItShows)
     EXPECT_EQ(dialog->result(), QDialog::Accepted);
 }
 
-TEST_F(Dialog, ATicketToStartFromIsForItsQueueAloneAndSaysNothingOfCopiesAndPages)
-{
-    PrintDictionary ticket;
-    ticket.setValue("TPToner", "Rich");
-    for (const char *key : {"copies", "page-ranges"})
-        ticket.setValue(key, "7");
-    open({"Bare", ticket, {document}}); // which cannot be opened
-    switchTo("Paper");
-    EXPECT_TRUE(summary().startsWith("Toner: Normal"));
-    source.ppdPaths["Bare"] = source.ppdPaths["Paper"];
-    switchTo("Bare");
-    EXPECT_TRUE(summary().startsWith("Toner: Rich"));
-    ASSERT_TRUE(print());
-    EXPECT_EQ(sink.jobs[0].options.count("copies") + sink.jobs[0].options.count("page-ranges"), 0U);
-}
-
 TEST_F(Dialog, RemembersAQueuesChoicesOnceTheJobIsSentAndNothingOnCancel)
 {
     open();
@@ -214,19 +198,29 @@ TEST_F(Dialog, FindsTheQueuesWithoutPaneInTheBackground)
     EXPECT_FALSE(marked("Second"));
 }
 
-TEST_F(Dialog, ShowsAQueueWithoutDriverAsUnusableAndOffersToTryAgain)
+TEST_F(Dialog, ShowsAQueueWithoutDriverAsUnusableOffersToTryAgainAndKeepsItsTicket)
 {
-    open({"Bare", std::nullopt, {document}});
+    PrintDictionary ticket;
+    for (const char *key : {"copies", "page-ranges"})
+        ticket.setValue(key, "7");
+    ticket.setValue("TPToner", "Rich");
+    open({"Bare", ticket, {document}});
     EXPECT_TRUE(dialog->messageText().contains("Bare"));
     EXPECT_FALSE(dialog->printReason().isEmpty());
     EXPECT_FALSE(dialog->hadPrinter());
+    switchTo("Paper");
+    EXPECT_TRUE(summary().startsWith("Toner: Normal")) << "the ticket is for the other queue";
+    switchTo("Bare");
     source.ppdPaths["Bare"] = source.ppdPaths["Paper"];
     QSignalSpy ready(dialog.get(), &PrintDialog::ready);
     find<QPushButton>("messageAction")->click();
     ASSERT_TRUE(ready.wait());
     EXPECT_EQ(dialog->messageText(), QString());
-    EXPECT_EQ(dialog->printReason(), QString());
     EXPECT_TRUE(dialog->hadPrinter());
+    EXPECT_TRUE(summary().startsWith("Toner: Rich"));
+    ASSERT_TRUE(print());
+    EXPECT_EQ(sink.jobs[0].options.count("copies") + sink.jobs[0].options.count("page-ranges"), 0U)
+        << "the dialog's own rows say these";
 }
 
 TEST_F(Dialog, SurvivesAPrintServerThatIsNotThereAndLooksAgain)

@@ -88,6 +88,9 @@ TEST(FolderSink, KeepsTheOptionsAndTheDocumentsOfOneNameApart)
     ASSERT_TRUE(options.open(QIODevice::ReadOnly) && copy.open(QIODevice::ReadOnly));
     EXPECT_EQ(QJsonDocument::fromJson(options.readAll()).object(), (QJsonObject{{"k", "a b"}}));
     EXPECT_EQ(copy.readAll(), "x/a.txt");
+    qputenv("BVPRINT_OUTPUT", "/var/jobs");
+    EXPECT_EQ(bv::demoOutputFolder(), "/var/jobs");
+    qunsetenv("BVPRINT_OUTPUT");
 }
 
 // The option that comes of a text; none: refused.
@@ -95,7 +98,7 @@ TEST(PageRanges, AreReadAsPeopleWriteThem)
 {
     // clang-format off
     const std::pair<const char *, const char *> rows[] = {
-        {"3", "3"}, {" 1 - 3 , 8- ", "1-3,8-"}, {"-2", "1-2"}, {"9, 1-4; 3-6", "1-6,9"}, {"1-2,3", "1-3"},
+        {"3", "3"}, {" 1 - 3 , 8- ", "1-3,8-"}, {"-2", "1-2"}, {"9, 1-4; 3-6", "1-6,9"}, {"1-2,3", "1-3"}, {"1,3", "1,3"},
         {"5-, 7-9", "5-"}, {"1,,2-2", "1-2"}, {"2–4، ٧", "2-4,7"}, {"99999999999999999999", "2147483647"}, {"", ""},
         {" , ", ""}, {"-", ""}, {"0-3", ""}, {"5-2", ""}, {"1-2-3", ""}, {"a", ""}, {"1 2", ""}, {"+1", ""},
     };

@@ -143,6 +143,7 @@ TEST_F(Panel, GoesToTheAdvancedPaneAndBack)
     auto *toAdvanced = control<QPushButton>("button_AdvanceColorOptions");
     ASSERT_TRUE(toAdvanced->isEnabled());
     control<QCheckBox>("check_ColorAsGrayscale")->click();
+    EXPECT_FALSE(control<QCheckBox>("check_ColorSeparation")->isEnabled());
     EXPECT_TRUE(control<QComboBox>("menu_iRGBSource")->isEnabled()) << "the rules of a change stay in its pane";
     toAdvanced->click();
     EXPECT_TRUE(control<QWidget>("onAdvancedView")->isVisibleTo(view));
@@ -251,6 +252,12 @@ TEST_F(Panel, WithoutSettingsOrSessionItShowsDefaultsAndAnEmptySummary)
         EXPECT_TRUE(panel->shouldPrint());
         EXPECT_TRUE(panel->shouldHide());
         EXPECT_TRUE(order().isEmpty());
+        if (given) {
+            choose("menu_Brightness", 0);
+            panel->restoreValuesAndReturnError(nullptr);
+            EXPECT_EQ(control<QComboBox>("menu_Brightness")->currentData().toString(),
+                      ppdFindOption(ppd->get(), "BVBrightness")->defchoice);
+        }
         panel->terminate();
     }
     EXPECT_TRUE(ticket.top.entries.empty());

@@ -1,4 +1,5 @@
 // Stored profiles in the menus of profile rows, and a chosen profile in the ticket.
+#include "colorrules/AdvancedColorOptions.h"
 #include "profiles/ProfileKinds.h"
 #include "profiles/ProfileListFile.h"
 #include "common/PDECommon.h"
@@ -18,11 +19,12 @@ class ProfileMenus : public testing::Test
 protected:
     ProfileMenus()
     {
-        for (const auto &[menu, kind] : {std::pair(&rgb, 1), {&dst, 2}, {&sim, 3}})
-            rows.push_back({menu, kPDEControlPopUp, "BVSrc", nullptr, nullptr, "", int16_t(kind), nullptr});
+        for (const auto &[menu, kind, keyword] :
+             {std::tuple(&rgb, 1, "BVSrc"), {&dst, 2, "BVDst"}, {&sim, 3, "BVSim"}}) {
+            rows.push_back({menu, kPDEControlPopUp, keyword, nullptr, nullptr, "", int16_t(kind), nullptr});
+            PDECommon::commonGetPPDArrayForUIOption(ppd.get(), keyword, &rows.back().ppdChoices);
+        }
         rows.push_back(endControlItem());
-        for (size_t i = 0; i < 3; ++i)
-            PDECommon::commonGetPPDArrayForUIOption(ppd.get(), "BVSrc", &rows[i].ppdChoices);
     }
     static void fill(ProfileList &list, const std::vector<Entry> &entries)
     {
@@ -54,7 +56,11 @@ protected:
     int32_t restore() { return PDECommon::commonSyncPaneFromTicket(&ticket, &session, rows.data()); }
 
     const bvtest::TestRoot root;
-    bvtest::TestPpd ppd{bvtest::ppdOption("BVSrc", "Off sRGB Auto Wide Last", "PickOne", "sRGB"), nullptr};
+    static QByteArray option(const char *keyword)
+    {
+        return bvtest::ppdOption(keyword, "Off sRGB Auto Wide Last", "PickOne", "sRGB");
+    }
+    bvtest::TestPpd ppd{option("BVSrc") + option("BVDst") + option("BVSim"), nullptr};
     bvtest::TestTicket ticket;
     bvtest::TestSession session;
     QComboBox rgb, dst, sim;
@@ -85,25 +91,23 @@ TEST_F(ProfileMenus, EachKindShowsItsListInOrderAndTwinsStayTwo)
 
 TEST_F(ProfileMenus, AChosenProfileGoesIntoTheTicketAndComesBack)
 {
-    write({{3, "a.icc", 4}, {1, "b.icc", 4}, {6, "c.icc", 5}});
+    write({{3, "a.icc", 4}, {1, "b.icc", 4}, {6, "c.icc", 5}}, {{3, "s.icc", 4}}, {{3, "d.icc", 4}});
     build();
-    rgb.setCurrentIndex(6); // the second profile, behind five choices
-    EXPECT_EQ(save(), noErr);
-    EXPECT_EQ(ticket.inQueue("BVSrcCustomFilename"),
-              QString::fromStdString(bv::encodeDevicePath("/ataCf1a/data/USfiles/Profiles/c.icc")));
-    rgb.setCurrentIndex(0);
-    rows[1].ppdKey = rows[2].ppdKey = ""; // these rows share the keyword in this test only
+    for (QComboBox *menu : {&rgb, &dst, &sim}) {
+        for (int profile = menu->count() - 1; profile >= 5; --profile) { // behind five choices
+            menu->setCurrentIndex(profile);
+            EXPECT_EQ(save(), noErr);
+            menu->setCurrentIndex(0);
+            restore();
+            EXPECT_EQ(menu->currentIndex(), profile);
+        }
+    }
     rgb.setCurrentIndex(6);
     save();
+    EXPECT_EQ(ticket.inQueue("BVSrcCustomFilename"),
+              QString::fromStdString(bv::encodeDevicePath("/ataCf1a/data/USfiles/Profiles/c.icc")));
     EXPECT_EQ(ticket.atTop("BVSrcCustom"), "True");
     EXPECT_EQ(ticket.atTop("BVSrc"), "Off") << "the first choice stands in for a profile";
-    for (const int profile : {6, 5}) {
-        rgb.setCurrentIndex(profile);
-        save();
-        rgb.setCurrentIndex(0);
-        restore();
-        EXPECT_EQ(rgb.currentIndex(), profile);
-    }
 
     rgb.setCurrentIndex(2);
     save();
@@ -114,11 +118,22 @@ TEST_F(ProfileMenus, AChosenProfileGoesIntoTheTicketAndComesBack)
     EXPECT_EQ(rgb.currentIndex(), 2);
 }
 
+TEST_F(ProfileMenus, ProfilesStandOnceHoweverOftenAMenuIsBuiltWhoseOptionThePpdLacks)
+{
+    write({{3, "a.icc", 4}});
+    AdvancedColorOptions pane;
+    auto *menu = new QComboBox(&pane);
+    menu->setObjectName("menu_iRGBSource");
+    pane.createPDEControlTable();
+    pane.createPDEItemForPPDKey();
+    pane.rebuildProfileItems();
+    EXPECT_EQ(items(*menu), QStringList{"a.icc(Office)Disk"});
+}
+
 TEST_F(ProfileMenus, AProfileThatIsGoneGivesThePpdDefault)
 {
     write({{3, "a.icc", 4}, {3, "x.icc", 7}});
     build();
-    rows[1].ppdKey = rows[2].ppdKey = "";
     rgb.setCurrentIndex(6);
     save();
     EXPECT_EQ(ticket.inQueue("BVSrcCustomFilename"), QString::fromStdString(bv::encodeDevicePath("x.icc")))
@@ -137,7 +152,6 @@ TEST_F(ProfileMenus, TicketEntriesOfAnyKindNameNoProfile)
 {
     write({{3, "a.icc", 4}});
     build();
-    rows[1].ppdKey = rows[2].ppdKey = "";
     const QString good = QString::fromStdString(bv::encodeDevicePath("/ata1a/data/USfiles/Profiles/a.icc"));
     struct
     {

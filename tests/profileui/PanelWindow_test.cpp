@@ -103,6 +103,19 @@ TEST_F(PanelWindow, AHelperThatIsGoneLeavesTheMenusTrueToTheFile)
     EXPECT_EQ(fileBytes(), file);
 }
 
+TEST_F(PanelWindow, BelongsToTheWindowThatHoldsThePaneJustNow)
+{
+    QDialog dialog;
+    for (QWidget *holder : {view, static_cast<QWidget *>(&dialog)}) {
+        view->setParent(holder == view ? nullptr : holder);
+        manageProfiles([&] {
+            EXPECT_EQ(window->parentWidget(), holder);
+            press(c()._windowCancel);
+        });
+    }
+    view->setParent(nullptr);
+}
+
 TEST_F(PanelWindow, TheRulesRunAgainAfterOkAndNotAfterCancel)
 {
     // A preset leaves nothing to adjust in the advanced pane, so its button is greyed out and says why.

@@ -236,6 +236,10 @@ TEST_F(ProfileWindow, ALocalQueuesChangesAreMergedIntoTheFileOfTheMoment)
         c()._fileNameEdit->selectAll();
         type(c()._fileNameEdit, QStringLiteral("seven.icc"));
         press(c()._localOK);
+        c()._profileMenu->setFocus();
+        key(Qt::Key_Down);
+        clickRow(0);
+        press(c()._deleteButton);
         // Meanwhile another dialog writes the file: a new profile of the printer, and one of the user's.
         append(lists->rgb, 2, "late.icc", "Late");
         append(lists->rgb, 6, "other.icc", "Other");
@@ -245,6 +249,7 @@ TEST_F(ProfileWindow, ALocalQueuesChangesAreMergedIntoTheFileOfTheMoment)
     // The printer's profiles of the file that were neither shown nor deleted come first; the deleted one is out.
     EXPECT_EQ(summary(readFile()->rgb),
               QStringLiteral("two.icc:2:5 late.icc:2:4 one.icc:1:4 three.icc:3:4 five.icc:5:7 seven.icc:6:5"));
+    EXPECT_EQ(readFile()->sim.count, 0);
 }
 
 TEST_F(ProfileWindow, CheckMarksFollowMouseAndSpaceBar)

@@ -47,6 +47,7 @@ TEST_F(PpdFileTest, AFileThatEndsInsideAnOptionIsRefusedWhereverItIsCut)
     const qsizetype to = whole.indexOf("*CloseUI");
     for (qsizetype length = from; length <= to; ++length)
         EXPECT_FALSE(open(whole.left(length))) << length;
+    EXPECT_FALSE(open(kHead + "*JCLOpenUI *JCLEcono: Boolean\n*DefaultJCLEcono: True\n"));
 }
 
 TEST_F(PpdFileTest, WhatIsNoPpdIsNamedInASentence)

@@ -70,6 +70,7 @@ TEST(RememberedTickets, KeepEachQueueApartUnderAnyName)
         ASSERT_TRUE(remembered.store(names[i], ticket)) << qPrintable(names[i]);
         EXPECT_LT(QFileInfo(remembered.filePath(names[i])).fileName().toUtf8().size(), 256);
         EXPECT_EQ(QFileInfo(remembered.filePath(names[i])).dir(), QDir(folder.filePath("tickets")));
+        EXPECT_FALSE(QFileInfo(remembered.filePath(names[i])).isHidden());
     }
     for (qsizetype i = 0; i < names.size(); ++i) {
         const auto ticket = remembered.load(names[i]);

@@ -42,6 +42,14 @@ TEST(TicketJson, IsRefusedInASentence)
     }
 }
 
+TEST(Ticket, NoValueTakesTheKeyAway)
+{
+    bv::Ticket ticket;
+    ticket.setValue("a", "1");
+    ticket.setValue("a", PrintValue());
+    EXPECT_EQ(written(ticket.entries()), "{}");
+}
+
 TEST(Ticket, ADeepCopySharesNothingWithTheTicket)
 {
     bv::Ticket ticket;
