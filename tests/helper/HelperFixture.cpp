@@ -104,6 +104,10 @@ RunResult HelperTest::run(const std::vector<std::string> &arguments, const RunOp
     if (pipe2(output.data(), O_CLOEXEC) != 0 || pipe2(errors.data(), O_CLOEXEC) != 0)
         return {};
     const pid_t child = fork();
+    if (child == 0 && options.withoutReaders) {
+        close(output[0]);
+        close(errors[0]);
+    }
     if (child == 0)
         becomeHelper(arguments, options, m_root, {output[1], errors[1]});
     close(output[1]);

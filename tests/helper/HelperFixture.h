@@ -26,6 +26,7 @@ struct RunOptions
     std::optional<uid_t> user;                      // another real user (root only), in the fixture's group
     std::string program;                            // another one than the built helper
     std::optional<size_t> fileSizeLimit;            // in bytes, see setrlimit(2)
+    bool withoutReaders = false;                    // of standard output and error
     bool withoutStandardStreams = false;            // descriptors 0 to 2 are closed, so no output is seen
 };
 

@@ -103,6 +103,15 @@ TEST_F(Faults, AFileSizeLimitIsAnErrorAndNoSuddenEnd)
     EXPECT_EQ(names(), "");
 }
 
+TEST_F(Faults, LostReadersStopNoRequestHalfway)
+{
+    ASSERT_TRUE(answers(true, {kPiece, url(), "<?xml"}));
+    RunOptions options;
+    options.withoutReaders = true;
+    EXPECT_EQ(run({kCommit, url()}, options).exitCode, 1) << "its complaints and its answer go nowhere";
+    EXPECT_EQ(names(), "");
+}
+
 TEST_F(Faults, ATornPieceIsNeverCommitted)
 {
     const auto requests = requestsFor(m_new);
@@ -168,6 +177,14 @@ TEST_F(Faults, ANameSwappedBeforeTheRenameLeadsNowhere)
         EXPECT_EQ(contents("/victim"), "untouched");
         unlink(real(current()).c_str());
     }
+    // Swapped a little earlier, the old list is not given up for it either.
+    ASSERT_TRUE(writeList(m_old));
+    ASSERT_TRUE(answers(true, {kPiece, url(), m_new}));
+    RunOptions options = with("fsync:1:SWAP");
+    options.environment["FAULT_NAME"] = real(staging());
+    options.environment["FAULT_TARGET"] = real("/victim");
+    EXPECT_TRUE(answers(false, {kCommit, url()}, options));
+    EXPECT_EQ(contents(current()), m_old);
 }
 
 TEST_F(Faults, AFileThatIsExchangedBetweenLookAndOpenIsNotRead)

@@ -65,6 +65,7 @@ TEST(ListCheck, TakesCompleteListsOnly)
         {"text between elements", false, changed("</dict>\n<key>SIM", "</dict>x<key>SIM")},
         {"element inside a string", false, listText("<string>x</string>")},
         {"integer that is none", false, changed("<integer>1<", "<integer>one<")},
+        {"integer without a digit", false, changed("<integer>1<", "<integer>-<")},
         {"a class missing", false, changed("SIM", "sim")},
         {"a field missing", false, changed("<key>Location</key>", "<key>location</key>")},
         {"a class twice", false, changed("<key>PlistVersion</key>", "<key>RGB</key><true/><key>PlistVersion</key>")},
@@ -73,6 +74,8 @@ TEST(ListCheck, TakesCompleteListsOnly)
          changed("<key>Location</key><dict>", "<key>Location</key><true/><key>other</key><dict>")},
         {"classes one level too deep", false,
          changed("<dict>", "<dict><key>list</key><dict>", changed(close, "</dict></dict></plist>"))},
+        {"as deep as may be", true, nested("<array>", "</array>", 30)},
+        {"too deep", false, nested("<array>", "</array>", 31)},
         {"nested deeply", false, nested("<array>", "</array>", 100000)},
     };
     for (const TextRow &row : rows)

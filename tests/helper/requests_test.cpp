@@ -130,7 +130,7 @@ TEST_F(Requests, WhatIsNoRequestPrintsFalseInOneLineAndTouchesNothing)
         {{""}, "=FALSE\n"},
         {{"bvplistexistprofile_xpc", current()}, "bvplistexistprofile_xpc=FALSE\n"},
         {{"bvPListExistProfile_XPC ", current()}, "bvPListExistProfile_XPC =FALSE\n"},
-        {{"x\nbvPListIsAdminProfile_XPC=TRUE\n", current()}, "x?bvPListIsAdminProfile_XPC=TRUE?=FALSE\n"},
+        {{"x\nbvPListIsAdminProfile_XPC=TRUE\x7f", current()}, "x?bvPListIsAdminProfile_XPC=TRUE?=FALSE\n"},
     };
     const std::map<std::string, size_t> needed = {{kAdmin, 1}, {kExist, 1},  {kRemove, 1},        {kSwap, 3},
                                                   {kPiece, 2}, {kCommit, 1}, {"mibwalk_XPC", 10}, {"other", 99}};

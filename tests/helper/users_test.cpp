@@ -131,7 +131,11 @@ TEST_F(Users, OnlyTheVeryLoginNameStandsForAUser)
     EXPECT_TRUE(answers(true, {kAdmin, currentPath("daemon")}, anyCase));
     EXPECT_TRUE(answers(false, {kAdmin, currentPath("Daemon")}, anyCase));
 
+    std::filesystem::copy_file(BV_BUILD_DIR "/bin/QL70Walk", m_root + "/QL70Walk");
+    ASSERT_EQ(chmod((m_root + "/QL70Walk").c_str(), 0755), 0);
     std::vector<std::string> walk = walkRequest();
+    walk[2] = m_alice.login;
+    EXPECT_EQ(run(walk, m_alice.as).output, "mibwalk_XPC=iRet=1\n");
     for (const char *login : {"bin", "daemo", "daemons", "Daemon", ""}) {
         walk[2] = login;
         EXPECT_TRUE(answers(false, walk, m_alice.as)) << login;

@@ -68,6 +68,10 @@ TEST(Child, LeavesNoDescriptorOpen)
     const int after = dup(STDIN_FILENO);
     close(after);
     EXPECT_EQ(before, after);
+    // Of the pipe the child has its own standard output alone.
+    const auto listed =
+        shell("for fd in /proc/$$/fd/*; do readlink $fd; done | grep -cxF \"$(readlink /proc/$$/fd/1)\"");
+    EXPECT_TRUE(listed && listed->output == "1\n") << (listed ? listed->output : "");
 }
 
 TEST(Child, AnswersInAHostWithoutStandardStreamsOrChildSignals)
@@ -128,6 +132,8 @@ TEST(PlistGuard, RefusesWhatTheParserMustNotSee)
     // What the parser would take most of a minute for.
     const auto repeated = [](const char *part, int times) { return nested(times, part, ""); };
     EXPECT_STREQ(plistRefusal(repeated("&amp;", 800'000)), "too long a text with entities");
+    EXPECT_EQ(plistRefusal(repeated("<array/>", 4096)), nullptr) << "those nest nothing";
+    EXPECT_STREQ(plistRefusal(repeated("<array/>", 4097)), "too many dictionaries and arrays");
     EXPECT_STREQ(plistRefusal(repeated("<key>Ez</key><true/>", 12'001)), "too many keys");
     EXPECT_EQ(plistRefusal(repeated("<key>Ez</key><true/>", 12'000)), nullptr);
     EXPECT_STREQ(plistRefusal("bplist00</plist>"), "a binary list");

@@ -218,6 +218,9 @@ TEST(Paths, ComeFromTheLoginNameCutToTheirBuffer)
     const bv::ProfilePaths cut = bv::profilePathsFor(std::string(300, 'l'));
     EXPECT_EQ(cut.current.size(), 254u);
     EXPECT_TRUE(cut.current.ends_with("lll"));
+    const size_t around = bv::profilePathsFor("x").current.size() - 1;
+    EXPECT_EQ(bv::profilePathsFor(std::string(254 - around, 'l')).current.size(), 254u);
+    EXPECT_TRUE(bv::profilePathsFor(std::string(255 - around, 'l')).current.ends_with(".plis"));
 }
 
 // A script in the helper's place, run as a child process.

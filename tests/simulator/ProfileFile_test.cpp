@@ -14,6 +14,7 @@ TEST(ProfileFile, ReadsRowsGapsAndMissingCells)
     const sim::ProfileFile file =
         parseProfiles("# a comment\n"
                       "\n"
+                      "row 1\n"
                       "1 disk A.ICC \"Name with \\\"quotes\\\" \\\\ \\x00\\xff\" 1 1 # behind\n"
                       "gap\n"
                       "- card - - -3 -\r\n"

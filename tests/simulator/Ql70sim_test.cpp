@@ -58,6 +58,9 @@ TEST_F(Ql70sim, RefusesBadArgumentsAndLists)
     const std::vector<std::pair<std::vector<std::string>, const char *>> cases = {
         {{}, "--port is missing"},
         {{"--port", "x"}, "\"x\" is no port"},
+        {{"--port", "65536"}, "\"65536\" is no port"},
+        {{"--port", "0", "more"}, "\"more\" is one argument too many"},
+        {{"--port", "0", "--profiles", m_folder.path()}, "it cannot be read"},
         {{"--port", "0", "--fault", "nonsense"}, "there is no fault \"nonsense\""},
         {{"--port", "0", "--profiles", bad}, "bad: line 1: a row has six fields"},
         {{"--port", "0", "--profiles", "/nowhere"}, "/nowhere: it cannot be read"},
