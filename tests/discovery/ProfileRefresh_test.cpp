@@ -160,15 +160,4 @@ TEST_F(WholeRefresh, TheListFollowsThePrinter)
     EXPECT_THAT(rgbList(), IsEmpty()) << "profiles that nobody put into a menu go when the printer does not answer";
 }
 
-TEST_F(WholeRefresh, NothingThePrinterSendsBreaksTheFile)
-{
-    bvtest::ProgramUnderTest printer({BV_BUILD_DIR "/bin/ql70sim", "--port", "0", "--fault", "odd-texts"});
-    ASSERT_TRUE(printer.waitFor("ready on"));
-    configure(printer.numberBehind(" port "));
-    refresh();
-    // The one name of the eight that the rule takes: "D" before its zero byte, of class 2.
-    EXPECT_THAT(rgbList(), testing::Contains("D=2"));
-    EXPECT_EQ(printer.stop(), 0);
-}
-
 } // namespace

@@ -9,32 +9,6 @@
 
 namespace {
 
-// A variable as the library hands it out, with the storage of its value.
-class Variable
-{
-public:
-    explicit Variable(long number) : m_number(number)
-    {
-        m_variable.type = ASN_INTEGER;
-        m_variable.val.integer = &m_number;
-        m_variable.val_len = sizeof(m_number);
-    }
-    explicit Variable(std::string text) : m_text(std::move(text))
-    {
-        m_variable.type = ASN_OCTET_STR;
-        m_variable.val.string = reinterpret_cast<u_char *>(m_text.data());
-        m_variable.val_len = m_text.size();
-    }
-    Variable(const Variable &) = delete;
-    Variable &operator=(const Variable &) = delete;
-    const netsnmp_variable_list *get() const { return &m_variable; }
-
-private:
-    long m_number = 0;
-    std::string m_text;
-    netsnmp_variable_list m_variable{};
-};
-
 std::vector<oid> cell(oid column, std::initializer_list<oid> index)
 {
     std::vector<oid> name(bv::kProfileEntryOid.begin(), bv::kProfileEntryOid.end());
@@ -43,10 +17,23 @@ std::vector<oid> cell(oid column, std::initializer_list<oid> index)
     return name;
 }
 
-template <typename Value> void spool(const std::vector<oid> &name, Value value)
+// Spools a value as the library hands it out.
+void spool(const std::vector<oid> &name, long number)
 {
-    const Variable variable(value);
-    vSpoolPlist(name.data(), name.size(), variable.get(), 0);
+    netsnmp_variable_list variable{};
+    variable.type = ASN_INTEGER;
+    variable.val.integer = &number;
+    variable.val_len = sizeof(number);
+    vSpoolPlist(name.data(), name.size(), &variable, 0);
+}
+
+void spool(const std::vector<oid> &name, std::string text)
+{
+    netsnmp_variable_list variable{};
+    variable.type = ASN_OCTET_STR;
+    variable.val.string = reinterpret_cast<u_char *>(text.data());
+    variable.val_len = text.size();
+    vSpoolPlist(name.data(), name.size(), &variable, 0);
 }
 
 class ProfileSpool : public testing::Test
@@ -67,9 +54,9 @@ TEST_F(ProfileSpool, ATextOf32BytesFillsTheFieldAndNothingMore)
     EXPECT_EQ(row(1).Location, 0);
     EXPECT_EQ(row(1).ProfileClass, 3);
     spool(cell(4, {1, 1}), std::string("AB"));
-    spool(cell(3, {1, 2}), std::string("D\0E", 3));
-    EXPECT_EQ(bv::fieldText(row(2).ProfileName), "D") << "cut at a zero byte";
     EXPECT_EQ(raw(row(1).FileName), "AB" + std::string(30, 'y')) << "a shorter text leaves the old tail";
+    spool(cell(3, {1, 2}), std::string("D\0E", 3));
+    EXPECT_EQ(raw(row(2).ProfileName), 'D' + std::string(31, '\0')) << "cut at a zero byte";
 }
 
 TEST_F(ProfileSpool, OnlyColumnOneCountsAndItCountsTwice)

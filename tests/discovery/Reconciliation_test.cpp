@@ -137,7 +137,8 @@ TEST_F(ReconciliationOfFile, AGoodWalkMarksWhatIsThereAndWhatIsNot)
 
 TEST_F(ReconciliationOfFile, AFailedWalkKeepsMenuProfilesAsUserEntries)
 {
-    fill(&m_stored->rgb, {record(1, 1, "NOT1.ICC"), record(2, 4, "MENU.ICC"), record(3, 5, "OWN.ICC")});
+    fill(&m_stored->rgb,
+         {record(1, 1, "NOT1.ICC"), record(2, 4, "MENU.ICC"), record(3, 5, "OWN.ICC"), record(0, 4, "NOINDEX.ICC")});
     fill(&m_stored->sim, {record(2, 2, "GONE.ICC", kLocationDisk, 3)});
     store(*m_stored);
     spoolRows({record(11, 0, "ARRIVED.ICC")});

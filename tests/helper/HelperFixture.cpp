@@ -10,9 +10,9 @@
 #include <fstream>
 #include <grp.h>
 #include <linux/capability.h>
-#include <poll.h>
 #include <pwd.h>
 #include <sstream>
+#include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -38,6 +38,12 @@ std::string ownLogin()
 {
     dup2(output[0], STDOUT_FILENO);
     dup2(output[1], STDERR_FILENO);
+    std::array<int, 2> ends;
+    if (options.withoutReaders && pipe(ends.data()) == 0) {
+        close(ends[0]);
+        dup2(ends[1], STDOUT_FILENO);
+        dup2(ends[1], STDERR_FILENO);
+    }
     for (int descriptor = 0; options.withoutStandardStreams && descriptor <= STDERR_FILENO; ++descriptor)
         close(descriptor);
     if (options.fileSizeLimit) {
@@ -58,22 +64,13 @@ std::string ownLogin()
     _exit(98);
 }
 
-// Reads both pipes to their ends.
-void collect(std::array<int, 2> descriptors, RunResult *result)
+// What the child wrote.
+std::string readBack(int descriptor)
 {
-    std::array<std::string *, 2> texts = {&result->output, &result->errors};
-    std::array<pollfd, 2> open = {pollfd{descriptors[0], POLLIN, 0}, pollfd{descriptors[1], POLLIN, 0}};
-    while (open[0].fd >= 0 || open[1].fd >= 0) {
-        poll(open.data(), open.size(), -1);
-        for (size_t i = 0; i < open.size(); ++i) {
-            std::array<char, 4096> buffer;
-            const ssize_t got = open[i].revents ? read(open[i].fd, buffer.data(), buffer.size()) : -1;
-            if (got > 0)
-                texts[i]->append(buffer.data(), static_cast<size_t>(got));
-            else if (open[i].revents)
-                open[i].fd = -1;
-        }
-    }
+    std::string text(static_cast<size_t>(lseek(descriptor, 0, SEEK_END)), '\0');
+    EXPECT_EQ(pread(descriptor, text.data(), text.size(), 0), static_cast<ssize_t>(text.size()));
+    close(descriptor);
+    return text;
 }
 
 } // namespace
@@ -87,6 +84,8 @@ HelperTest::HelperTest() : m_isRoot(getuid() == 0), m_login(ownLogin())
     chmod(m_root.c_str(), 0755);
     if (m_isRoot && chown(folder().c_str(), 0, kSharedGroup) == 0)
         chmod(folder().c_str(), 03775);
+    // ld.so(8) takes a blank for the end of a path, and the build folder's may have some.
+    std::filesystem::create_symlink(BV_BUILD_DIR "/tests/bvfault.so", m_root + "/bvfault.so");
     EXPECT_NE(m_login, "") << "the user who runs the tests needs an entry in the password database";
 }
 
@@ -99,27 +98,14 @@ HelperTest::~HelperTest()
 
 RunResult HelperTest::run(const std::vector<std::string> &arguments, const RunOptions &options) const
 {
-    std::array<int, 2> output = {};
-    std::array<int, 2> errors = {};
-    if (pipe2(output.data(), O_CLOEXEC) != 0 || pipe2(errors.data(), O_CLOEXEC) != 0)
-        return {};
+    const int output = memfd_create("output", MFD_CLOEXEC);
+    const int errors = memfd_create("errors", MFD_CLOEXEC);
     const pid_t child = fork();
-    if (child == 0 && options.withoutReaders) {
-        close(output[0]);
-        close(errors[0]);
-    }
     if (child == 0)
-        becomeHelper(arguments, options, m_root, {output[1], errors[1]});
-    close(output[1]);
-    close(errors[1]);
-    RunResult result;
-    collect({output[0], errors[0]}, &result);
-    close(output[0]);
-    close(errors[0]);
+        becomeHelper(arguments, options, m_root, {output, errors});
     int status = 0;
     waitpid(child, &status, 0);
-    result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return result;
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, readBack(output), readBack(errors)};
 }
 
 ::testing::AssertionResult HelperTest::answers(bool expected, const std::vector<std::string> &arguments,
@@ -137,10 +123,10 @@ bool HelperTest::answersElsewhere(bool expected, const std::vector<std::string> 
     return inAnotherProcess([&] { return static_cast<bool>(answers(expected, arguments)); });
 }
 
-RunOptions HelperTest::with(const std::string &fault)
+RunOptions HelperTest::with(const std::string &fault) const
 {
     RunOptions options;
-    options.environment = {{"LD_PRELOAD", BV_BUILD_DIR "/tests/bvfault.so"},
+    options.environment = {{"LD_PRELOAD", m_root + "/bvfault.so"},
                            {"FAULT", fault},
                            {"ASAN_OPTIONS", "verify_asan_link_order=0:detect_leaks=0"}};
     return options;

@@ -51,7 +51,7 @@ protected:
     // The same question, asked by another process that is gone afterwards.
     bool answersElsewhere(bool expected, const std::vector<std::string> &arguments) const;
     // What the fault library and the sanitizers need to get along; see FaultInjection.cpp for the words of a fault.
-    static RunOptions with(const std::string &fault);
+    RunOptions with(const std::string &fault) const;
     // The request for a walk, and the SNMP library's settings for it: a host that needs no network does not resolve.
     std::vector<std::string> walkRequest(const std::string &host = std::string(80, 'h')) const;
     RunOptions walkSettings() const;
