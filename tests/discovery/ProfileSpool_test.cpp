@@ -59,18 +59,6 @@ TEST_F(ProfileSpool, ATextOf32BytesFillsTheFieldAndNothingMore)
     EXPECT_EQ(raw(row(2).ProfileName), 'D' + std::string(31, '\0')) << "cut at a zero byte";
 }
 
-TEST_F(ProfileSpool, OnlyColumnOneCountsAndItCountsTwice)
-{
-    for (int i = 0; i < 3; ++i)
-        spool(cell(1, {1, 7}), 42L);
-    spool(cell(2, {1, 8}), 4L);
-    EXPECT_EQ(PlistForSpool.count, 3);
-    EXPECT_EQ(row(7).IndexOnDevice, 42);
-    for (int i = 0; i < 600; ++i)
-        spool(cell(1, {1, 1}), 1L);
-    EXPECT_EQ(PlistForSpool.count, 603);
-}
-
 TEST_F(ProfileSpool, TheEighteenthSubIdentifierIsTheRow)
 {
     spool(cell(1, {99, 500}), 1L);

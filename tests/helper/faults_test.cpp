@@ -2,8 +2,6 @@
 #include "helper/HelperFixture.h"
 
 #include <algorithm>
-#include <sched.h>
-#include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -112,17 +110,6 @@ TEST_F(Faults, LostReadersStopNoRequestHalfway)
     EXPECT_EQ(names(), "");
 }
 
-TEST_F(Faults, ATornPieceIsNeverCommitted)
-{
-    const auto requests = requestsFor(m_new);
-    ASSERT_TRUE(writeList(m_old));
-    ASSERT_TRUE(answers(true, requests[0]));
-    EXPECT_EQ(run(requests[1], with("write:1:TORN")).exitCode, -1);
-    EXPECT_TRUE(answers(false, requests[2]));
-    EXPECT_TRUE(answers(false, {kCommit, url()}));
-    EXPECT_EQ(contents(current()), m_old);
-}
-
 TEST_F(Faults, AFullDiskEndsTheSequenceAndIsFreed)
 {
     const auto requests = requestsFor(m_new);
@@ -213,26 +200,6 @@ TEST_F(Faults, AFolderThatCannotBeWrittenMakesNoAdministrator)
     EXPECT_TRUE(asExpected);
     EXPECT_EQ(contents(current()), m_old);
     EXPECT_EQ(names(), m_login + "-QL70-profile.plist");
-}
-
-TEST_F(Faults, AReadOnlyOrFullFileSystemKeepsTheOldList)
-{
-    // A file system of the test's own, which nobody else sees and which goes with the child process.
-    const auto mounted = [&] {
-        return unshare(CLONE_NEWNS) == 0 && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-               mount("none", folder().c_str(), "tmpfs", 0, "size=32k") == 0;
-    };
-    if (!inAnotherProcess(mounted))
-        GTEST_SKIP() << "needs root with the right to mount";
-    const bool asExpected = inAnotherProcess([&] {
-        const bool filled = mounted() && writeList(m_old) && answers(true, {kPiece, url(), m_new.substr(0, 5000)}) &&
-                            answers(false, {kPiece, url(), std::string(30000, 'x')}) &&
-                            names() == m_login + "-QL70-profile.plist";
-        return filled && mount("none", folder().c_str(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr) == 0 &&
-               answers(false, {kAdmin, current()}) && answers(false, {kPiece, url(), m_new}) &&
-               answers(false, {kRemove, current()}) && contents(current()) == m_old;
-    });
-    EXPECT_TRUE(asExpected);
 }
 
 } // namespace bvtest

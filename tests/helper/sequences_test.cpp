@@ -6,7 +6,6 @@
 #include <future>
 #include <sys/file.h>
 #include <sys/prctl.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace bvtest {
@@ -102,36 +101,6 @@ TEST_F(Sequences, NobodyWaitsLongerThanTenSeconds)
     const size_t tries = contents("/calls").value_or("").size() / 6;
     EXPECT_LE(tries, 2001U);
     EXPECT_GE(tries, 1500U);
-}
-
-TEST_F(Sequences, WritersAtOnceNeverMixTheirTexts)
-{
-    // Each process begins anew whenever another one took over, until it got one list through.
-    constexpr int kWriters = 4;
-    std::vector<pid_t> writers;
-    for (int writer = 0; writer < kWriters; ++writer) {
-        const pid_t child = fork();
-        if (child == 0) {
-            const std::string text = listText("writer " + std::to_string(writer), 100);
-            for (int attempt = 0; attempt < 200; ++attempt) {
-                if (writeList(text, {}, 60000))
-                    _exit(0);
-                usleep(static_cast<useconds_t>((writer * 37 + attempt * 11) % 50) * 1000);
-            }
-            _exit(1);
-        }
-        writers.push_back(child);
-    }
-    for (const pid_t writer : writers) {
-        int status = -1;
-        waitpid(writer, &status, 0);
-        EXPECT_EQ(status, 0);
-    }
-    const std::string last = contents(current()).value_or("");
-    bool isWhole = false;
-    for (int writer = 0; writer < kWriters; ++writer)
-        isWhole = isWhole || last == listText("writer " + std::to_string(writer), 100);
-    EXPECT_TRUE(isWhole);
 }
 
 } // namespace bvtest
