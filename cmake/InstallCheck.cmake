@@ -1,0 +1,26 @@
+# Stops an installation before anything is copied, when a program is not built or a place cannot be written; then makes
+# the folders readable for everybody, whatever the umask (CMake does so for those it is given, not for those on the way).
+# Set before: places (folders, those below the prefix relative to it), programs (the built files).
+foreach(program IN LISTS programs)
+  if(NOT EXISTS "${program}")
+    message(FATAL_ERROR "Nothing was installed: ${program} is not built. Build first: cmake --build FOLDER")
+  endif()
+endforeach()
+
+foreach(place IN LISTS places)
+  cmake_path(ABSOLUTE_PATH place BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}")
+  set(place "$ENV{DESTDIR}${place}")
+  # What is not there yet is made in the nearest folder that is.
+  set(folder "${place}")
+  while(NOT EXISTS "${folder}")
+    cmake_path(GET folder PARENT_PATH folder)
+  endwhile()
+  execute_process(COMMAND test -d "${folder}" -a -w "${folder}" -a -x "${folder}" RESULT_VARIABLE refused)
+  if(refused)
+    message(FATAL_ERROR "Nothing was installed: ${folder} cannot be written, and ${place} is to be there. "
+      "Install with sudo, or put everything below a folder of yours: DESTDIR=FOLDER in front of the command "
+      "(or -DBV_INSTALL_ROOT=FOLDER at configuring, for what is not below the prefix).")
+  endif()
+  list(APPEND folders "${place}")
+endforeach()
+execute_process(COMMAND sh -c "umask 022 && mkdir -p \"$@\"" sh ${folders} COMMAND_ERROR_IS_FATAL ANY)
