@@ -23,8 +23,7 @@ function(bv_add_test name)
   endif()
   gtest_discover_tests(${name}
     DISCOVERY_TIMEOUT 60 NO_PRETTY_VALUES
-    PROPERTIES TIMEOUT ${ARG_TIMEOUT} SKIP_REGULAR_EXPRESSION "\\[  SKIPPED \\]"
-      ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_LOGGING_RULES=qt.qpa.*=false;LC_ALL=C;${ARG_ENV}")
+    PROPERTIES TIMEOUT ${ARG_TIMEOUT} SKIP_REGULAR_EXPRESSION "\\[  SKIPPED \\]")
 
   # CTest learns the cases from the built test, and reads this after it. (PROPERTIES takes no list.)
   cmake_path(GET CMAKE_CURRENT_SOURCE_DIR FILENAME room)
@@ -35,7 +34,8 @@ foreach(case IN LISTS @name@_TESTS)
   if(NOT "@ARG_ROOT@" STREQUAL "" AND case MATCHES "@ARG_ROOT@")
     list(APPEND labels root)
   endif()
-  set_tests_properties("${case}" PROPERTIES LABELS "${labels}")
+  set_tests_properties("${case}" PROPERTIES LABELS "${labels}"
+    ENVIRONMENT [=[QT_QPA_PLATFORM=offscreen;QT_LOGGING_RULES=qt.qpa.*=false;LC_ALL=C;@ARG_ENV@]=])
 endforeach()
 ]==])
   set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES ${labels})

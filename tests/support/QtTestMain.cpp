@@ -1,4 +1,4 @@
-// main() of the tests that need Qt: a home of their own, so that nothing of the developer's is read or written; an
+// main() of the tests that need Qt: a home and a locale of their own, so that nothing of the developer's counts; an
 // application object on the platform that the environment names (offscreen when it names none); then GoogleTest.
 #include <QApplication>
 #include <QTemporaryDir>
@@ -11,6 +11,7 @@ int main(int argc, char **argv)
     for (const char *variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME", "BVCO_ROOT",
                                  "BVCO_LOG", "CUPS_SERVER", "LPDEST", "PRINTER"})
         qunsetenv(variable);
+    qputenv("LC_ALL", "C");
     qputenv("XDG_RUNTIME_DIR", home.path().toLocal8Bit());
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
