@@ -1,10 +1,11 @@
 // The encoding table of PPD texts, and decoding through iconv.
 #include "controls/PpdEncoding.h"
 
+#include "platform/TextConverter.h"
+
 #include <algorithm>
 #include <array>
 #include <cstring>
-#include <iconv.h>
 
 namespace bv {
 
@@ -21,43 +22,7 @@ constexpr std::array<PpdEncoding, 6> kEncodings{{
 }};
 // clang-format on
 
-// An open iconv conversion to UTF-8.
-class Conversion
-{
-public:
-    explicit Conversion(const char *from) : m_handle(iconv_open("UTF-8", from)) {}
-    ~Conversion()
-    {
-        if (isOpen())
-            iconv_close(m_handle);
-    }
-    Conversion(const Conversion &) = delete;
-    Conversion &operator=(const Conversion &) = delete;
-    bool isOpen() const { return m_handle != iconv_t(-1); }
-
-    QString decode(const char *text, size_t length) const
-    {
-        QString decoded;
-        std::array<char, 256> buffer{};
-        char *in = const_cast<char *>(text); // iconv's signature; it does not write there
-        size_t left = length;
-        while (left > 0) {
-            char *out = buffer.data();
-            size_t room = buffer.size();
-            const size_t result = iconv(m_handle, &in, &left, &out, &room);
-            decoded += QString::fromUtf8(buffer.data(), qsizetype(buffer.size() - room));
-            if (result == size_t(-1) && errno != E2BIG) {
-                decoded += QChar::ReplacementCharacter;
-                ++in;
-                --left;
-            }
-        }
-        return decoded;
-    }
-
-private:
-    iconv_t m_handle;
-};
+constexpr char kReplacement[] = "\xEF\xBF\xBD"; // U+FFFD
 
 bool isAscii(std::string_view text)
 {
@@ -85,10 +50,18 @@ QString decodePpdText(const char *text, const PpdEncoding &encoding)
         return QString::fromLatin1(bytes.data(), qsizetype(bytes.size()));
     if (encoding.cfEncoding == 0x08000100)
         return QString::fromUtf8(bytes.data(), qsizetype(bytes.size()));
-    const Conversion conversion(encoding.iconvName);
-    if (!conversion.isOpen())
+    TextConverter converter("UTF-8", encoding.iconvName);
+    if (!converter)
         return QString::fromLatin1(bytes.data(), qsizetype(bytes.size()));
-    return conversion.decode(bytes.data(), bytes.size());
+    std::string decoded;
+    for (std::string_view rest = bytes; !rest.empty();) {
+        rest.remove_prefix(converter.appendBeginning(&decoded, rest));
+        if (rest.empty())
+            break;
+        decoded += kReplacement;
+        rest.remove_prefix(1);
+    }
+    return QString::fromStdString(decoded);
 }
 
 } // namespace bv

@@ -5,11 +5,12 @@
 
 #include "common/PDECommon.h"
 #include "platform/Log.h"
+#include "platform/Percent.h"
+#include "platform/TextConverter.h"
+#include "platform/Utf8.h"
 
 #include <array>
 #include <cstdio>
-#include <iconv.h>
-#include <memory>
 
 namespace {
 
@@ -39,23 +40,13 @@ std::nullopt_t noHost(const std::string &reason)
     return std::nullopt;
 }
 
-// Converts between encodings (iconv(3)); nothing when a character has no place in the other one.
+// The text in another encoding; nothing when a character has no place in it.
 std::optional<std::string> converted(std::string_view text, const char *from, const char *to)
 {
-    const auto close = [](iconv_t handle) { iconv_close(handle); };
-    const iconv_t opened = iconv_open(to, from);
-    if (opened == reinterpret_cast<iconv_t>(-1)) // NOLINT(performance-no-int-to-ptr): iconv_open's own sign of failure
+    bv::TextConverter converter(to, from);
+    std::string out;
+    if (!converter || !converter.append(&out, text))
         return std::nullopt;
-    const std::unique_ptr<void, decltype(close)> handle(opened, close);
-    std::string in(text);
-    std::string out(text.size() * 4 + 4, '\0');
-    char *inNext = in.data();
-    char *outNext = out.data();
-    size_t inLeft = in.size();
-    size_t outLeft = out.size();
-    if (iconv(handle.get(), &inNext, &inLeft, &outNext, &outLeft) != 0)
-        return std::nullopt;
-    out.resize(out.size() - outLeft);
     return out;
 }
 
@@ -96,13 +87,6 @@ QString deviceUri(PMPrintSession session)
     return uri;
 }
 
-int hexDigit(char digit)
-{
-    constexpr std::string_view kDigits = "0123456789abcdef";
-    const size_t value = kDigits.find(digit >= 'A' && digit <= 'F' ? static_cast<char>(digit - 'A' + 'a') : digit);
-    return value == kDigits.npos ? -1 : static_cast<int>(value);
-}
-
 } // namespace
 
 std::optional<std::string> bv::networkLocation(std::string_view uri)
@@ -134,21 +118,9 @@ std::optional<std::string> bv::hostOfUri(std::string_view uri)
 
 std::optional<std::string> bv::percentUnescaped(std::string_view text)
 {
-    std::string plain;
-    for (size_t i = 0; i < text.size(); ++i) {
-        if (text[i] != '%') {
-            plain += text[i];
-            continue;
-        }
-        const int high = i + 2 < text.size() ? hexDigit(text[i + 1]) : -1;
-        const int low = i + 2 < text.size() ? hexDigit(text[i + 2]) : -1;
-        if (high < 0 || low < 0)
-            return std::nullopt;
-        plain += static_cast<char>(high * 16 + low);
-        i += 2;
-    }
-    if (plain.find('\0') != plain.npos || !converted(plain, "UTF-8", "UTF-8"))
-        return std::nullopt;
+    std::optional<std::string> plain = percentDecoded(text);
+    if (plain && (plain->find('\0') != plain->npos || !isUtf8(*plain)))
+        plain.reset();
     return plain;
 }
 

@@ -1,12 +1,12 @@
 // Formatting of log texts, their conversion to the system's encoding, and the diagnostic log.
 #include "platform/Log.h"
 
+#include "platform/TextConverter.h"
 #include "platform/Utf8.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
-#include <iconv.h>
 #include <langinfo.h>
 #include <optional>
 #include <syslog.h>
@@ -196,39 +196,6 @@ private:
     std::string m_text;
 };
 
-// One direction of iconv(3).
-class Converter
-{
-public:
-    explicit Converter(const char *encoding) : m_state(iconv_open(encoding, "UTF-8")) {}
-    Converter(const Converter &) = delete;
-    Converter &operator=(const Converter &) = delete;
-    ~Converter()
-    {
-        if (works())
-            iconv_close(m_state);
-    }
-    bool works() const { return m_state != reinterpret_cast<iconv_t>(-1); }
-
-    // Appends the conversion of one or more whole characters; false (nothing appended) when there is none.
-    bool append(std::string &out, std::string_view text)
-    {
-        std::string buffer(text.size() * 4 + 16, '\0');
-        char *from = const_cast<char *>(text.data());
-        char *to = buffer.data();
-        size_t left = text.size();
-        size_t room = buffer.size();
-        // More than 0 says that characters were replaced by something like them; "?" is asked for.
-        if (iconv(m_state, text.empty() ? nullptr : &from, &left, &to, &room) != 0)
-            return false;
-        out.append(buffer.data(), buffer.size() - room);
-        return true;
-    }
-
-private:
-    iconv_t m_state;
-};
-
 } // namespace
 
 std::string formatLog(std::string_view format, std::initializer_list<LogArgument> arguments)
@@ -240,17 +207,17 @@ void writeInSystemEncoding(std::FILE *stream, std::string_view text)
 {
     if (!stream || !isUtf8(text))
         return;
-    Converter converter(nl_langinfo(CODESET));
-    if (!converter.works())
+    TextConverter converter(nl_langinfo(CODESET), "UTF-8");
+    if (!converter)
         return;
     std::string converted;
     while (!text.empty()) {
         const std::string_view character = text.substr(0, utf8CharacterLength(text));
-        if (!converter.append(converted, character))
-            converter.append(converted, "?");
+        if (!converter.append(&converted, character))
+            converter.append(&converted, "?");
         text.remove_prefix(character.size());
     }
-    converter.append(converted, {}); // back to the initial state of an encoding that has states
+    converter.append(&converted, {}); // back to the initial state of an encoding that has states
     std::fwrite(converted.data(), 1, converted.size(), stream);
     std::fflush(stream);
 }
