@@ -5,13 +5,13 @@
 #include "dialog/PrintDialogRunner.h"
 #include "jobs/FolderSink.h"
 #include "jobs/PrintServerSink.h"
+#include "platform/FileDescriptor.h"
 #include "queues/PanelLoader.h"
 #include "queues/SessionStart.h"
 
 #include <QApplication>
 #include <cstdio>
 #include <cstdlib>
-#include <fcntl.h>
 #include <unistd.h>
 
 namespace {
@@ -23,15 +23,6 @@ int refuse(const QString &sentence)
 {
     std::fprintf(stderr, "bvprint: %s\n", sentence.simplified().toUtf8().constData());
     return kBadStart;
-}
-
-// A stream that was closed before the start would lend its number to the next file that is opened, and a batch would
-// read that.
-void openStandardStreams()
-{
-    for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream)
-        if (fcntl(stream, F_GETFD) < 0 && open("/dev/null", O_RDWR) < 0)
-            std::exit(kBadStart);
 }
 
 // The window system is chosen before the application object: without a display Qt would end the program.
@@ -62,7 +53,10 @@ int runBatch(const bv::CommandLine &line, bv::PanelLoader &loader)
 
 int main(int argc, char **argv)
 {
-    openStandardStreams();
+    // A stream that was closed before the start would lend its number to the next file that is opened, and a batch
+    // would read that.
+    if (!bv::openStandardDescriptors())
+        return kBadStart;
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments.append(QString::fromUtf8(argv[i]));

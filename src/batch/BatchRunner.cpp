@@ -28,16 +28,13 @@ BatchRunner::BatchRunner(BatchCommands &commands) : m_commands(commands)
     connect(&m_turn, &QTimer::timeout, this, &BatchRunner::turn);
 }
 
-BatchRunner::~BatchRunner()
-{
-    m_notifier.reset();
-    if (m_file > STDIN_FILENO)
-        ::close(m_file);
-}
+BatchRunner::~BatchRunner() = default;
 
 QString BatchRunner::open(const QString &script)
 {
-    m_file = script == u"-" ? STDIN_FILENO : ::open(QFile::encodeName(script).constData(), O_RDONLY | O_CLOEXEC);
+    if (script != u"-")
+        m_script = FileDescriptor(::open(QFile::encodeName(script).constData(), O_RDONLY | O_CLOEXEC));
+    m_file = script == u"-" ? STDIN_FILENO : m_script.get();
     struct stat status = {};
     if (m_file < 0 || fstat(m_file, &status) != 0)
         return QStringLiteral("The batch %1 cannot be read: %2.").arg(script, QString::fromLocal8Bit(strerror(errno)));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "batch/BatchCommands.h"
+#include "platform/FileDescriptor.h"
 
 #include <QObject>
 #include <QSocketNotifier>
@@ -36,7 +37,8 @@ private:
     void answerOpenCommand();
 
     BatchCommands &m_commands;
-    int m_file = -1; // owned unless it is standard input
+    FileDescriptor m_script; // none when it is standard input
+    int m_file = -1;
     std::unique_ptr<QSocketNotifier> m_notifier;
     QTimer m_turn;
     int m_turnsToWait = 0;

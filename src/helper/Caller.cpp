@@ -1,12 +1,12 @@
 // Who asks, and whose list a path, a URL or a login name of the request stands for.
 #include "helper/Caller.h"
 
-#include "helper/FileDescriptor.h"
+#include "platform/FileDescriptor.h"
 #include "platform/FileUrl.h"
+#include "platform/Percent.h"
 #include "platform/UserName.h"
 #include "profiles/ProfilePaths.h"
 
-#include <array>
 #include <charconv>
 #include <fcntl.h>
 #include <pwd.h>
@@ -38,23 +38,6 @@ std::string_view loginInPath(std::string_view path, std::string ProfilePaths::*w
     return path.substr(folder, path.size() - folder - suffix.size());
 }
 
-// A percent-encoded text (RFC 3986, section 2.1) as bytes; what is no escape is kept.
-std::string percentDecoded(std::string_view text)
-{
-    std::string bytes;
-    for (size_t i = 0; i < text.size(); ++i) {
-        unsigned value = 0;
-        const char *begin = text.data() + i + 1;
-        if (text[i] == '%' && i + 2 < text.size() && std::from_chars(begin, begin + 2, value, 16).ptr == begin + 2) {
-            bytes += static_cast<char>(value);
-            i += 2;
-        } else {
-            bytes += text[i];
-        }
-    }
-    return bytes;
-}
-
 ListTarget targetOf(std::string login, uid_t user)
 {
     ProfilePaths paths = profilePathsFor(login);
@@ -69,12 +52,11 @@ std::optional<ProcessIdentity> identifyProcess(pid_t id)
         return std::nullopt;
     const std::string path = "/proc/" + std::to_string(id) + "/stat";
     const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
-    std::array<char, 1024> buffer = {};
-    const ssize_t size = file ? read(file.get(), buffer.data(), buffer.size()) : -1;
-    if (size <= 0)
+    std::string stat;
+    if (!file || !readToEnd(file.get(), &stat))
         return std::nullopt;
     // The second field is the program's name in parentheses and may hold anything, so the count starts behind it.
-    std::string_view rest(buffer.data(), static_cast<size_t>(size));
+    std::string_view rest(stat);
     const size_t name = rest.rfind(')');
     if (name == std::string_view::npos)
         return std::nullopt;
@@ -142,7 +124,8 @@ std::optional<ListTarget> Caller::listOfUrl(std::string_view url) const
 {
     if (!url.starts_with(kUrlBegin))
         return std::nullopt;
-    auto target = listOfCurrentPath(percentDecoded(url.substr(kUrlBegin.size())));
+    const auto path = percentDecoded(url.substr(kUrlBegin.size()));
+    auto target = path ? listOfCurrentPath(*path) : std::nullopt;
     return target && fileUrl(target->currentPath) == url ? target : std::nullopt;
 }
 

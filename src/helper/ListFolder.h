@@ -2,7 +2,7 @@
 #pragma once
 
 #include "helper/Caller.h"
-#include "helper/FileDescriptor.h"
+#include "platform/FileDescriptor.h"
 
 #include <optional>
 #include <string>

@@ -42,21 +42,12 @@ bool known(const std::optional<ListTarget> &target)
 bool copyBytes(const FileDescriptor &from, const FileDescriptor &to)
 {
     std::array<char, kCopyBytes> buffer;
-    for (;;) {
-        const ssize_t got = read(from.get(), buffer.data(), buffer.size());
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got <= 0)
-            return got == 0;
-        for (ssize_t done = 0; done < got;) {
-            const ssize_t written = write(to.get(), buffer.data() + done, static_cast<size_t>(got - done));
-            if (written < 0 && errno == EINTR)
-                continue;
-            if (written <= 0)
-                return false;
-            done += written;
-        }
+    ssize_t got;
+    while ((got = readSome(from.get(), buffer)) > 0) {
+        if (!writeAll(to.get(), std::string_view(buffer.data(), static_cast<size_t>(got))))
+            return false;
     }
+    return got == 0;
 }
 
 // Makes the second file a byte copy of the first, by a new file of a name that only copies use and only under the lock.

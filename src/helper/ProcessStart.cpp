@@ -2,26 +2,17 @@
 #include "helper/ProcessStart.h"
 
 #include "helper/Diagnostics.h"
+#include "platform/FileDescriptor.h"
 
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
-#include <fcntl.h>
 #include <sys/auxv.h>
 #include <unistd.h>
 
 namespace bv {
 
 namespace {
-
-bool openStandardDescriptors()
-{
-    for (int descriptor = STDIN_FILENO; descriptor <= STDERR_FILENO; ++descriptor) {
-        if (fcntl(descriptor, F_GETFD) < 0 && open("/dev/null", O_RDWR) != descriptor)
-            return false;
-    }
-    return true;
-}
 
 bool giveUpEffectiveIds()
 {

@@ -3,6 +3,7 @@
 
 #include "helper/Diagnostics.h"
 #include "helper/ProcessStart.h"
+#include "platform/FileDescriptor.h"
 
 #include <cerrno>
 #include <exception>
@@ -10,23 +11,6 @@
 #include <vector>
 
 namespace bv {
-
-namespace {
-
-bool printAnswer(std::string_view line)
-{
-    while (!line.empty()) {
-        const ssize_t written = write(STDOUT_FILENO, line.data(), line.size());
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            return false;
-        line.remove_prefix(static_cast<size_t>(written));
-    }
-    return true;
-}
-
-} // namespace
 
 int runRequestProgram(int argc, char **argv, pid_t sequenceProcess, Answer answer)
 {
@@ -45,7 +29,7 @@ int runRequestProgram(int argc, char **argv, pid_t sequenceProcess, Answer answe
     } catch (const std::exception &failure) {
         complain(failure.what());
     }
-    if (!printAnswer(answerLine(name, outcome)))
+    if (!writeAll(STDOUT_FILENO, answerLine(name, outcome)))
         complain("cannot print the answer", errno);
     return outcome.exitStatus;
 }

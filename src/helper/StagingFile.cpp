@@ -33,37 +33,6 @@ std::string noteOf(const ProcessIdentity &owner, size_t textBytes)
     return note;
 }
 
-bool writeAll(int descriptor, std::string_view bytes, size_t offset)
-{
-    while (!bytes.empty()) {
-        const ssize_t written = pwrite(descriptor, bytes.data(), bytes.size(), static_cast<off_t>(offset));
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            return false;
-        bytes.remove_prefix(static_cast<size_t>(written));
-        offset += static_cast<size_t>(written);
-    }
-    return true;
-}
-
-// `size` bytes of a file from `offset` on; nothing when it has fewer or cannot be read.
-std::optional<std::string> readBytes(int descriptor, size_t offset, size_t size)
-{
-    std::string bytes(size, '\0');
-    size_t filled = 0;
-    while (filled < size) {
-        const ssize_t got =
-            pread(descriptor, bytes.data() + filled, size - filled, static_cast<off_t>(offset + filled));
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got <= 0)
-            return std::nullopt;
-        filled += static_cast<size_t>(got);
-    }
-    return bytes;
-}
-
 } // namespace
 
 StagingFile::StagingFile(const ListFolder &folder, const Caller &caller, const ListTarget &target)
@@ -85,7 +54,7 @@ StagingFile::Staged StagingFile::open() const
     if (size < kNoteBytes || size > kTextLimit + kNoteBytes)
         return staged;
     staged.textBytes = size - kNoteBytes;
-    const auto note = readBytes(staged.file.get(), staged.textBytes, kNoteBytes);
+    const auto note = readAt(staged.file.get(), staged.textBytes, kNoteBytes);
     if (note && note->starts_with(kNoteBegin)) {
         staged.sequence = m_owner && *note == noteOf(*m_owner, staged.textBytes) ? Sequence::Own : Sequence::Others;
     }
@@ -98,7 +67,7 @@ bool StagingFile::write(const FileDescriptor &file, size_t offset, std::string_v
     bytes += noteOf(*m_owner, offset + piece.size());
     if (offset + piece.size() > kTextLimit)
         complain("the list is too long");
-    else if (writeAll(file.get(), bytes, offset))
+    else if (writeAllAt(file.get(), offset, bytes))
         return true;
     else
         complain("cannot write a piece", errno);
@@ -158,7 +127,7 @@ bool StagingFile::commit()
 
 bool StagingFile::promote(const Staged &staged) const
 {
-    const auto text = readBytes(staged.file.get(), 0, staged.textBytes);
+    const auto text = readAt(staged.file.get(), 0, staged.textBytes);
     if (!text) {
         complain("cannot read the pieces", errno);
         return false;

@@ -1,9 +1,9 @@
 // Child processes by posix_spawn(3) with a pipe on standard output.
 #include "platform/ChildProcess.h"
 
+#include "platform/FileDescriptor.h"
 #include "platform/Log.h"
 
-#include <array>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -18,25 +18,6 @@ extern char **environ;
 namespace bv {
 
 namespace {
-
-class Descriptor
-{
-public:
-    explicit Descriptor(int fd) : m_fd(fd) {}
-    Descriptor(const Descriptor &) = delete;
-    Descriptor &operator=(const Descriptor &) = delete;
-    ~Descriptor() { reset(); }
-    int get() const { return m_fd; }
-    void reset()
-    {
-        if (m_fd >= 0)
-            close(m_fd);
-        m_fd = -1;
-    }
-
-private:
-    int m_fd;
-};
 
 class SpawnActions
 {
@@ -65,20 +46,6 @@ void report(const std::string &program, const char *what, int error)
     diagnosticLine(formatLog("%@: %@: %@", {program, what, std::strerror(error)}));
 }
 
-// Reads to the end of the pipe. An error ends it as the end does; what came before counts.
-std::string readToEnd(int fd)
-{
-    std::string text;
-    std::array<char, 16384> buffer;
-    for (;;) {
-        const ssize_t got = read(fd, buffer.data(), buffer.size());
-        if (got > 0)
-            text.append(buffer.data(), static_cast<size_t>(got));
-        else if (got == 0 || errno != EINTR)
-            return text;
-    }
-}
-
 // The exit status; -1 for a child that a signal ended, or whose status the host has thrown away (ignored SIGCHLD).
 int waitFor(pid_t child)
 {
@@ -104,8 +71,8 @@ std::optional<ChildResult> runChild(const std::string &program, std::span<const 
         report(program, "no pipe", errno);
         return std::nullopt;
     }
-    Descriptor readEnd(ends[0]);
-    Descriptor writeEnd(ends[1]);
+    FileDescriptor readEnd(ends[0]);
+    FileDescriptor writeEnd(ends[1]);
     SpawnActions actions;
     if (!actions.standardOutputTo(writeEnd.get())) {
         report(program, "no child", ENOMEM);
@@ -120,8 +87,9 @@ std::optional<ChildResult> runChild(const std::string &program, std::span<const 
     // First read, then wait: a child that prints more than the pipe holds would never end the other way round.
     ChildResult result;
     try {
-        result.output = readToEnd(readEnd.get());
+        readToEnd(readEnd.get(), &result.output); // what came before a failure counts
     } catch (const std::bad_alloc &) {
+        report(program, "no memory for its output", ENOMEM);
         readEnd.reset(); // the child meets a closed pipe and ends
         waitFor(child);
         return std::nullopt;

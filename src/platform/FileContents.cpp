@@ -1,6 +1,7 @@
 // Reading of a whole file, judged on the open descriptor.
 #include "platform/FileContents.h"
 
+#include "platform/FileDescriptor.h"
 #include "platform/Log.h"
 
 #include <cerrno>
@@ -8,7 +9,6 @@
 #include <fcntl.h>
 #include <new>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace bv {
 
@@ -27,24 +27,13 @@ std::optional<std::string> readOpenFile(int fd, const std::string &path, size_t 
         return refuse(path, "no regular file");
     if (static_cast<size_t>(about.st_size) > maximum)
         return refuse(path, "too large");
+    std::string text;
     // One byte more than the file has, so that the end shows at the first read; a file that grows meanwhile is read on.
-    std::string text(static_cast<size_t>(about.st_size) + 1, '\0');
-    size_t filled = 0;
-    for (;;) {
-        const ssize_t got = read(fd, text.data() + filled, text.size() - filled);
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got < 0)
-            return refuse(path, std::strerror(errno));
-        if (got == 0)
-            break;
-        filled += static_cast<size_t>(got);
-        if (filled > maximum)
-            return refuse(path, "too large");
-        if (filled == text.size())
-            text.resize(filled * 2);
-    }
-    text.resize(filled);
+    text.reserve(static_cast<size_t>(about.st_size) + 1);
+    if (!readToEnd(fd, &text, maximum))
+        return refuse(path, std::strerror(errno));
+    if (text.size() > maximum)
+        return refuse(path, "too large");
     return text;
 }
 
@@ -52,17 +41,15 @@ std::optional<std::string> readOpenFile(int fd, const std::string &path, size_t 
 
 std::optional<std::string> fileContents(const std::string &path, size_t maximum)
 {
-    const int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
-    if (fd < 0)
+    const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
+    if (!file)
         return refuse(path, std::strerror(errno));
-    std::optional<std::string> text;
     try {
-        text = readOpenFile(fd, path, maximum);
+        return readOpenFile(file.get(), path, maximum);
     } catch (const std::bad_alloc &) {
         diagnosticLine("no memory for a file's contents");
+        return std::nullopt;
     }
-    close(fd);
-    return text;
 }
 
 } // namespace bv

@@ -1,0 +1,103 @@
+// Whole reads and writes over read(2) and its kin.
+#include "platform/FileDescriptor.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace bv {
+
+namespace {
+
+constexpr size_t kChunk = size_t{16} << 10;
+
+template <typename Call> ssize_t uninterrupted(Call call)
+{
+    ssize_t result;
+    do
+        result = call();
+    while (result < 0 && errno == EINTR);
+    return result;
+}
+
+// Calls `write(bytes, offset)` for what is left until nothing is.
+template <typename Write> bool writeWhole(std::string_view bytes, size_t offset, Write write)
+{
+    while (!bytes.empty()) {
+        const ssize_t written = uninterrupted([&] { return write(bytes, static_cast<off_t>(offset)); });
+        if (written <= 0)
+            return false;
+        bytes.remove_prefix(static_cast<size_t>(written));
+        offset += static_cast<size_t>(written);
+    }
+    return true;
+}
+
+} // namespace
+
+void FileDescriptor::reset()
+{
+    if (m_descriptor >= 0)
+        ::close(m_descriptor);
+    m_descriptor = -1;
+}
+
+ssize_t readSome(int descriptor, std::span<char> buffer)
+{
+    return uninterrupted([&] { return read(descriptor, buffer.data(), buffer.size()); });
+}
+
+bool readToEnd(int descriptor, std::string *text, size_t limit)
+{
+    size_t filled = text->size();
+    for (;;) {
+        if (filled == text->size())
+            text->resize(std::max(text->capacity(), filled + kChunk));
+        const ssize_t got = readSome(descriptor, std::span(*text).subspan(filled));
+        if (got > 0)
+            filled += static_cast<size_t>(got);
+        if (got <= 0 || filled > limit) {
+            text->resize(filled);
+            return got >= 0;
+        }
+    }
+}
+
+std::optional<std::string> readAt(int descriptor, size_t offset, size_t size)
+{
+    std::string bytes(size, '\0');
+    for (size_t filled = 0; filled < size;) {
+        const ssize_t got = uninterrupted([&] {
+            return pread(descriptor, bytes.data() + filled, size - filled, static_cast<off_t>(offset + filled));
+        });
+        if (got <= 0)
+            return std::nullopt;
+        filled += static_cast<size_t>(got);
+    }
+    return bytes;
+}
+
+bool writeAll(int descriptor, std::string_view bytes)
+{
+    return writeWhole(bytes, 0,
+                      [=](std::string_view rest, off_t) { return write(descriptor, rest.data(), rest.size()); });
+}
+
+bool writeAllAt(int descriptor, size_t offset, std::string_view bytes)
+{
+    return writeWhole(bytes, offset, [=](std::string_view rest, off_t at) {
+        return pwrite(descriptor, rest.data(), rest.size(), at);
+    });
+}
+
+bool openStandardDescriptors()
+{
+    for (int descriptor = STDIN_FILENO; descriptor <= STDERR_FILENO; ++descriptor) {
+        if (fcntl(descriptor, F_GETFD) < 0 && open("/dev/null", O_RDWR) != descriptor)
+            return false;
+    }
+    return true;
+}
+
+} // namespace bv
