@@ -28,28 +28,28 @@ constexpr CSTAction kGreyOut[] = {{GROUT, 0}};
 } // namespace
 
 const CSTRule cstColorOption[] = {
-    // type       conditions               expression  target                            value  value action  actions
-    {VRCHG,        1, kQuickColorNotFree,  0, kFirst,  "GoToAdvancedOptionsButton",        -1,  kCSTEnd,      1, kGreyOut}, // 0
-    {VRCHG,        1, kGray,               0, kFirst,  "ColorSeparationCheckBox",           0,  kCSTSet,      1, kGreyOut}, // 1
-    {VRCHG,        1, kSeparation,         0, kFirst,  "ColorAsGrayCheckBox",               0,  kCSTSet,      1, kGreyOut}, // 2
-    {VRCHG,        1, kGray,               0, kFirst,  "ImageRGBSourcePopup",              -1,  kCSTEnd,      1, kGreyOut}, // 3
-    {VRCHG,        2, kGrayImageSource,    3, kEither, "ImageRenderIntentPopup",           -1,  kCSTEnd,      1, kGreyOut}, // 4
-    {VRCHG,        2, kGrayImageDest,      3, kEither, "ImageGrayTreatmentPopup",          -1,  kCSTEnd,      1, kGreyOut}, // 5
-    {VRCHG,        1, kGray,               0, kFirst,  "ImageDestinationProfilePopup",     -1,  kCSTEnd,      1, kGreyOut}, // 6
-    {VRCHG,        1, kGray,               0, kFirst,  "TextRGBSourcePopup",               -1,  kCSTEnd,      1, kGreyOut}, // 7
-    {VRCHG,        2, kGrayTextSource,     3, kEither, "TextRenderIntentPopup",            -1,  kCSTEnd,      1, kGreyOut}, // 8
-    {VRCHG,        2, kGrayTextDest,       3, kEither, "TextGrayTreatmentPopup",           -1,  kCSTEnd,      1, kGreyOut}, // 9
-    {VRCHG,        1, kGray,               0, kFirst,  "TextDestinationProfilePopup",      -1,  kCSTEnd,      1, kGreyOut}, // 10
-    {VRCHG,        1, kGray,               0, kFirst,  "GraphicsRGBSourcePopup",           -1,  kCSTEnd,      1, kGreyOut}, // 11
-    {VRCHG,        2, kGrayGraphicsSource, 3, kEither, "GraphicsRenderIntentPopup",        -1,  kCSTEnd,      1, kGreyOut}, // 12
-    {VRCHG,        2, kGrayGraphicsDest,   3, kEither, "GraphicsGrayTreatmentPopup",       -1,  kCSTEnd,      1, kGreyOut}, // 13
-    {VRCHG,        1, kGray,               0, kFirst,  "GraphicsDestinationProfilePopup",  -1,  kCSTEnd,      1, kGreyOut}, // 14
-    {VRCHG,        1, kGray,               0, kFirst,  "SimulationSourcePopup",            -1,  kCSTEnd,      1, kGreyOut}, // 15
-    {VRCHG,        2, kGraySimulation,     3, kEither, "SimulationRenderIntentPopup",      -1,  kCSTEnd,      1, kGreyOut}, // 16
-    {VRCHG,        2, kGraySimulation,     3, kEither, "SimulationGrayTreatmentPopup",     -1,  kCSTEnd,      1, kGreyOut}, // 17
-    {VRCHG,        2, kEconomyEdge,        3, kEither, "ImageEdgeEnhancePopup",            -1,  kCSTEnd,      1, kGreyOut}, // 18
-    {VRCHG,        1, kEdge,               0, kEither, "TextEdgeEnhancePopup",              0,  kCSTEnd,      1, kGreyOut}, // 19
-    {VRCHG,        2, kEconomyEdge,        3, kEither, "GraphicsEdgeEnhancePopup",         -1,  kCSTEnd,      1, kGreyOut}, // 20
-    {kCSTTableEnd, 0, nullptr,             0, kFirst,  "",                                 -1,  kCSTEnd,      0, nullptr},  // 21
+    // type        conditions              expr.    target                           value  value action  actions
+    {VRCHG,        1, kQuickColorNotFree,  kFirst,  "GoToAdvancedOptionsButton",        -1,  kCSTEnd,      1, kGreyOut}, // 0
+    {VRCHG,        1, kGray,               kFirst,  "ColorSeparationCheckBox",           0,  kCSTSet,      1, kGreyOut}, // 1
+    {VRCHG,        1, kSeparation,         kFirst,  "ColorAsGrayCheckBox",               0,  kCSTSet,      1, kGreyOut}, // 2
+    {VRCHG,        1, kGray,               kFirst,  "ImageRGBSourcePopup",              -1,  kCSTEnd,      1, kGreyOut}, // 3
+    {VRCHG,        2, kGrayImageSource,    kEither, "ImageRenderIntentPopup",           -1,  kCSTEnd,      1, kGreyOut}, // 4
+    {VRCHG,        2, kGrayImageDest,      kEither, "ImageGrayTreatmentPopup",          -1,  kCSTEnd,      1, kGreyOut}, // 5
+    {VRCHG,        1, kGray,               kFirst,  "ImageDestinationProfilePopup",     -1,  kCSTEnd,      1, kGreyOut}, // 6
+    {VRCHG,        1, kGray,               kFirst,  "TextRGBSourcePopup",               -1,  kCSTEnd,      1, kGreyOut}, // 7
+    {VRCHG,        2, kGrayTextSource,     kEither, "TextRenderIntentPopup",            -1,  kCSTEnd,      1, kGreyOut}, // 8
+    {VRCHG,        2, kGrayTextDest,       kEither, "TextGrayTreatmentPopup",           -1,  kCSTEnd,      1, kGreyOut}, // 9
+    {VRCHG,        1, kGray,               kFirst,  "TextDestinationProfilePopup",      -1,  kCSTEnd,      1, kGreyOut}, // 10
+    {VRCHG,        1, kGray,               kFirst,  "GraphicsRGBSourcePopup",           -1,  kCSTEnd,      1, kGreyOut}, // 11
+    {VRCHG,        2, kGrayGraphicsSource, kEither, "GraphicsRenderIntentPopup",        -1,  kCSTEnd,      1, kGreyOut}, // 12
+    {VRCHG,        2, kGrayGraphicsDest,   kEither, "GraphicsGrayTreatmentPopup",       -1,  kCSTEnd,      1, kGreyOut}, // 13
+    {VRCHG,        1, kGray,               kFirst,  "GraphicsDestinationProfilePopup",  -1,  kCSTEnd,      1, kGreyOut}, // 14
+    {VRCHG,        1, kGray,               kFirst,  "SimulationSourcePopup",            -1,  kCSTEnd,      1, kGreyOut}, // 15
+    {VRCHG,        2, kGraySimulation,     kEither, "SimulationRenderIntentPopup",      -1,  kCSTEnd,      1, kGreyOut}, // 16
+    {VRCHG,        2, kGraySimulation,     kEither, "SimulationGrayTreatmentPopup",     -1,  kCSTEnd,      1, kGreyOut}, // 17
+    {VRCHG,        2, kEconomyEdge,        kEither, "ImageEdgeEnhancePopup",            -1,  kCSTEnd,      1, kGreyOut}, // 18
+    {VRCHG,        1, kEdge,               kEither, "TextEdgeEnhancePopup",              0,  kCSTEnd,      1, kGreyOut}, // 19
+    {VRCHG,        2, kEconomyEdge,        kEither, "GraphicsEdgeEnhancePopup",         -1,  kCSTEnd,      1, kGreyOut}, // 20
+    {kCSTTableEnd, 0, nullptr,             kFirst,  "",                                 -1,  kCSTEnd,      0, nullptr},  // 21
 };
 // clang-format on

@@ -49,7 +49,6 @@ struct CSTRule
     int32_t type;
     int8_t conditionCount;
     const CSTCondition *conditions;
-    int32_t expressionLength; // informational; the evaluator does not read it
     const int32_t *expression;
     char target[136]; // identifier of the target's row
     int32_t value;    // in constraint units, for the value action kCSTSet

@@ -31,17 +31,17 @@ bool PanelHolder::serves(ppd_file_t *ppd)
 
 QString PanelHolder::prepare()
 {
-    m_view = m_panel->panelView();
-    if (!m_view)
+    QWidget *view = m_panel->panelView();
+    if (!view)
         return tr("The options of this printer cannot be shown: the plug-in gives no view. Install it anew.");
     m_area = new PaneArea;
     m_area->setObjectName(QStringLiteral("paneArea"));
-    m_area->setWidget(m_view);
-    m_view->show();
+    m_area->setWidget(view);
+    view->show();
     QString error;
     if (!m_panel->restoreValuesAndReturnError(&error))
         return error.isEmpty() ? tr("Not all of the choices could be restored. Look them through.") : error;
-    m_watcher.watch(m_view);
+    m_watcher.watch(view);
     return {};
 }
 

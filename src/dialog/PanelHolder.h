@@ -30,8 +30,6 @@ public:
 
     // The area with the view, to be placed in a window; null before prepare() and where it failed. The holder owns it.
     QWidget *area() const { return m_area; }
-    // The panel's view; null as above.
-    QWidget *view() const { return m_view; }
 
 signals:
     // A control of the view reported a change; once a turn of the event loop.
@@ -40,7 +38,6 @@ signals:
 private:
     std::unique_ptr<PrintPanel> m_panel;
     QPointer<PaneArea> m_area;
-    QPointer<QWidget> m_view;
     ChangeWatcher m_watcher;
 };
 

@@ -41,7 +41,6 @@ public:
     PpdOptionRows *rows() const { return m_rows; }
     // The area with the panel's view; null where there is none.
     QWidget *pane() const { return m_holder ? m_holder->area() : nullptr; }
-    QWidget *view() const { return m_holder ? m_holder->view() : nullptr; }
     // The panel's own name for itself, localised; empty without a panel.
     QString paneName() const { return m_paneName; }
     // The PPD options that the panel is for; empty without a panel.

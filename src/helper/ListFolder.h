@@ -26,7 +26,6 @@ public:
     // Opens the folder under the root; nothing when it is not there or cannot be read.
     static std::optional<ListFolder> open();
 
-    int descriptor() const { return m_folder.get(); }
     // Whether the real user may make and remove files here: the one question that decides who manages profiles.
     bool writableByCaller() const;
     // Keeps other writers out until this object goes. False when another one has it for longer than the limit, or on

@@ -31,6 +31,25 @@ constexpr FieldRow kFields[] = {
 };
 // clang-format on
 
+// A field's text as the file carries it, without the characters that XML 1.0 has no place for (its production [2]
+// Char); nothing when it is not UTF-8.
+std::optional<std::string> xmlText(std::string_view text)
+{
+    if (!bv::isUtf8(text))
+        return std::nullopt;
+    std::string kept;
+    while (!text.empty()) {
+        const std::string_view character = text.substr(0, bv::utf8CharacterLength(text));
+        const auto first = static_cast<unsigned char>(character[0]);
+        const bool control = first < 0x20 && first != '\t' && first != '\n' && first != '\r';
+        const bool noCharacter = character == "\xEF\xBF\xBE" || character == "\xEF\xBF\xBF"; // U+FFFE, U+FFFF
+        if (!control && !noCharacter)
+            kept += character;
+        text.remove_prefix(character.size());
+    }
+    return kept;
+}
+
 bv::PropertyList numbers(const ProfileList &list, const char *key, int32_t ProfileRecord::*field)
 {
     bv::PropertyList dictionary = bv::PropertyList::dictionary();
@@ -45,7 +64,7 @@ bv::PropertyList texts(const ProfileList &list, const char *key, char (ProfileRe
     bv::PropertyList dictionary = bv::PropertyList::dictionary();
     bv::SlotKey keys(key);
     for (int slot = 0; slot < kProfileSlots; ++slot) {
-        const auto text = bv::xmlText(bv::fieldText(list.records[slot].*field));
+        const auto text = xmlText(bv::fieldText(list.records[slot].*field));
         if (text)
             dictionary.setText(keys.at(slot), *text);
         else
@@ -133,16 +152,6 @@ PropertyList readProfileListFile()
     return text ? PropertyList::fromXml(*text) : PropertyList();
 }
 
-bool isCompleteProfileList(std::string_view xml)
-{
-    const PropertyList file = PropertyList::fromXml(xml);
-    return std::all_of(kProfileClassKeys.begin(), kProfileClassKeys.end(), [&](const char *key) {
-        ProfileFieldDictionaries fields;
-        int32_t count = 0;
-        return BVPListMappingGetSubDict(file.root().item(key), &fields, &count) == 0;
-    });
-}
-
 std::optional<std::string> profileListXml(const ProfileList &rgb, const ProfileList &sim, const ProfileList &dst)
 {
     PropertyList root = PropertyList::dictionary();
@@ -154,23 +163,6 @@ std::optional<std::string> profileListXml(const ProfileList &rgb, const ProfileL
     }
     root.setNumber(cPlistVersionKey, 1);
     return root.toXml();
-}
-
-std::optional<std::string> xmlText(std::string_view text)
-{
-    if (!isUtf8(text))
-        return std::nullopt;
-    std::string kept;
-    while (!text.empty()) {
-        const std::string_view character = text.substr(0, utf8CharacterLength(text));
-        const auto first = static_cast<unsigned char>(character[0]);
-        const bool control = first < 0x20 && first != '\t' && first != '\n' && first != '\r';
-        const bool noCharacter = character == "\xEF\xBF\xBE" || character == "\xEF\xBF\xBF"; // U+FFFE, U+FFFF
-        if (!control && !noCharacter)
-            kept += character;
-        text.remove_prefix(character.size());
-    }
-    return kept;
 }
 
 } // namespace bv

@@ -78,20 +78,8 @@ namespace bv {
 // readable as one.
 PropertyList readProfileListFile();
 
-// Fills the three lists from an open list file. 0, or -1 when a class or one of its field dictionaries is missing; then
-// no list is touched.
-int32_t readLists(const PropertyList &file, ProfileList *rgb, ProfileList *sim, ProfileList *dst);
-
-// Whether a text is a property list whose root holds the three class dictionaries, each with its six field
-// dictionaries. Lenient about the XML itself, as the parser is.
-bool isCompleteProfileList(std::string_view xml);
-
 // The whole list file as XML text, UTF-8 and well-formed; nothing when it cannot be made.
 std::optional<std::string> profileListXml(const ProfileList &rgb, const ProfileList &sim, const ProfileList &dst);
-
-// A field's text as the file carries it, without the characters that XML 1.0 has no place for (its production [2]
-// Char); nothing when it is not UTF-8.
-std::optional<std::string> xmlText(std::string_view text);
 
 // The key of one field's slot: the key text and four digits. Made once a field, then moved from slot to slot.
 class SlotKey

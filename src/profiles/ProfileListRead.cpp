@@ -1,10 +1,11 @@
 // Reading lists from the list file, and the count check that follows each read.
-#include "profiles/ProfileOperations.h"
+#include "profiles/ProfileListRead.h"
 
 #include "platform/Log.h"
 #include "profiles/MenuState.h"
 #include "profiles/NoThrow_p.h"
 #include "profiles/ProfileListFile.h"
+#include "profiles/ProfileOperations.h"
 
 #include <algorithm>
 #include <array>

@@ -29,10 +29,10 @@ public:
     const QString &queue() const { return m_identity.name; }
     Ticket &ticket() { return m_ticket; }
     const Ticket &ticket() const { return m_ticket; }
-    void setData(const QString &key, const PrintValue &value) { m_data.setValue(key, value); }
 
     const Printer *currentPrinter() const override;
-    PrintValue data(const QString &key) const override { return m_data.value(key); }
+    // The dialog has no data items for panels.
+    PrintValue data(const QString &) const override { return {}; }
 
     PMPrintSettings printSettings() override { return &m_ticket; }
     PMPrintSession printSession() override { return this; }
@@ -44,7 +44,6 @@ private:
     QueueIdentity m_identity;
     PpdFile m_ppd;
     Ticket m_ticket;
-    PrintDictionary m_data;
     std::unique_ptr<QueuePrinter> m_printer; // null: no current printer
 };
 

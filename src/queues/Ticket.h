@@ -16,8 +16,6 @@ public:
     void clear();
     // Takes over the entries of another dictionary; nested dictionaries are shared with it.
     void replace(const PrintDictionary &entries);
-    // A ticket's contents that share nothing with it.
-    static PrintDictionary deepCopy(const PrintDictionary &entries);
 
 private:
     PrintDictionaryRef m_entries = std::make_shared<PrintDictionary>();

@@ -98,14 +98,4 @@ void SummaryView::showNote(const QString &note)
     setPlainText(note);
 }
 
-QString SummaryView::plainSummary() const
-{
-    if (m_items.empty())
-        return toPlainText();
-    QStringList lines;
-    for (const auto &[name, value] : m_items)
-        lines << name + QStringLiteral(": ") + value;
-    return lines.join(u'\n');
-}
-
 } // namespace bv

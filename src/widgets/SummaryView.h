@@ -26,9 +26,8 @@ public:
     // Shows a sentence in place of items.
     void showNote(const QString &note);
 
+    // What is shown now; empty while a note is.
     const Items &items() const { return m_items; }
-    // One "name: value" a line, or the note: what is shown, for tests and scripts.
-    QString plainSummary() const;
 
 private:
     // Texts run as the window does.

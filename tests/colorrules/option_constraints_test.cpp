@@ -137,7 +137,7 @@ TEST(Evaluator, OperatorsAndExpressions)
         {falseTrue, 2, long41, 0},
     };
     for (const auto &row : rules) {
-        const CSTRule rule{VRCHG, row.count, row.conditions, 0, row.expression.data(), "", 0, kCSTEnd, 0, nullptr};
+        const CSTRule rule{VRCHG, row.count, row.conditions, row.expression.data(), "", 0, kCSTEnd, 0, nullptr};
         EXPECT_EQ(bv::matchRule(rule, t.table()), row.result);
     }
 }

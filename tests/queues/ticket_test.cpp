@@ -50,14 +50,4 @@ TEST(Ticket, NoValueTakesTheKeyAway)
     EXPECT_EQ(written(ticket.entries()), "{}");
 }
 
-TEST(Ticket, ADeepCopySharesNothingWithTheTicket)
-{
-    bv::Ticket ticket;
-    ticket.replace(ticketFromJson(R"({"a":{"b":"1"},"c":[{"d":"1"}]})").value());
-    const PrintDictionary copy = bv::Ticket::deepCopy(ticket.entries());
-    ticket.value("a").dictionary()->setValue("b", "2");
-    ticket.value("c").array()->front().dictionary()->setValue("d", "2");
-    EXPECT_EQ(written(copy), R"({"a":{"b":"1"},"c":[{"d":"1"}]})");
-}
-
 } // namespace
