@@ -15,8 +15,8 @@ namespace {
 
 constexpr char kDownloadManager[] = "/Applications/Download Manager QL70/BREVANE Download Manager.app";
 
-// The three Halftone rows have no identifier, so that no rule can address them; and "Match Paper Color" is the name of
-// a render intent. Both are intended.
+// The three Halftone rows have no identifier: users rely on no rule greying them out. "Match Paper Color" is a render
+// intent, by the name that users know from the PPD.
 // clang-format off
 constexpr std::array<ControlRow, 46> kRows{{
     // outlet                      kind                ppdKey                          title                   summaryName                      identifier                         profileKind
@@ -137,7 +137,7 @@ void AdvancedColorOptions::getSummaryItemAccodingQuickColor(int16_t quickColor, 
         summariseItem(row.menu, row.summaryName, row.index[size_t(quickColor)], summaryDict, addArray);
     if (eco == 0)
         return;
-    // Reported a second time on purpose: the later value is the one in force.
+    // Reported a second time: readers of the summary take the later value, the one in force.
     for (const PresetRow *row : economyRows(quickColor))
         summariseItem(row->menu, row->summaryName, 0, summaryDict, addArray);
 }

@@ -1,5 +1,6 @@
 // The rule table. Rule 19 shares the two-condition expression with a single condition of its own, so text edge
-// enhancement does not follow the Economy switch; rules 0 and 3 to 20 change no value. Both are intended.
+// enhancement does not follow the Economy switch: users of Economy rely on crisp text. Rules 0 and 3 to 20 change no
+// value: users find their choice again when the control comes back.
 #include "colorrules/OptionConstraints.h"
 
 namespace {

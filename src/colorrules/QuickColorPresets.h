@@ -20,6 +20,6 @@ struct PresetRow
 // The 21 menus in the order in which a preset is applied and summarised.
 std::span<const PresetRow> quickColorPresets();
 
-// The rows whose menus go to their first item when Economy is on. Uneven between the presets on purpose: text edges
-// stay enhanced. Empty for a Quick Color outside 0 to 2.
+// The rows whose menus go to their first item when Economy is on: those of a preset that enhances edges, but never that
+// of text, since users of Economy rely on crisp text. Empty for a Quick Color outside 0 to 2.
 std::span<const PresetRow *const> economyRows(int16_t quickColor);

@@ -9,7 +9,7 @@
 
 class QWidget;
 
-// Control kinds. 1033 and 1038 are unassigned on purpose.
+// Control kinds. Log readers rely on the numbers; 1033 and 1038 stand for nothing.
 enum PDEControlKind : int32_t {
     kPDEControlEnd = 1032,
     kPDEControlText = 1034,

@@ -75,7 +75,8 @@ bool PDECommon::commonIsPPDChoiceConflicted(ppd_file_t *ppd, const char *option,
     if (before)
         ppdMarkOption(ppd, option, before->choice);
     else
-        unmark(ppd, option, choice); // the other options' conflict flags stay as the trial left them; intended
+        // The other options' conflict flags stay as the trial left them: the choice lists made after it read them.
+        unmark(ppd, option, choice);
     return conflicted;
 }
 

@@ -12,7 +12,7 @@
 
 namespace {
 
-// Labels of a tab view's items; items past the last label repeat it. That is intended.
+// Labels of a tab view's items. Items past the last label repeat it, so that a form with one tab more shows a text.
 constexpr const char *kTabLabels[] = {"Image", "Text", "Graphics", "Simulation"};
 
 void labelTabs(QTabWidget *tabs)

@@ -40,7 +40,7 @@ bool namesProfile(const PDEControlItem &row, const bv::PrintDictionaryRef &queue
 }
 
 // The value that the queue dictionary holds for a row. A stored value that is no string hands on `carried`, the value
-// of the row before: intended, tickets of older versions depend on it.
+// of the row before: tickets of older versions rely on it.
 int32_t storedValue(const PDEControlItem &row, const bv::PrintDictionaryRef &queue, int32_t carried)
 {
     if (namesProfile(row, queue)) {
@@ -79,7 +79,7 @@ int32_t PDECommon::commonSyncPaneFromTicket(PMPrintSettings settings, PMPrintSes
     const bv::PrintDictionaryRef queue = commonGetModelDictionary(settings, session);
     if (!queue)
         return noErr;
-    int32_t carried = -1; // carried over from row to row on purpose, see storedValue
+    int32_t carried = -1; // from row to row, for tickets of older versions (storedValue)
     for (int16_t i = 0; table && table[i].control; ++i) {
         if (table[i].ppdKey[0] == '\0')
             continue;

@@ -50,7 +50,8 @@ constexpr Column kColumns[] = {
 // clang-format on
 
 // Copies a text up to its first zero byte, cut at the field's 32 bytes and without a terminator of its own: the field
-// was zeroed with the spool. A shorter text that comes later for the same cell leaves the old tail; that is intended.
+// was zeroed with the spool. A shorter text that comes later for the same cell leaves the old tail: stored
+// lists hold names that came about so, and the comparison over all 32 bytes has to find them again.
 void storeText(char (&field)[kProfileTextBytes], std::span<const u_char> value)
 {
     value = value.first(std::min(value.size(), kProfileTextBytes));
@@ -80,7 +81,8 @@ void vSpoolPlist(const oid *name, size_t length, const netsnmp_variable_list *va
         storeText(record.*column->text, {variable->val.string, variable->val_len});
     } else if (column->number && variable->type == ASN_INTEGER && variable->val.integer) {
         record.*column->number = static_cast<int32_t>(*variable->val.integer);
-        // Every column-1 value counts, a second one for the same row too; that is intended.
+        // A second value for the same row counts too: the reconciliation looks at so many rows, and passes over one too
+        // many, which has no name.
         if (column->countsRow)
             ++PlistForSpool.count;
     }

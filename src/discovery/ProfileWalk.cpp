@@ -107,7 +107,7 @@ bool isException(u_char type)
 }
 
 // The storage of an identifier taken as text. The message about the order shows just that, so of most identifiers only
-// the first number as one byte; that is intended.
+// the first number as one byte. Support looks for the message by that text.
 std::string storageText(const Identifier &name)
 {
     std::array<char, 256> text{};

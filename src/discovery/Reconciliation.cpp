@@ -138,7 +138,7 @@ int32_t vRestructPlistSpool2Current(int32_t status)
         for (ProfileList *list : all)
             removed |= removeMisnamed(list, slot);
     }
-    // Only the RGB list is packed here, even when the record was another list's; that is intended.
+    // The other two lists keep their gaps, and the rows merged below fill them: users know the menus in that order.
     if (removed)
         BVPListPaddingProfile_Dict(&lists.rgb);
 

@@ -132,7 +132,8 @@ void BVPlistCheckWithInMenu_Dict(ProfileList *list)
                                     [](const ProfileRecord &record) { return bv::isUsed(record.InMenu); });
     if (used == list->count)
         return;
-    // Whatever stands from there on goes, even records in use behind a gap: this is intended.
+    // Whatever stands from there on goes, even records in use behind a gap: all who walk a list up to its count rely on
+    // nothing being in use behind it.
     std::fill(std::begin(list->records) + used, std::end(list->records), ProfileRecord{});
     list->count = static_cast<int32_t>(used);
 }

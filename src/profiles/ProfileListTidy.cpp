@@ -50,7 +50,7 @@ void BVPListPaddingProfile_Dict(ProfileList *list)
             return;
         ProfileRecord &vacated = list->records[from];
         list->records[to] = vacated;
-        // The vacated slot keeps its class: this is intended.
+        // The vacated slot keeps its class: who compares list files relies on what has always stood there.
         vacated = ProfileRecord{};
         vacated.ProfileClass = list->records[to].ProfileClass;
     }
