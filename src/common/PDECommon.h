@@ -1,5 +1,6 @@
 // PDECommon: the operations that both views share, grouped by subject. Each group is defined in the folder that its
-// subject belongs to. None of them throws; failures are statuses, and each leaves a line in the diagnostic log.
+// subject belongs to. Failures are statuses, out of memory too, and each leaves a line in the
+// diagnostic log.
 #pragma once
 
 #include "platform/ClassNames.h"
@@ -22,7 +23,7 @@ public:
     static int32_t commonConvertToCSTValue(const PDEControlItem *item, int32_t convalue);
     // Constraint units to control value: below 1 a pop-up's value becomes 0; other values stay.
     static int32_t commonConvertFromCSTValue(const PDEControlItem *item, int32_t convalue);
-    // Appends every bound PPD keyword in table order, duplicates too. noErr, or paramErr for a null array.
+    // Appends every bound PPD keyword in table order, duplicates too. noErr; paramErr for a null array; memFullErr.
     static int32_t commonAddPPDArray(QStringList *array, PDEControlTable table);
     // Sets titles and rebuilds the pop-up menus of a table from the PPD.
     static void commonBuildPDEItem(PDEControlTable table, ppd_file_t *ppdfile);
@@ -89,9 +90,9 @@ public:
 
     // ---- Summary (controls/SummaryText.cpp) ----
 
-    // Adds the items of a table. noErr, or paramErr when some row has no name or value.
+    // Adds the items of a table. noErr; paramErr when some row has no value; memFullErr.
     static int32_t commonGetSummaryText(PDEControlTable table, bv::PrintDictionary *adddict, bv::PrintArray *addArray);
-    // Adds one item under the localised text of its name key. noErr or paramErr.
+    // Adds one item under the localised text of its name key. noErr; paramErr without a key; memFullErr.
     static int32_t commonGetSummaryTextQuickColor(const char *quickColor, const QString &itemName,
                                                   bv::PrintDictionary *adddict, bv::PrintArray *addArray);
 

@@ -1,10 +1,9 @@
 // PDECommon: operations on whole control tables.
 #include "common/PDECommon.h"
 
-#include "platform/Log.h"
+#include "platform/NoThrow.h"
 
-#include <cstring>
-#include <new>
+#include <algorithm>
 
 namespace {
 
@@ -25,11 +24,10 @@ std::unique_ptr<PDEControlItem[]> PDECommon::commonControlTableCompound(const PD
     for (int32_t i = 0; i < count; ++i)
         total += tables[i] ? rowsBeforeEndKind(tables[i]) : 0;
 
-    std::unique_ptr<PDEControlItem[]> joined(new (std::nothrow) PDEControlItem[size_t(total) + 1]);
-    if (!joined) {
-        bv::diagnosticLine("no memory for the joined control table");
+    auto joined =
+        bv::withoutThrowing(nullptr, [total] { return std::make_unique<PDEControlItem[]>(size_t(total) + 1); });
+    if (!joined)
         return nullptr;
-    }
     PDEControlItem *next = joined.get();
     for (int32_t i = 0; i < count; ++i) {
         if (tables[i])
@@ -57,11 +55,13 @@ int32_t PDECommon::commonAddPPDArray(QStringList *array, PDEControlTable table)
 {
     if (!array)
         return paramErr;
-    for (int16_t row = 0; table && table[row].control; ++row) {
-        if (table[row].ppdKey[0] != '\0')
-            array->append(QString::fromLatin1(table[row].ppdKey));
-    }
-    return noErr;
+    return bv::withoutThrowing(memFullErr, [&] {
+        for (int16_t row = 0; table && table[row].control; ++row) {
+            if (table[row].ppdKey[0] != '\0')
+                array->append(QString::fromLatin1(table[row].ppdKey));
+        }
+        return noErr;
+    });
 }
 
 void PDECommon::commonBuildPDEItem(PDEControlTable table, ppd_file_t *ppdfile)

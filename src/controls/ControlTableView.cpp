@@ -1,7 +1,7 @@
 // Building, freeing and forwarding of a pane's control table.
 #include "controls/ControlTableView.h"
 
-#include "platform/Log.h"
+#include "platform/NoThrow.h"
 
 ControlTableView::ControlTableView(std::span<const ControlRow> rows, QWidget *parent) : QWidget(parent), m_rows(rows) {}
 
@@ -24,7 +24,7 @@ void ControlTableView::setViewBounds(const QRect &bounds)
 void ControlTableView::createPDEControlTable()
 {
     ctrlCount = int16_t(m_rows.size() + 1);
-    try {
+    const bool built = bv::withoutThrowing(false, [this] {
         std::vector<PDEControlItem> table;
         table.reserve(m_rows.size() + 1);
         for (const ControlRow &row : m_rows) {
@@ -33,8 +33,9 @@ void ControlTableView::createPDEControlTable()
         }
         table.push_back(endControlItem());
         ctrlTable = std::move(table);
-    } catch (const std::bad_alloc &) {
-        bv::diagnosticLine("no memory for a pane's control table");
+        return true;
+    });
+    if (!built) {
         ctrlTable.clear();
         return;
     }

@@ -3,9 +3,9 @@
 
 #include "controls/PpdEncoding.h"
 #include "platform/Log.h"
+#include "platform/NoThrow.h"
 
 #include <cups/array.h>
-#include <new>
 
 namespace {
 
@@ -29,16 +29,13 @@ int32_t PDECommon::commonGetPPDArrayForUIOption(ppd_file_t *ppd, const char *key
         bv::diagnosticLine(bv::formatLog("the PPD has no option %s", {bv::LogArgument(key)}));
         return kPMKeyNotFound;
     }
-    try {
+    return bv::withoutThrowing(kPMGeneralError, [&] {
         auto list = std::make_shared<PPDChoiceArray>();
         uint16_t count = 0;
         commonGetUIListFromPPD(ppd, key, list.get(), &count);
         *array = std::move(list);
-    } catch (const std::bad_alloc &) {
-        bv::diagnosticLine("no memory for a choice list");
-        return kPMGeneralError;
-    }
-    return noErr;
+        return noErr;
+    });
 }
 
 int32_t PDECommon::commonGetUIListFromPPD(ppd_file_t *ppd, const char *key, PPDChoiceArray *array, uint16_t *count)

@@ -3,6 +3,7 @@
 
 #include "platform/Bundle.h"
 #include "platform/Log.h"
+#include "platform/NoThrow.h"
 
 namespace {
 
@@ -18,20 +19,23 @@ int32_t PDECommon::commonGetSummaryText(PDEControlTable table, bv::PrintDictiona
 {
     if (!pluginBundle() || !table)
         return noErr;
-    int32_t status = noErr;
-    for (int16_t row = 0; table[row].control; ++row) {
-        if (!table[row].summaryName)
-            continue;
-        const QString name = localizedString(table[row].summaryName);
-        const QString value = commonGetControlValueFromPPDWithNSString(&table[row]);
-        if (name.isNull() || value.isNull()) {
-            bv::diagnosticLine(bv::formatLog("summary: %s has no value", {bv::LogArgument(table[row].summaryName)}));
-            status = paramErr;
-            continue;
+    return bv::withoutThrowing(memFullErr, [&] {
+        int32_t status = noErr;
+        for (int16_t row = 0; table[row].control; ++row) {
+            if (!table[row].summaryName)
+                continue;
+            const QString name = localizedString(table[row].summaryName);
+            const QString value = commonGetControlValueFromPPDWithNSString(&table[row]);
+            if (value.isNull()) {
+                bv::diagnosticLine(
+                    bv::formatLog("summary: %s has no value", {bv::LogArgument(table[row].summaryName)}));
+                status = paramErr;
+                continue;
+            }
+            addItem(name, value, adddict, addArray);
         }
-        addItem(name, value, adddict, addArray);
-    }
-    return status;
+        return status;
+    });
 }
 
 int32_t PDECommon::commonGetSummaryTextQuickColor(const char *quickColor, const QString &itemName,
@@ -39,9 +43,10 @@ int32_t PDECommon::commonGetSummaryTextQuickColor(const char *quickColor, const 
 {
     if (!pluginBundle())
         return noErr;
-    const QString name = quickColor ? localizedString(quickColor) : QString();
-    if (name.isNull())
+    if (!quickColor)
         return paramErr;
-    addItem(name, itemName, adddict, addArray);
-    return noErr;
+    return bv::withoutThrowing(memFullErr, [&] {
+        addItem(localizedString(quickColor), itemName, adddict, addArray);
+        return noErr;
+    });
 }

@@ -2,10 +2,10 @@
 #include "common/PDECommon.h"
 
 #include "platform/Log.h"
+#include "platform/NoThrow.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <new>
 
 namespace {
 
@@ -61,17 +61,19 @@ int32_t PDECommon::commonSyncTicketFromPane(PMPrintSettings settings, PMPrintSes
     const bv::PrintDictionaryRef queue = commonGetModelDictionary(settings, session);
     if (!queue)
         return noErr;
-    for (int16_t i = 0; table && table[i].control; ++i) {
-        const PDEControlItem &row = table[i];
-        if (row.ppdKey[0] == '\0')
-            continue;
-        const int32_t selected = commonGetControlValueFromPPDWithSInt32(&row);
-        if (selected < choiceCount(row))
-            storeChoice(row, selected, queue);
-        else
-            storeProfile(row, selected, queue);
-    }
-    return commonCFDictionaryMapToTicket(settings, queue);
+    return bv::withoutThrowing(memFullErr, [&] {
+        for (int16_t i = 0; table && table[i].control; ++i) {
+            const PDEControlItem &row = table[i];
+            if (row.ppdKey[0] == '\0')
+                continue;
+            const int32_t selected = commonGetControlValueFromPPDWithSInt32(&row);
+            if (selected < choiceCount(row))
+                storeChoice(row, selected, queue);
+            else
+                storeProfile(row, selected, queue);
+        }
+        return commonCFDictionaryMapToTicket(settings, queue);
+    });
 }
 
 int32_t PDECommon::commonSyncPaneFromTicket(PMPrintSettings settings, PMPrintSession session, PDEControlTable table)
@@ -79,15 +81,17 @@ int32_t PDECommon::commonSyncPaneFromTicket(PMPrintSettings settings, PMPrintSes
     const bv::PrintDictionaryRef queue = commonGetModelDictionary(settings, session);
     if (!queue)
         return noErr;
-    int32_t carried = -1; // from row to row, for tickets of older versions (storedValue)
-    for (int16_t i = 0; table && table[i].control; ++i) {
-        if (table[i].ppdKey[0] == '\0')
-            continue;
-        carried = storedValue(table[i], queue, carried);
-        if (carried != -1)
-            commonSetControlValueWithSInt32(&table[i], carried);
-    }
-    return commonCFDictionaryMapToTicket(settings, queue);
+    return bv::withoutThrowing(memFullErr, [&] {
+        int32_t carried = -1; // from row to row, for tickets of older versions (storedValue)
+        for (int16_t i = 0; table && table[i].control; ++i) {
+            if (table[i].ppdKey[0] == '\0')
+                continue;
+            carried = storedValue(table[i], queue, carried);
+            if (carried != -1)
+                commonSetControlValueWithSInt32(&table[i], carried);
+        }
+        return commonCFDictionaryMapToTicket(settings, queue);
+    });
 }
 
 bv::PrintDictionaryRef PDECommon::commonGetModelDictionary(PMPrintSettings settings, PMPrintSession session)
@@ -124,16 +128,13 @@ int32_t PDECommon::commonCFDictionaryMapToTicket(PMPrintSettings settings, const
 {
     if (!copyDict)
         return noErr;
-    try {
+    return bv::withoutThrowing(memFullErr, [&] {
         // A copy first: an entry may replace the very dictionary that holds the one being walked.
         const bv::PrintEntries entries = copyDict->entries;
         for (const auto &[key, value] : entries)
             PMPrintSettingsSetValue(settings, key, value);
-    } catch (const std::bad_alloc &) {
-        bv::diagnosticLine("no memory to copy the queue's values to the ticket's top level");
-        return memFullErr;
-    }
-    return noErr;
+        return noErr;
+    });
 }
 
 bool PDECommon::commonCFTypeIsValid(const bv::PrintValue &object, const bv::PrintValue &type)

@@ -3,6 +3,7 @@
 
 #include "platform/FileDescriptor.h"
 #include "platform/Log.h"
+#include "platform/NoThrow.h"
 
 #include <cerrno>
 #include <cstring>
@@ -56,9 +57,7 @@ int waitFor(pid_t child)
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-} // namespace
-
-std::optional<ChildResult> runChild(const std::string &program, std::span<const std::string> arguments)
+std::optional<ChildResult> run(const std::string &program, std::span<const std::string> arguments)
 {
     std::vector<char *> words;
     words.push_back(const_cast<char *>(program.c_str()));
@@ -89,13 +88,19 @@ std::optional<ChildResult> runChild(const std::string &program, std::span<const 
     try {
         readToEnd(readEnd.get(), &result.output); // what came before a failure counts
     } catch (const std::bad_alloc &) {
-        report(program, "no memory for its output", ENOMEM);
         readEnd.reset(); // the child meets a closed pipe and ends
         waitFor(child);
-        return std::nullopt;
+        throw;
     }
     result.exitCode = waitFor(child);
     return result;
+}
+
+} // namespace
+
+std::optional<ChildResult> runChild(const std::string &program, std::span<const std::string> arguments)
+{
+    return withoutThrowing(std::nullopt, [&] { return run(program, arguments); });
 }
 
 } // namespace bv

@@ -3,11 +3,11 @@
 
 #include "platform/FileDescriptor.h"
 #include "platform/Log.h"
+#include "platform/NoThrow.h"
 
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
-#include <new>
 #include <sys/stat.h>
 
 namespace bv {
@@ -44,12 +44,7 @@ std::optional<std::string> fileContents(const std::string &path, size_t maximum)
     const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
     if (!file)
         return refuse(path, std::strerror(errno));
-    try {
-        return readOpenFile(file.get(), path, maximum);
-    } catch (const std::bad_alloc &) {
-        diagnosticLine("no memory for a file's contents");
-        return std::nullopt;
-    }
+    return withoutThrowing(std::nullopt, [&] { return readOpenFile(file.get(), path, maximum); });
 }
 
 } // namespace bv

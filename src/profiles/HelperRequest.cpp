@@ -5,10 +5,10 @@
 
 #include "platform/ChildProcess.h"
 #include "platform/Log.h"
+#include "platform/NoThrow.h"
 #include "platform/RootPath.h"
 #include "platform/Utf8.h"
 
-#include <new>
 #include <sys/stat.h>
 #include <utility>
 #include <vector>
@@ -69,16 +69,13 @@ bool helperAvailable()
 
 std::optional<std::string> runHelper(std::string_view request, std::span<const std::string> arguments)
 {
-    try {
+    return withoutThrowing(std::nullopt, [&]() -> std::optional<std::string> {
         if (!helperAvailable()) {
             diagnosticLine(formatLog("%@: no helper", {request}));
             return std::nullopt;
         }
         return transport().run(request, arguments);
-    } catch (const std::bad_alloc &) {
-        diagnosticLine("no memory for a request to the helper");
-        return std::nullopt;
-    }
+    });
 }
 
 std::optional<std::string_view> behindMark(const std::optional<std::string> &answer, std::string_view request,

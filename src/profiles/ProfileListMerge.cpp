@@ -1,8 +1,8 @@
 // Merging edited lists with those of the list file.
 #include "profiles/ProfileOperations.h"
 
+#include "platform/NoThrow.h"
 #include "profiles/MenuState.h"
-#include "profiles/NoThrow_p.h"
 
 #include <algorithm>
 #include <memory>

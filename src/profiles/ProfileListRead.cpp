@@ -2,8 +2,8 @@
 #include "profiles/ProfileListRead.h"
 
 #include "platform/Log.h"
+#include "platform/NoThrow.h"
 #include "profiles/MenuState.h"
-#include "profiles/NoThrow_p.h"
 #include "profiles/ProfileListFile.h"
 #include "profiles/ProfileOperations.h"
 

@@ -3,8 +3,8 @@
 
 #include "platform/FileUrl.h"
 #include "platform/Log.h"
+#include "platform/NoThrow.h"
 #include "profiles/HelperRequest.h"
-#include "profiles/NoThrow_p.h"
 #include "profiles/ProfileListFile.h"
 #include "profiles/ProfilePaths.h"
 #include "profiles/RequestNames.h"

@@ -2,7 +2,7 @@
 #include "common/PDECommon.h"
 
 #include "platform/Bundle.h"
-#include "platform/Log.h"
+#include "platform/NoThrow.h"
 #include "profiles/MenuState.h"
 #include "profiles/ProfileKinds.h"
 #include "profiles/ProfileOperations.h"
@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <array>
 #include <memory>
-#include <new>
 
 namespace {
 
@@ -41,7 +40,7 @@ void appendProfiles(QComboBox *menu, const ProfileList &list)
 
 int32_t PDECommon::commonAddMenuFromProfilePlist(PDEControlTable table)
 {
-    try {
+    return bv::withoutThrowing(paramErr, [&]() -> int32_t {
         const auto lists = std::make_unique<ThreeLists>();
         const int32_t read =
             BVPListReadProfile_All(&(*lists)[kProfileRGB], &(*lists)[kProfileSIM], &(*lists)[kProfileDST]);
@@ -58,8 +57,5 @@ int32_t PDECommon::commonAddMenuFromProfilePlist(PDEControlTable table)
                 appendProfiles(menu, (*lists)[*which]);
         }
         return result;
-    } catch (const std::bad_alloc &) {
-        bv::diagnosticLine("no memory for the profile menus");
-        return paramErr;
-    }
+    });
 }

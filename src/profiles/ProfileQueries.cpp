@@ -1,8 +1,8 @@
 // Questions and small orders to the helper about the list files.
 #include "profiles/ProfileOperations.h"
 
+#include "platform/NoThrow.h"
 #include "profiles/HelperRequest.h"
-#include "profiles/NoThrow_p.h"
 #include "profiles/ProfilePaths.h"
 #include "profiles/RequestNames.h"
 

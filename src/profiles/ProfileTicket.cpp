@@ -1,7 +1,7 @@
 // PDECommon: a chosen profile in the queue's dictionary of the ticket.
 #include "common/PDECommon.h"
 
-#include "platform/Log.h"
+#include "platform/NoThrow.h"
 #include "profiles/MenuState.h"
 #include "profiles/ProfileKinds.h"
 #include "profiles/ProfileOperations.h"
@@ -9,7 +9,6 @@
 #include <QStringDecoder>
 #include <algorithm>
 #include <memory>
-#include <new>
 
 namespace {
 
@@ -20,17 +19,6 @@ QString entryKey(const PDEControlItem *item, const char *suffix)
     return QString::fromLatin1(item->ppdKey) + QLatin1String(suffix);
 }
 
-// The stored list of a row's class; null when memory runs out. A list that cannot be read is empty.
-std::unique_ptr<ProfileList> rowsList(ProfileClassIndex which)
-{
-    std::unique_ptr<ProfileList> list(new (std::nothrow) ProfileList());
-    if (list)
-        BVPListReadProfile_Dict(list.get(), which);
-    else
-        bv::diagnosticLine("no memory for a profile list");
-    return list;
-}
-
 // Calls `visit(record, number)` for each record that is in the menus, numbered from 1, until it answers true.
 template <typename Visit> void visitNumbered(const ProfileList &list, Visit visit)
 {
@@ -39,6 +27,40 @@ template <typename Visit> void visitNumbered(const ProfileList &list, Visit visi
         if (bv::isInMenu(list.records[i].InMenu) && visit(list.records[i], ++number))
             return;
     }
+}
+
+// The stored list of a row's class. A list that cannot be read is empty.
+std::unique_ptr<ProfileList> rowsList(ProfileClassIndex which)
+{
+    auto list = std::make_unique<ProfileList>();
+    BVPListReadProfile_Dict(list.get(), which);
+    return list;
+}
+
+// The path of the profile with that number; empty when the list has no such number.
+std::string numberedPath(ProfileClassIndex which, int16_t wanted)
+{
+    std::string path;
+    visitNumbered(*rowsList(which), [&](const ProfileRecord &record, int16_t number) {
+        if (number != wanted)
+            return false;
+        path = bv::devicePath(record);
+        return true;
+    });
+    return path;
+}
+
+// The number of the profile with that path on a known storage; 0 when the list has none.
+int16_t numberOfPath(ProfileClassIndex which, const QString &wanted)
+{
+    int16_t position = 0;
+    visitNumbered(*rowsList(which), [&](const ProfileRecord &record, int16_t number) {
+        if (!bv::profileStorage(record.Location) || QString::fromStdString(bv::devicePath(record)) != wanted)
+            return false;
+        position = number;
+        return true;
+    });
+    return position;
 }
 
 // The path that a stored entry stands for, as the printer's text; a null string when it stands for none.
@@ -63,23 +85,16 @@ int32_t PDECommon::commonSetTicketAddedProfile(const PDEControlItem *item, const
     const auto which = bv::profileClassOfKind(item->profileKind);
     if (!dict || !which)
         return -1;
-    std::string path;
-    if (const auto list = rowsList(*which)) {
-        visitNumbered(*list, [&](const ProfileRecord &record, int16_t number) {
-            if (number != select)
-                return false;
-            path = bv::devicePath(record);
-            return true;
-        });
-    }
-    if (item->ppdChoices && !item->ppdChoices->empty()) {
-        const PPDChoiceEntry &first = item->ppdChoices->front();
-        dict->setValue(first[0], bv::PrintValue(first[2]));
-    }
-    dict->setValue(entryKey(item, "CustomFilename"),
-                   bv::PrintValue(QString::fromStdString(bv::encodeDevicePath(path))));
-    commonSetTicketAddedProfileFlag(item, dict, QStringLiteral("True"));
-    return 0;
+    return bv::withoutThrowing(-1, [&] {
+        const std::string path = numberedPath(*which, select);
+        if (item->ppdChoices && !item->ppdChoices->empty()) {
+            const PPDChoiceEntry &first = item->ppdChoices->front();
+            dict->setValue(first[0], bv::PrintValue(first[2]));
+        }
+        dict->setValue(entryKey(item, "CustomFilename"),
+                       bv::PrintValue(QString::fromStdString(bv::encodeDevicePath(path))));
+        return commonSetTicketAddedProfileFlag(item, dict, QStringLiteral("True"));
+    });
 }
 
 int16_t PDECommon::commonGetTicketAddedProfile(const PDEControlItem *item, const bv::PrintDictionaryRef &dict)
@@ -87,18 +102,10 @@ int16_t PDECommon::commonGetTicketAddedProfile(const PDEControlItem *item, const
     const auto which = bv::profileClassOfKind(item->profileKind);
     if (!dict || !which)
         return -1;
-    const QString wanted = storedPath(dict->value(entryKey(item, "CustomFilename")));
-    const auto list = wanted.isEmpty() ? nullptr : rowsList(*which);
-    int16_t position = 0;
-    if (list) {
-        visitNumbered(*list, [&](const ProfileRecord &record, int16_t number) {
-            if (!bv::profileStorage(record.Location) || QString::fromStdString(bv::devicePath(record)) != wanted)
-                return false;
-            position = number;
-            return true;
-        });
-    }
-    return position;
+    return bv::withoutThrowing(-1, [&]() -> int16_t {
+        const QString wanted = storedPath(dict->value(entryKey(item, "CustomFilename")));
+        return wanted.isEmpty() ? 0 : numberOfPath(*which, wanted);
+    });
 }
 
 int32_t PDECommon::commonSetTicketAddedProfileFlag(const PDEControlItem *item, const bv::PrintDictionaryRef &dict,
