@@ -1,6 +1,5 @@
 // PDECommon: the operations that both views share, grouped by subject. Each group is defined in the folder that its
-// subject belongs to. Failures are statuses, out of memory too, and each leaves a line in the
-// diagnostic log.
+// subject belongs to. Failures are statuses, out of memory too, and each leaves a line in the diagnostic log.
 #pragma once
 
 #include "platform/ClassNames.h"

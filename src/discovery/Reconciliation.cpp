@@ -123,10 +123,7 @@ void vRestructDetail(int32_t row, ProfileList *list)
 
 int32_t vRestructPlistSpool2Current(int32_t status)
 {
-    struct Lists
-    {
-        ProfileList rgb, sim, dst;
-    } lists{};
+    ProfileLists lists{};
     BVPListReadProfile_All(&lists.rgb, &lists.sim, &lists.dst);
     ProfileList *const all[] = {&lists.rgb, &lists.sim, &lists.dst};
 

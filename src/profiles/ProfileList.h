@@ -34,6 +34,12 @@ struct ProfileList
 };
 static_assert(sizeof(ProfileList) == size_t{84} * kProfileSlots + 4);
 
+// The lists of one file: 126 kB, too much for a small stack.
+struct ProfileLists
+{
+    ProfileList rgb, sim, dst;
+};
+
 namespace bv {
 
 // The text of a 32-byte field up to its first NUL; never runs past the field.

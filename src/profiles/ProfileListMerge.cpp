@@ -50,13 +50,9 @@ int32_t BVPListMappingProfile_All_Pap(const ProfileList *rgb, const ProfileList 
                                       const ProfileList *rgbDelete, const ProfileList *simDelete,
                                       const ProfileList *dstDelete)
 {
-    struct FileLists
-    {
-        ProfileList rgb, sim, dst; // 126 kB
-    };
-    std::unique_ptr<FileLists> file;
+    std::unique_ptr<ProfileLists> file;
     const int32_t read = bv::withoutThrowing(-1, [&] {
-        file = std::make_unique<FileLists>();
+        file = std::make_unique<ProfileLists>();
         return BVPListReadProfile_All(&file->rgb, &file->sim, &file->dst);
     });
     // A file that cannot be read counts as an empty one.

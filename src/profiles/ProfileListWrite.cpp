@@ -17,11 +17,6 @@ namespace {
 
 constexpr size_t kPieceUnits = 90000;
 
-struct ThreeLists
-{
-    ProfileList rgb, sim, dst; // 126 kB
-};
-
 int32_t handOver(const std::string &xml)
 {
     const std::string url = bv::fileUrl(bv::profilePaths().current);
@@ -70,7 +65,7 @@ int32_t BVPListWriteProfile_All_Pap(const ProfileList *rgb, const ProfileList *s
     if (!mayWrite())
         return -1;
     return bv::withoutThrowing(-1, [&] {
-        const auto merged = std::make_unique<ThreeLists>();
+        const auto merged = std::make_unique<ProfileLists>();
         BVPListMappingProfile_All_Pap(rgb, sim, dst, &merged->rgb, &merged->sim, &merged->dst, rgbDelete, simDelete,
                                       dstDelete);
         return writeLists(merged->rgb, merged->sim, merged->dst);
@@ -81,7 +76,7 @@ int32_t BVPListWriteProfile_Dict(const ProfileList *list, int32_t which, Profile
                                  ProfileList *dst)
 {
     return bv::withoutThrowing(-1, [&] {
-        const auto file = std::make_unique<ThreeLists>();
+        const auto file = std::make_unique<ProfileLists>();
         BVPListReadProfile_All(&file->rgb, &file->sim, &file->dst); // unreadable: the lists stay empty
         const std::array<ProfileList *, 3> outputs = {rgb, sim, dst};
         const std::array<ProfileList *, 3> stored = {&file->rgb, &file->sim, &file->dst};
