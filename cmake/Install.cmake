@@ -25,6 +25,9 @@ install(TARGETS bvprint RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(TARGETS bvco LIBRARY DESTINATION lib/bvco)
 install(TARGETS QL70Helper QL70Walk RUNTIME DESTINATION "${BV_HELPERS}")
 
+# The print server looks for filters in its own folder, lib/cups/filter below /usr (cups-config --serverbin).
+install(TARGETS bvql70 RUNTIME DESTINATION lib/cups/filter)
+
 install(FILES ${CMAKE_SOURCE_DIR}/resources/QL70.ppd DESTINATION ${BV_PPD_FOLDER})
 install(FILES ${CMAKE_SOURCE_DIR}/resources/bvprint.desktop DESTINATION ${BV_APPLICATIONS})
 install(FILES ${CMAKE_SOURCE_DIR}/resources/icons/bvprint.svg DESTINATION ${BV_ICONS})

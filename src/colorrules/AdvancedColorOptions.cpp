@@ -1,10 +1,10 @@
 // The Advanced Color Options pane's control table, menus, presets and buttons.
 #include "colorrules/AdvancedColorOptions.h"
 
-#include "colorrules/QuickColorPresets.h"
 #include "platform/ApplicationLauncher.h"
 #include "platform/Bundle.h"
 #include "profiles/ProfileOperations.h"
+#include "profiles/QuickColorPresets.h"
 
 #include <QComboBox>
 #include <QPushButton>

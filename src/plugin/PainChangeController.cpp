@@ -1,7 +1,7 @@
 // Swapping the panes, and forwarding to both.
 #include "plugin/PainChangeController.h"
 
-#include "colorrules/QuickColorPresets.h"
+#include "profiles/QuickColorPresets.h"
 
 #include <QLayout>
 #include <memory>

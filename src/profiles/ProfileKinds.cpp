@@ -1,4 +1,4 @@
-// Lists, folders and encoding of the profiles that a row can choose.
+// Lists and folders of the profiles that a row can choose.
 #include "profiles/ProfileKinds.h"
 
 namespace bv {
@@ -29,30 +29,6 @@ std::string devicePath(const ProfileRecord &record)
     std::string path(storage ? storage->folder : "");
     path.append(fieldText(record.FileName));
     path.resize(std::min(path.size(), kDevicePathLength));
-    return path;
-}
-
-std::string encodeDevicePath(std::string_view path)
-{
-    std::string text;
-    text.reserve(path.size() * 2);
-    for (const char c : path) {
-        const auto byte = static_cast<unsigned char>(c);
-        text.push_back(char('0' + (byte >> 4)));
-        text.push_back(char('0' + (byte & 0x0F)));
-    }
-    return text;
-}
-
-std::string decodeDevicePath(std::string_view text)
-{
-    std::string path;
-    path.reserve((text.size() + 1) / 2);
-    for (size_t i = 0; i < text.size(); i += 2) {
-        const auto first = static_cast<unsigned char>(text[i]);
-        const auto second = i + 1 < text.size() ? static_cast<unsigned char>(text[i + 1]) : 0U;
-        path.push_back(char((first * 16 & 0xFF) + second - '0'));
-    }
     return path;
 }
 

@@ -1,4 +1,4 @@
-// How a row of the advanced pane finds its stored profiles: list, storage folder and its encoding.
+// How a row of the advanced pane finds its stored profiles: list and storage folder.
 #pragma once
 
 #include "common/PDEControlItem.h"
@@ -15,10 +15,5 @@ std::optional<ProfileClassIndex> profileClassOfKind(int16_t profileKind);
 
 // The path of a profile on the printer: the folder of its storage (none for unknown storage) and its file name.
 std::string devicePath(const ProfileRecord &record);
-
-// A path as a ticket carries it: each byte as two characters, "0" plus its high and its low four bits.
-std::string encodeDevicePath(std::string_view path);
-// The bytes that an encoded text stands for; an odd last character is paired with a NUL.
-std::string decodeDevicePath(std::string_view text);
 
 } // namespace bv

@@ -2,6 +2,7 @@
 #include "common/PDECommon.h"
 
 #include "platform/NoThrow.h"
+#include "profiles/DevicePath.h"
 #include "profiles/MenuState.h"
 #include "profiles/ProfileKinds.h"
 #include "profiles/ProfileOperations.h"

@@ -1,5 +1,6 @@
 // Stored profiles in the menus of profile rows, and a chosen profile in the ticket.
 #include "colorrules/AdvancedColorOptions.h"
+#include "profiles/DevicePath.h"
 #include "profiles/ProfileKinds.h"
 #include "profiles/ProfileListFile.h"
 #include "common/PDECommon.h"

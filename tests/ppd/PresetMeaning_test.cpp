@@ -1,5 +1,5 @@
 // What the printer's PPD must offer so that Quick Color, which picks choices by position, means what its names say.
-#include "colorrules/QuickColorPresets.h"
+#include "profiles/QuickColorPresets.h"
 
 #include <cups/ppd.h>
 #include <gtest/gtest.h>

@@ -1,0 +1,124 @@
+// Reading ahead and writing behind, with one buffer for both.
+#include "filter/DocumentStream.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <unistd.h>
+
+namespace bv {
+
+DocumentStream::DocumentStream(int input, int output) : m_input(input), m_output(output), m_buffer(kBufferBytes) {}
+
+std::string_view DocumentStream::ahead(size_t wanted)
+{
+    while (m_end - m_next < wanted && refill()) {
+    }
+    return {m_buffer.data() + m_next, m_end - m_next};
+}
+
+void DocumentStream::pass(uint64_t count)
+{
+    while (count > 0 && !ahead(1).empty()) {
+        const size_t here = size_t(std::min<uint64_t>(count, m_end - m_next));
+        advance(here);
+        count -= here;
+    }
+}
+
+void DocumentStream::passLines(uint64_t count)
+{
+    while (count > 0) {
+        const std::string_view text = ahead(2);
+        if (text.empty())
+            return;
+        const size_t end = text.find_first_of("\r\n");
+        // A CR at the end of what is there may have its LF still to come.
+        if (end == text.npos || (end + 1 == text.size() && end > 0)) {
+            advance(end == text.npos ? text.size() : end);
+            continue;
+        }
+        advance(text.substr(end, 2) == "\r\n" ? end + 2 : end + 1);
+        --count;
+    }
+}
+
+void DocumentStream::passToComment()
+{
+    pass(1);
+    while (!ahead(1).empty()) {
+        const char *start = m_buffer.data() + m_next;
+        const auto *found = static_cast<const char *>(std::memchr(start, '%', m_end - m_next));
+        if (!found) {
+            advance(m_end - m_next);
+            continue;
+        }
+        advance(size_t(found - start));
+        if (atLineStart())
+            return;
+        advance(1);
+    }
+}
+
+void DocumentStream::drop(size_t count)
+{
+    flush();
+    advance(count);
+    m_begin = m_next;
+}
+
+void DocumentStream::put(std::string_view text)
+{
+    flush();
+    write(text);
+}
+
+void DocumentStream::flush()
+{
+    write({m_buffer.data() + m_begin, m_next - m_begin});
+    m_begin = m_next;
+}
+
+// Makes room and reads once; false when nothing more can be had.
+bool DocumentStream::refill()
+{
+    if (m_atEnd || m_writeFailed)
+        return false;
+    if (m_end == m_buffer.size()) {
+        flush();
+        if (m_next == 0)
+            return false; // the buffer is full of what is asked for
+        std::memmove(m_buffer.data(), m_buffer.data() + m_next, m_end - m_next);
+        m_end -= m_next;
+        m_begin = m_next = 0;
+    }
+    ssize_t count = 0;
+    do {
+        count = ::read(m_input, m_buffer.data() + m_end, m_buffer.size() - m_end);
+    } while (count < 0 && errno == EINTR);
+    m_readFailed = count < 0;
+    m_atEnd = count <= 0;
+    m_end += size_t(std::max<ssize_t>(count, 0));
+    return !m_atEnd;
+}
+
+void DocumentStream::advance(size_t count)
+{
+    if (count == 0)
+        return;
+    m_next += count;
+    m_before = m_buffer[m_next - 1];
+}
+
+void DocumentStream::write(std::string_view bytes)
+{
+    while (!bytes.empty() && !m_writeFailed) {
+        const ssize_t count = ::write(m_output, bytes.data(), bytes.size());
+        if (count >= 0)
+            bytes.remove_prefix(size_t(count));
+        else
+            m_writeFailed = errno != EINTR;
+    }
+}
+
+} // namespace bv

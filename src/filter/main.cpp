@@ -1,0 +1,89 @@
+// bvql70: the filter of the print chain that makes a job's color options take effect in its documents.
+#include "filter/DocumentRewriter.h"
+#include "filter/JobSettings.h"
+
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
+#include <memory>
+#include <unistd.h>
+
+namespace {
+
+// One line of the job's log, in the print server's words (filter(7)): "ERROR: ...", "WARNING: ...", "INFO: ...".
+void say(const char *level, const std::string &sentence)
+{
+    std::fprintf(stderr, "%s: %s\n", level, sentence.c_str());
+}
+
+int fail(const std::string &what)
+{
+    say("ERROR", what);
+    return 1;
+}
+
+std::string reason()
+{
+    return std::strerror(errno);
+}
+
+struct PpdClose
+{
+    void operator()(ppd_file_t *ppd) const { ppdClose(ppd); }
+};
+
+bv::JobSettings readSettings(const char *options)
+{
+    const char *path = std::getenv("PPD");
+    const std::unique_ptr<ppd_file_t, PpdClose> ppd(path ? ppdOpenFile(path) : nullptr);
+    if (ppd)
+        return bv::jobSettings(ppd.get(), options);
+    bv::JobSettings none;
+    none.warnings.emplace_back("The printer's PPD file cannot be read; the document is printed as it is.");
+    return none;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (argc != 6 && argc != 7) {
+        say("ERROR", "usage: bvql70 job-id user title copies options [file]");
+        return 1;
+    }
+    // A cancelled job ends the filter at once; a reader that is gone is an error to be told.
+    std::signal(SIGTERM, SIG_DFL);
+    std::signal(SIGPIPE, SIG_IGN);
+
+    int input = STDIN_FILENO;
+    if (argc == 7) {
+        input = open(argv[6], O_RDONLY | O_CLOEXEC);
+        if (input < 0)
+            return fail("The document cannot be opened: " + reason() + ".");
+    }
+
+    bv::JobSettings job = readSettings(argv[5]);
+    for (const std::string &warning : job.warnings)
+        say("WARNING", warning);
+    bv::DocumentRewriter rewriter(std::move(job.settings),
+                                  // None of the filters before this one counts the pages for the server's page log.
+                                  [](int page, int copies) {
+                                      say("PAGE", std::to_string(page) + " " + std::to_string(copies));
+                                      say("INFO", "Printing page " + std::to_string(page) + ".");
+                                  });
+    switch (rewriter.copy(input, STDOUT_FILENO)) {
+    case bv::DocumentRewriter::Result::ReadError:
+        return fail("The document cannot be read: " + reason() + ".");
+    case bv::DocumentRewriter::Result::WriteError:
+        return fail("The document cannot be passed on: " + reason() + ".");
+    case bv::DocumentRewriter::Result::NoDocument:
+        say("WARNING", "The document is no PostScript; it is printed as it is.");
+        return 0;
+    case bv::DocumentRewriter::Result::Done:
+        return 0;
+    }
+    return 1;
+}
