@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QThread>
 #include <arpa/inet.h>
 #include <grp.h>
@@ -16,6 +17,8 @@
 namespace bvtest {
 
 namespace {
+
+constexpr char kStockFilters[] = "/usr/lib/cups/filter";
 
 constexpr int kPatience = 30000; // milliseconds; for a machine under load
 
@@ -138,6 +141,16 @@ bool PrivateCupsd::writeFiles()
     if (!write(folder.filePath(QStringLiteral("bin/backend/rec")), kBackend) ||
         !write(folder.filePath(QStringLiteral("bin/filter/copy")), kCopyingFilter))
         return false;
+    if (m_useFilters) {
+        for (const QFileInfo &filter : QDir(QString::fromLatin1(kStockFilters)).entryInfoList(QDir::Files))
+            QFile::link(filter.absoluteFilePath(), folder.filePath(QStringLiteral("bin/filter/") + filter.fileName()));
+        // A copy, since the server's own user need not get into the build folder.
+        const QString ours = folder.filePath(QStringLiteral("bin/filter/bvql70"));
+        QFile::remove(ours);
+        if (!QFile::copy(QStringLiteral(BV_BUILD_DIR "/bin/bvql70"), ours))
+            return false;
+        chmod(ours.toLocal8Bit().constData(), 0755);
+    }
     // A backend or folder that others may write is refused, whatever the test's umask is.
     for (const char *name : {"bin", "bin/backend", "bin/backend/rec", "bin/filter", "bin/filter/copy"})
         chmod(folder.filePath(QLatin1String(name)).toLocal8Bit().constData(), 0755);
@@ -159,6 +172,13 @@ bool PrivateCupsd::writeFiles()
     return write(folder.filePath(QStringLiteral("etc/cupsd.conf")), configuration.toUtf8()) &&
            write(folder.filePath(QStringLiteral("etc/cups-files.conf")),
                  QString::fromLatin1(kFiles).arg(m_folder, user, group, systemGroup).toUtf8());
+}
+
+bool PrivateCupsd::useFilters()
+{
+    m_useFilters = true;
+    return QFile::exists(QLatin1String(kStockFilters) + QStringLiteral("/pstops")) &&
+           QFile::exists(QLatin1String(kStockFilters) + QStringLiteral("/pdftopdf"));
 }
 
 void PrivateCupsd::listenOnPort()

@@ -28,6 +28,8 @@ public:
 
     // Has it listen on a port of the loopback address as well, for programs that cannot reach a socket. Before start.
     void listenOnPort();
+    // Gives it the machine's print filters and the built bvql70 beside its own. Before start. Whether they are there.
+    bool useFilters();
     // Starts the server; a sentence when it does not come up, else empty.
     QString start();
     // Ends it; jobs can be sent no more.
@@ -61,6 +63,7 @@ private:
 
     QString m_folder;
     int m_port = 0; // 0: on the socket alone
+    bool m_useFilters = false;
     QProcess m_server;
 };
 

@@ -1,0 +1,100 @@
+// The whole way to the printer: jobs from programs of other makers and from ours, through the print server's own
+// filters and bvql70, to a backend that records what the printer would get.
+#include "support/BatchProcess.h"
+#include "support/PrivateCupsd.h"
+
+#include "profiles/DevicePath.h"
+
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using bvtest::BatchProcess;
+using bvtest::PrivateCupsd;
+
+constexpr char kDocument[] = BV_SOURCE_DIR "/resources/demo/sample.pdf";
+constexpr int kColorOptions = 29; // all of the panes
+
+class PrintChain : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        if (!m_server.useFilters())
+            GTEST_SKIP() << "needs the print server's filters (packages cups and cups-filters)";
+        ASSERT_EQ(m_server.start().toStdString(), "");
+        ASSERT_TRUE(m_server.addQueue("QL70", BV_SOURCE_DIR "/resources/QL70.ppd"));
+        // The renderer that keeps text as text.
+        ASSERT_TRUE(m_server.administer("lpadmin", {"-p", "QL70", "-o", "pdftops-renderer-default=pdftops"}));
+    }
+
+    // The color settings of the document that the printer gets, by option; each stands there once.
+    std::map<QString, QString> settingsOf(int job)
+    {
+        const QByteArray data = m_server.recorded(job).data;
+        EXPECT_TRUE(data.startsWith("%!PS-Adobe-")) << data.left(80).constData();
+        EXPECT_EQ(data.count("%%EOF"), 1);
+        std::map<QString, QString> settings;
+        static const QRegularExpression setting(QStringLiteral(R"(<</Type 70/(BV\w+)(/\w+|\(.*\))>>>>setpagedevice)"));
+        for (auto matches = setting.globalMatch(QString::fromLatin1(data)); matches.hasNext();) {
+            const QRegularExpressionMatch match = matches.next();
+            EXPECT_TRUE(settings.emplace(match.captured(1), match.captured(2)).second)
+                << match.captured(1).toStdString() << " stands there twice";
+        }
+        EXPECT_EQ(settings.size(), kColorOptions);
+        return settings;
+    }
+
+    // Prints as other programs do, with options as lp(1) takes them.
+    std::map<QString, QString> printed(const QStringList &options)
+    {
+        QStringList arguments = {"-d", "QL70"};
+        for (const QString &option : options)
+            arguments << "-o" << option;
+        EXPECT_TRUE(m_server.administer("lp", arguments << kDocument));
+        return settingsOf(++m_job);
+    }
+
+    PrivateCupsd m_server;
+    int m_job = 0;
+};
+
+TEST_F(PrintChain, AQuickColorOfAnotherProgramMeansItsPreset)
+{
+    auto photo = printed({"BVQuickColor=Photo", "BVImageRenderIntent=Saturation"});
+    EXPECT_EQ(photo["BVQuickColor"], "/Photo");
+    EXPECT_EQ(photo["BVImageRenderIntent"], "/Perceptual");
+    EXPECT_EQ(photo["BVTextGrayTreatment"], "/FourColor");
+    auto manual = printed({"BVQuickColor=Manual", "BVImageRenderIntent=Saturation", "print-color-mode=monochrome"});
+    EXPECT_EQ(manual["BVImageRenderIntent"], "/Saturation");
+    EXPECT_EQ(manual["BVColorAsGray"], "/True");
+    EXPECT_EQ(printed({})["BVColorAsGray"], "/False");
+}
+
+TEST_F(PrintChain, AProfileOfThePrinterReachesIt)
+{
+    const QString path = QString::fromStdString(bv::encodeDevicePath("/ata1a/data/USfiles/Profiles/A(1).icc"));
+    auto settings =
+        printed({"BVQuickColor=Manual", "BVTextRGBSourceCustom=True", "BVTextRGBSourceCustomFilename=" + path});
+    EXPECT_EQ(settings["BVTextRGBSource"], "(/ata1a/data/USfiles/Profiles/A\\(1\\).icc)");
+    EXPECT_EQ(settings["BVImageRGBSource"], "/sRGB");
+}
+
+TEST_F(PrintChain, OurDialogAndAnotherProgramPrintTheSame)
+{
+    BatchProcess batch;
+    batch.setVariable("CUPS_SERVER", m_server.address());
+    batch.start({"--queue", "QL70"});
+    for (const char *command :
+         {"panelView", "willShow", "restoreValues", "set menu_QuickColor 2", "set check_EconomyPrint 1"})
+        ASSERT_TRUE(batch.send(command).contains("result")) << command;
+    ASSERT_TRUE(batch.send(QStringLiteral("print \"%1\"").arg(kDocument)).contains("result"));
+    const auto ours = settingsOf(++m_job);
+    EXPECT_EQ(ours, printed({"BVQuickColor=Presentation", "BVEconoMode=True"}));
+}
+
+} // namespace
