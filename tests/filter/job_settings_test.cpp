@@ -84,8 +84,8 @@ TEST_F(JobSettings, WhatIsNoProfileOfThePrinterLeavesTheChoiceAndAWarning)
 {
     const std::string disk = "/ata1a/data/USfiles/Profiles/";
     for (const std::string &path :
-         {std::string(), disk, disk + "../x", disk + "sub/x.icc", std::string("/etc/passwd"), disk + "x.icc4", disk + "x\n.icc",
-          disk + ".icc", "x" + disk + "a.icc", disk + "a b.icc", std::string("x.icc")}) {
+         {std::string(), disk, disk + "../x", disk + "sub/x.icc", std::string("/etc/passwd"), disk + "x.icc4",
+          disk + "x\n.icc", disk + ".icc", "x" + disk + "a.icc", disk + "a b.icc", std::string("x.icc")}) {
         const bv::JobSettings job = of("BVQuickColor=Manual" + profile("BVTextRGBSource", path));
         EXPECT_THAT(job.settings, IsEmpty()) << path;
         EXPECT_THAT(job.warnings, ElementsAre(HasSubstr("BVTextRGBSource"))) << path;
