@@ -11,13 +11,15 @@ set(BV_SHARED "${BV_LIBRARY}/Printers/BREVANE/QL70")
 set(BV_PPD_FOLDER ${CMAKE_INSTALL_DATADIR}/ppd/brevane)
 set(BV_APPLICATIONS ${CMAKE_INSTALL_DATADIR}/applications)
 set(BV_ICONS ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
-set(BV_PLACES ${CMAKE_INSTALL_BINDIR} lib/bvco ${BV_PPD_FOLDER} ${BV_APPLICATIONS} ${BV_ICONS}
+# Where the print server looks for filters (cups-config --serverbin), seen from the prefix /usr.
+set(BV_FILTERS lib/cups/filter)
+set(BV_PLACES ${CMAKE_INSTALL_BINDIR} lib/bvco ${BV_FILTERS} ${BV_PPD_FOLDER} ${BV_APPLICATIONS} ${BV_ICONS}
   "${BV_HELPERS}" "${BV_SHARED}/Icons" "${BV_SHARED}/Profiles" "${BV_LIBRARY}/Printers/BREVANE/Preferences")
 
 # First of all, since half an installation is worse than none. It makes the folders, too.
 install(CODE "
   set(places [==[${BV_PLACES}]==])
-  set(programs [==[$<TARGET_FILE:bvprint>;$<TARGET_FILE:bvco>;$<TARGET_FILE:QL70Helper>;$<TARGET_FILE:QL70Walk>]==])
+  set(programs [==[$<TARGET_FILE:bvprint>;$<TARGET_FILE:bvco>;$<TARGET_FILE:QL70Helper>;$<TARGET_FILE:QL70Walk>;$<TARGET_FILE:bvql70>]==])
   include([==[${CMAKE_SOURCE_DIR}/cmake/InstallCheck.cmake]==])")
 
 install(TARGETS bvprint RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
@@ -25,8 +27,7 @@ install(TARGETS bvprint RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(TARGETS bvco LIBRARY DESTINATION lib/bvco)
 install(TARGETS QL70Helper QL70Walk RUNTIME DESTINATION "${BV_HELPERS}")
 
-# The print server looks for filters in its own folder, lib/cups/filter below /usr (cups-config --serverbin).
-install(TARGETS bvql70 RUNTIME DESTINATION lib/cups/filter)
+install(TARGETS bvql70 RUNTIME DESTINATION ${BV_FILTERS})
 
 install(FILES ${CMAKE_SOURCE_DIR}/resources/QL70.ppd DESTINATION ${BV_PPD_FOLDER})
 install(FILES ${CMAKE_SOURCE_DIR}/resources/bvprint.desktop DESTINATION ${BV_APPLICATIONS})
