@@ -7,6 +7,7 @@
 #include "queues/TicketJson.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QFileDialog>
 #include <QLayout>
 #include <QPixmap>
@@ -22,47 +23,56 @@ namespace {
 // What must be there before a command.
 enum class Needs { Nothing, Panel, View };
 
-constexpr int kRestOfLine = -1; // in place of a number of words: the rest of the line is one argument as it stands
+// In place of a number of words:
+constexpr int kRestOfLine = -1; // the rest of the line is one argument as it stands
+constexpr int kNoEnd = std::numeric_limits<int>::max();
 
 } // namespace
 
-// A command: its word, how many arguments it takes, what it needs, whether its result is always null, who does it.
+// A command: its word and arguments as people write them, how many arguments it takes, what it needs, whether its
+// result is always null, who does it.
 struct BatchCommands::Command
 {
     const char *word;
+    const char *arguments;
     int least;
     int most;
     Needs needs;
     bool answersNull;
     Outcome (BatchCommands::*run)(const QStringList &words);
+
+    QString usage() const
+    {
+        return QStringLiteral("%1 %2").arg(QLatin1String(word), QLatin1String(arguments)).trimmed();
+    }
 };
 
 // clang-format off
 const BatchCommands::Command BatchCommands::kCommands[] = {
-    {"panels",                 1,           1, Needs::Nothing, false, &BatchCommands::panels},
-    {"panelName",              0,           0, Needs::Panel,   false, &BatchCommands::panelName},
-    {"panelKind",              0,           0, Needs::Panel,   false, &BatchCommands::panelKind},
-    {"supportedPPDOptionKeys", 0,           0, Needs::Panel,   false, &BatchCommands::supportedPPDOptionKeys},
-    {"panelView",              0,           0, Needs::Panel,   false, &BatchCommands::panelView},
-    {"willShow",               0,           0, Needs::Panel,   true,  &BatchCommands::willShow},
-    {"constraints",            0,           0, Needs::Panel,   true,  &BatchCommands::constraints},
-    {"terminate",              0,           0, Needs::Panel,   true,  &BatchCommands::terminate},
-    {"shouldHide",             0,           0, Needs::Panel,   false, &BatchCommands::shouldHide},
-    {"restoreValues",          0,           0, Needs::Panel,   false, &BatchCommands::restoreValues},
-    {"saveValues",             0,           0, Needs::Panel,   false, &BatchCommands::saveValues},
-    {"shouldPrint",            0,           0, Needs::Panel,   false, &BatchCommands::shouldPrint},
-    {"summaryInfo",            0,           0, Needs::Panel,   false, &BatchCommands::summaryInfo},
-    {"controls",               0,           1, Needs::View,    false, &BatchCommands::controls},
-    {"control",                1,           1, Needs::View,    false, &BatchCommands::control},
-    {"set",                    2,           3, Needs::View,    true,  &BatchCommands::set},
-    {"type",                   2,           2, Needs::View,    true,  &BatchCommands::type},
-    {"select",                 2,           2, Needs::View,    true,  &BatchCommands::select},
-    {"press",                  1,           1, Needs::View,    true,  &BatchCommands::press},
-    {"choose",                 1,           1, Needs::View,    true,  &BatchCommands::choose},
-    {"ticket",                 0,           0, Needs::Nothing, false, &BatchCommands::ticket},
-    {"setTicket",    kRestOfLine, kRestOfLine, Needs::Nothing, true,  &BatchCommands::setTicket},
-    {"screenshot",             1,           1, Needs::View,    true,  &BatchCommands::screenshot},
-    {"print",                  1,           1, Needs::Panel,   false, &BatchCommands::print},
+    {"panels",                "TYPE",                        1,           1, Needs::Nothing, false, &BatchCommands::panels},
+    {"panelName",             "",                            0,           0, Needs::Panel,   false, &BatchCommands::panelName},
+    {"panelKind",             "",                            0,           0, Needs::Panel,   false, &BatchCommands::panelKind},
+    {"supportedPPDOptionKeys","",                            0,           0, Needs::Panel,   false, &BatchCommands::supportedPPDOptionKeys},
+    {"panelView",             "",                            0,           0, Needs::Panel,   false, &BatchCommands::panelView},
+    {"willShow",              "",                            0,           0, Needs::Panel,   true,  &BatchCommands::willShow},
+    {"constraints",           "",                            0,           0, Needs::Panel,   true,  &BatchCommands::constraints},
+    {"terminate",             "",                            0,           0, Needs::Panel,   true,  &BatchCommands::terminate},
+    {"shouldHide",            "",                            0,           0, Needs::Panel,   false, &BatchCommands::shouldHide},
+    {"restoreValues",         "",                            0,           0, Needs::Panel,   false, &BatchCommands::restoreValues},
+    {"saveValues",            "",                            0,           0, Needs::Panel,   false, &BatchCommands::saveValues},
+    {"shouldPrint",           "",                            0,           0, Needs::Panel,   false, &BatchCommands::shouldPrint},
+    {"summaryInfo",           "",                            0,           0, Needs::Panel,   false, &BatchCommands::summaryInfo},
+    {"controls",              "[modal]",                     0,           1, Needs::View,    false, &BatchCommands::controls},
+    {"control",               "NAME",                        1,           1, Needs::View,    false, &BatchCommands::control},
+    {"set",                   "NAME [ROW] VALUE",            2,           3, Needs::View,    true,  &BatchCommands::set},
+    {"type",                  "NAME TEXT",                   2,           2, Needs::View,    true,  &BatchCommands::type},
+    {"select",                "NAME ROW",                    2,           2, Needs::View,    true,  &BatchCommands::select},
+    {"press",                 "NAME",                        1,           1, Needs::View,    true,  &BatchCommands::press},
+    {"choose",                "PATH",                        1,           1, Needs::View,    true,  &BatchCommands::choose},
+    {"ticket",                "",                            0,           0, Needs::Nothing, false, &BatchCommands::ticket},
+    {"setTicket",             "JSON",              kRestOfLine, kRestOfLine, Needs::Nothing, true,  &BatchCommands::setTicket},
+    {"screenshot",            "FILE",                        1,           1, Needs::View,    true,  &BatchCommands::screenshot},
+    {"print",                 "FILE...",                     1,      kNoEnd, Needs::Panel,   false, &BatchCommands::print},
 };
 // clang-format on
 
@@ -122,6 +132,14 @@ bool BatchCommands::answersNull(const QString &command)
     return row && row->answersNull;
 }
 
+QStringList BatchCommands::usages()
+{
+    QStringList all;
+    for (const Command &row : kCommands)
+        all.append(row.usage());
+    return all;
+}
+
 BatchCommands::Outcome BatchCommands::run(const BatchLine &line)
 {
     const Command *command = find(line.command);
@@ -134,13 +152,7 @@ BatchCommands::Outcome BatchCommands::run(const BatchLine &line)
             return failure(split.error());
         words = split.value();
         if (words.size() < command->least || words.size() > command->most)
-            return failure(
-                command->least == command->most
-                    ? QStringLiteral("The command takes %1 arguments, not %2.").arg(command->least).arg(words.size())
-                    : QStringLiteral("The command takes %1 to %2 arguments, not %3.")
-                          .arg(command->least)
-                          .arg(command->most)
-                          .arg(words.size()));
+            return failure(QStringLiteral("The number of arguments is wrong: %1.").arg(command->usage()));
     }
     if (command->needs == Needs::View && !m_view)
         return failure(QStringLiteral("There is no view yet; panelView comes first."));
@@ -260,8 +272,11 @@ BatchCommands::Outcome BatchCommands::onControl(const QString &name,
                                                 const std::function<QString(QWidget *)> &action) const
 {
     const Found found = findEverywhere(name);
-    return found.control ? nothing(action(found.control))
-                         : failure(QStringLiteral("There is no control %1.").arg(name));
+    if (!found.control)
+        return failure(QStringLiteral("There is no control %1.").arg(name));
+    if (found.root.widget != roots().front().widget)
+        return failure(QStringLiteral("A modal window is open, and %1 does not stand in it.").arg(name));
+    return nothing(action(found.control));
 }
 
 BatchCommands::Outcome BatchCommands::controls(const QStringList &words)
@@ -306,13 +321,7 @@ BatchCommands::Outcome BatchCommands::select(const QStringList &words)
 
 BatchCommands::Outcome BatchCommands::press(const QStringList &words)
 {
-    const Found found = findEverywhere(words[0]);
-    if (!found.control)
-        return failure(QStringLiteral("There is no button %1.").arg(words[0]));
-    const QString complaint = checkPress(found.control);
-    if (complaint.isEmpty())
-        pressControl(found.control);
-    return nothing(complaint);
+    return onControl(words[0], pressControl);
 }
 
 BatchCommands::Outcome BatchCommands::choose(const QStringList &words)
@@ -331,7 +340,9 @@ BatchCommands::Outcome BatchCommands::screenshot(const QStringList &words)
         settleLayouts(root.widget);
         root.widget->adjustSize();
     }
-    return root.widget->grab().save(words[0], "PNG")
+    // Without a buffer, whose last write would fail unseen.
+    QFile file(words[0]);
+    return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && root.widget->grab().save(&file, "PNG")
                ? nothing()
                : failure(QStringLiteral("The picture %1 cannot be written.").arg(words[0]));
 }
@@ -354,7 +365,7 @@ BatchCommands::Outcome BatchCommands::setTicket(const QStringList &words)
 
 BatchCommands::Outcome BatchCommands::print(const QStringList &words)
 {
-    const Result<PrintedJob> printed = printDocuments(m_session, m_panel.get(), m_sink, {words[0]});
+    const Result<PrintedJob> printed = printDocuments(m_session, m_panel.get(), m_sink, words);
     if (!printed)
         return failure(printed.error());
     QJsonObject options;

@@ -36,6 +36,9 @@ public:
     // Whether the command's result is null whenever it does not fail.
     static bool answersNull(const QString &command);
 
+    // Every command as it is written, its arguments in capitals: "set NAME [ROW] VALUE".
+    static QStringList usages();
+
 private:
     struct Command;
     static const Command kCommands[];
@@ -74,7 +77,8 @@ private:
         QWidget *control = nullptr; // null: there is none of that name
     };
     Found findEverywhere(const QString &name) const;
-    // Finds a control and has something done with it.
+    // Finds a control that a user could reach now, in the open modal window or else in the view, and has something done
+    // with it.
     Outcome onControl(const QString &name, const std::function<QString(QWidget *)> &action) const;
 
     QueueSession &m_session;

@@ -5,13 +5,11 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
-#include <QApplication>
-#include <QClipboard>
+#include <QCoreApplication>
 #include <QComboBox>
 #include <QFileDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QPointer>
 #include <QSpinBox>
 #include <QTabWidget>
@@ -93,17 +91,9 @@ QString setField(QLineEdit *field, const QString &value)
     if (field->isReadOnly())
         return QStringLiteral("%1 cannot be changed.").arg(field->objectName());
     takeFocus(field);
-    // Through the clipboard, as a user would: a field's own checks of pasted text are to run.
-    QClipboard *clipboard = QApplication::clipboard();
-    const QString before = clipboard->text();
-    clipboard->setText(value);
-    const QPointer<QLineEdit> kept(field);
+    // What pasting comes to, without touching the clipboard, which may be somebody's who works on this display.
     field->selectAll();
-    field->paste();
-    // Pasting nothing leaves the selection where it is; a user who wants the field empty deletes it.
-    if (kept && value.isEmpty() && field->hasSelectedText())
-        field->del();
-    clipboard->setText(before);
+    field->insert(value);
     return {};
 }
 
@@ -225,17 +215,15 @@ QString selectTableRow(QWidget *table, const QString &row)
     return {};
 }
 
-QString checkPress(QWidget *control)
+QString pressControl(QWidget *control)
 {
-    if (!qobject_cast<QAbstractButton *>(control))
+    auto *button = qobject_cast<QAbstractButton *>(control);
+    if (!button)
         return notOfKind(control, QStringLiteral("button"));
-    return disabledSentence(control);
-}
-
-void pressControl(QWidget *control)
-{
-    if (auto *button = qobject_cast<QAbstractButton *>(control))
+    QString error = disabledSentence(control);
+    if (error.isEmpty())
         button->click();
+    return error;
 }
 
 QString chooseFile(QFileDialog *panel, const QString &path)

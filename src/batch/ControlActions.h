@@ -21,9 +21,8 @@ QString typeIntoControl(QWidget *control, const QString &text);
 // Selects a table row; -1 selects none. The table may decline, which is no failure.
 QString selectTableRow(QWidget *table, const QString &row);
 
-// Whether a press of the control would do anything; then pressControl does it.
-QString checkPress(QWidget *control);
-void pressControl(QWidget *control);
+// Clicks a button. Comes back when a modal window that the button opens is closed.
+QString pressControl(QWidget *control);
 
 // Picks a file in an open file panel and closes it; "-" cancels the panel.
 QString chooseFile(QFileDialog *panel, const QString &path);

@@ -154,6 +154,13 @@ void describeKind(QWidget *control, QJsonObject &description)
     }
 }
 
+// A window is a child of the one that it was opened from, and stays so after it was closed. What stands in it belongs
+// to it alone.
+bool standsIn(const ControlRoot &root, const QWidget *widget)
+{
+    return widget->window() == root.widget->window() && isNamedControl(widget, root.widget);
+}
+
 } // namespace
 
 QWidget *findControl(const ControlRoot &root, const QString &name)
@@ -161,7 +168,7 @@ QWidget *findControl(const ControlRoot &root, const QString &name)
     if (!root.widget || name.isEmpty())
         return nullptr;
     for (QWidget *widget : root.widget->findChildren<QWidget *>(name))
-        if (isNamedControl(widget, root.widget))
+        if (standsIn(root, widget))
             return widget;
     return nullptr;
 }
@@ -181,8 +188,7 @@ QJsonArray describeControls(const ControlRoot &root)
 {
     QJsonArray controls;
     for (QWidget *widget : root.widget->findChildren<QWidget *>())
-        // A modal window that the view's own window owns is not part of the view.
-        if (widget->window() == root.widget->window() && isNamedControl(widget, root.widget))
+        if (standsIn(root, widget))
             controls.append(describeControl(root, widget));
     return controls;
 }

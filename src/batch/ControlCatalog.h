@@ -18,7 +18,7 @@ struct ControlRoot
     bool isWindow = false;     // a modal window: seen is what is on the screen; a view need not be shown for that
 };
 
-// The control of that name; null when there is none.
+// The control of that name in the root's own window; null when there is none.
 QWidget *findControl(const ControlRoot &root, const QString &name);
 
 // A control with what fits its kind: name, class, enabled, visible, value, text, items, columns, rows, selected.

@@ -192,8 +192,11 @@ TEST_F(Batch, AModalWindowGoesFirstAndCommandsGoOnInWindowsWithinWindows)
     EXPECT_EQ(result("control stampCheck").toObject()["text"], "Stamp in the editor");
     EXPECT_EQ(result("control tonerMenu").toObject()["name"], "tonerMenu");
     EXPECT_FALSE(error("choose x").isEmpty());
+    for (const char *command : {"set tonerMenu 1", "type stampText x", "select paperTable 1", "press editButton"})
+        EXPECT_THAT(error(command).toStdString(), HasSubstr("modal window")) << command;
     const QString file = write("picked file.txt", "x");
     EXPECT_TRUE(does("press editBrowse"));
+    EXPECT_THAT(error("press editOK").toStdString(), HasSubstr("modal window"));
     EXPECT_FALSE(error("choose " + file + "-not").isEmpty());
     EXPECT_FALSE(error("choose \"" + m_batch.home() + "\"").isEmpty());
     EXPECT_TRUE(does("choose \"" + file + "\""));
@@ -205,7 +208,10 @@ TEST_F(Batch, AModalWindowGoesFirstAndCommandsGoOnInWindowsWithinWindows)
     EXPECT_TRUE(does("press editOK"));
     EXPECT_EQ(log().count("editor confirmed"), 1) << "answered before the click was carried out";
     EXPECT_EQ(value("stampText"), "Hi");
-    EXPECT_FALSE(error("control editName").isEmpty());
+    for (const char *command : {"control editName", "press editOK", "controls modal"})
+        EXPECT_FALSE(error(command).isEmpty()) << command;
+    EXPECT_TRUE(does("set tonerMenu 1"));
+    EXPECT_EQ(log().count("editor confirmed"), 1) << "a window that was closed";
     EXPECT_EQ(log().count("editor closes"), 1);
 }
 

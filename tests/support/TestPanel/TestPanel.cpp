@@ -138,7 +138,8 @@ void TestPanel::buildView()
 void TestPanel::openEditor()
 {
     log(QStringLiteral("editor opens"));
-    QDialog editor(m_view);
+    // Closed, the window stays a child of the view.
+    QDialog &editor = *new QDialog(m_view);
     editor.setObjectName(QStringLiteral("editorWindow"));
     auto *form = new QFormLayout(&editor);
     auto *name = new QLineEdit;
