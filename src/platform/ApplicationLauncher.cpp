@@ -1,10 +1,11 @@
 // Existence test and detached start of an application.
 #include "platform/ApplicationLauncher.h"
 
+#include "platform/ChildProcess.h"
 #include "platform/RootPath.h"
 
+#include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 
 namespace bv {
 
@@ -15,7 +16,7 @@ bool openApplication(std::string_view logicalPath)
         program.setFile(program.filePath() + QStringLiteral("/Contents/MacOS/") + program.completeBaseName());
     if (!program.isFile() || !program.isExecutable())
         return false;
-    return QProcess::startDetached(program.filePath(), {});
+    return startProgram(QFile::encodeName(program.filePath()).toStdString());
 }
 
 } // namespace bv

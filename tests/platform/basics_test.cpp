@@ -74,6 +74,18 @@ TEST(Child, LeavesNoDescriptorOpen)
     EXPECT_TRUE(listed && listed->output == "1\n") << (listed ? listed->output : "");
 }
 
+TEST(Child, GetsNothingOfOursButTheEnvironment)
+{
+    int forgotten[2];
+    ASSERT_EQ(pipe(forgotten), 0);
+    ASSERT_EQ(dup2(forgotten[0], STDIN_FILENO), STDIN_FILENO);
+    signal(SIGPIPE, SIG_IGN);
+    const auto result = shell("cat; ls /proc/$$/fd | grep -c .; kill -PIPE $$");
+    ASSERT_TRUE(result) << "it waits for our input";
+    EXPECT_EQ(result->output, "3\n");
+    EXPECT_EQ(result->exitCode, -1) << "the signal was ignored";
+}
+
 TEST(Child, AnswersInAHostWithoutStandardStreamsOrChildSignals)
 {
     // In a process of its own, whose standard streams can be closed. What the child says comes back as the exit status.
