@@ -6,9 +6,14 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QtEndian>
+#include <algorithm>
+#include <cerrno>
 #include <cups/cups.h>
+#include <cups/file.h>
 #include <cstdlib>
 #include <cstring>
+#include <optional>
 
 namespace bv {
 
@@ -19,17 +24,51 @@ QString tr(const char *text)
     return QCoreApplication::translate("PpdFile", text);
 }
 
-// What a file that ends too early leaves open. libcups takes such a file for a smaller printer; "" when all is closed.
-// Keywords begin their line, and a quoted value may go over several lines (PPD 4.3, sections 3.2 and 3.6).
-QString leftOpen(const QString &path)
+// Whether a compressed file ends before its text does, which libcups does not tell from the end of the text: such a
+// file closes with the length of the text (RFC 1952, 2.3.1), or of its last part where it was put together of several.
+bool endsEarly(const QString &path, qint64 length)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
+    QByteArray last;
+    if (file.open(QIODevice::ReadOnly) && file.seek(std::max<qint64>(file.size() - 4, 0)))
+        last = file.read(4);
+    return last.size() < 4 || qFromLittleEndian<quint32>(last.constData()) > length;
+}
+
+struct CloseCupsFile
+{
+    void operator()(cups_file_t *file) const { cupsFileClose(file); }
+};
+
+// The text as libcups reads it, that of a compressed file included; nothing when it is damaged.
+std::optional<QByteArray> readText(const QString &path)
+{
+    const std::unique_ptr<cups_file_t, CloseCupsFile> file(cupsFileOpen(QFile::encodeName(path).constData(), "r"));
+    if (!file)
+        return std::nullopt;
+    QByteArray text;
+    char bytes[16384];
+    for (;;) {
+        errno = 0;
+        const ssize_t count = cupsFileRead(file.get(), bytes, sizeof bytes);
+        if (count <= 0)
+            break;
+        text.append(bytes, count);
+    }
+    // The end and an error are one answer; only the error has a number.
+    if (errno != 0 || (cupsFileCompression(file.get()) && endsEarly(path, text.size())))
+        return std::nullopt;
+    return text;
+}
+
+// What a text that ends too early leaves open. libcups takes such a text for a smaller printer; "" when all is closed.
+// Keywords begin their line, and a quoted value may go over several lines (PPD 4.3, sections 3.2 and 3.6).
+QString leftOpen(QByteArray text)
+{
     QByteArray option;
     QByteArray group;
     bool quoted = false;
-    const QByteArray text = file.readAll().replace('\r', '\n');
+    text.replace('\r', '\n');
     for (const QByteArray &line : text.split('\n')) {
         if (!quoted && line.startsWith("*%"))
             continue;
@@ -70,7 +109,10 @@ Result<PpdFile> PpdFile::open(const QString &path, const QString &name)
                                 : tr("The PPD %1 cannot be read: %2.").arg(called, reason));
     }
     PpdFile ppd(file);
-    if (const QString open = leftOpen(path); !open.isEmpty())
+    const std::optional<QByteArray> text = readText(path);
+    if (!text)
+        return Ppd::failure(tr("The PPD %1 is damaged or cut off.").arg(called));
+    if (const QString open = leftOpen(*text); !open.isEmpty())
         return Ppd::failure(tr("The PPD %1 is cut off: %2 is not closed.").arg(called, open));
     // libcups has converted every text to UTF-8, whether the file says what it was in or not, but tells so only in the
     // first case. The PPD owns the string and frees it with free(3).

@@ -3,6 +3,7 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <cups/file.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -48,6 +49,34 @@ TEST_F(PpdFileTest, AFileThatEndsInsideAnOptionIsRefusedWhereverItIsCut)
     for (qsizetype length = from; length <= to; ++length)
         EXPECT_FALSE(open(whole.left(length))) << length;
     EXPECT_FALSE(open(kHead + "*JCLOpenUI *JCLEcono: Boolean\n*DefaultJCLEcono: True\n"));
+}
+
+TEST_F(PpdFileTest, ACompressedFileIsJudgedByItsTextAndRefusedWhereverItIsCut)
+{
+    const QString path = m_folder.filePath("test.ppd.gz");
+    QFile source(BV_SOURCE_DIR "/resources/QL70.ppd");
+    ASSERT_TRUE(source.open(QIODevice::ReadOnly));
+    const QByteArray text = source.readAll();
+    QByteArray whole;
+    // The bytes of a compressed file are different at each level; none of them may be taken for the text.
+    for (const char *mode : {"w1", "w6", "w9"}) {
+        cups_file_t *file = cupsFileOpen(path.toUtf8().constData(), mode);
+        cupsFileWrite(file, text.constData(), static_cast<size_t>(text.size()));
+        cupsFileClose(file);
+        const auto ppd = PpdFile::open(path);
+        ASSERT_TRUE(ppd) << mode << ": " << ppd.error().toStdString();
+        EXPECT_TRUE(ppdFindOption(ppd.value().handle(), "BVQuickColor"));
+        QFile compressed(path);
+        ASSERT_TRUE(compressed.open(QIODevice::ReadOnly));
+        whole = compressed.readAll();
+    }
+    // Up to the closing check sum and length, in front of which the text is whole.
+    for (qsizetype length = 1; length < whole.size() - 8; length += 37)
+        EXPECT_FALSE(open(whole.left(length))) << length;
+    QByteArray damaged = whole;
+    damaged[whole.size() - 6] = static_cast<char>(~damaged[whole.size() - 6]);
+    EXPECT_FALSE(open(damaged));
+    EXPECT_TRUE(open(whole)) << "the name says nothing";
 }
 
 TEST_F(PpdFileTest, WhatIsNoPpdIsNamedInASentence)
