@@ -133,7 +133,7 @@ int main(int argc, char **argv)
         const double times[] = {bvbench::openPanel(callback).whole, lpoptionsTime(options), qtDialogTime(dialogOnly)};
         // The dialog's plug-in stays loaded until the loader goes.
         bv::PanelLoader loader;
-        require(bool(loader.load(QStringLiteral(BV_PLUGIN))), "the plug-in cannot be loaded");
+        require(bool(loader.load(QStringLiteral(BV_PLUGIN), {})), "the plug-in cannot be loaded");
         const double own = ownDialogTime(*source, sink, loader, const_cast<bv::RememberedTickets &>(remembered));
         if (run == 0)
             continue;

@@ -85,6 +85,10 @@ QString commandLineHelp()
             QStringLiteral("--%1 %2").arg(QLatin1String(row.name), QLatin1String(row.value)).trimmed();
         text += QStringLiteral("  %1 %2\n").arg(usage, -18).arg(QLatin1String(row.help));
     }
+    text += QStringLiteral(
+        "\nA batch starts from an empty job. Its print command sends what the controls show: restoreValues before it\n"
+        "puts the printer's defaults and the ticket into them. Without it, print sends the first item of every\n"
+        "menu after panelView, and none of the pane's options before.\n");
     text += QStringLiteral("\nExit status: 0 printed or cancelled, 1 a command or job of the batch failed,\n"
                            "2 bad arguments, PPD, ticket or plug-in, or no print queue.\n");
     return text;

@@ -1,18 +1,21 @@
 // bvprint: the print dialog, as a window or driven by a batch of commands.
 #include "app/CommandLine.h"
 #include "app/MessageFilter.h"
+#include "app/WindowSystem.h"
 #include "batch/BatchRunner.h"
 #include "dialog/PrintDialogRunner.h"
 #include "jobs/FolderSink.h"
 #include "jobs/PrintServerSink.h"
 #include "platform/FileDescriptor.h"
+#include "queues/Locale.h"
 #include "queues/PanelLoader.h"
 #include "queues/SessionStart.h"
 
 #include <QApplication>
+#include <array>
+#include <csignal>
 #include <cstdio>
-#include <cstdlib>
-#include <unistd.h>
+#include <fcntl.h>
 
 namespace {
 
@@ -25,13 +28,12 @@ int refuse(const QString &sentence)
     return kBadStart;
 }
 
-// The window system is chosen before the application object: without a display Qt would end the program.
-void chooseWindowSystem(bool batch)
+int say(const QString &text)
 {
-    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        return;
-    if (batch || (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (std::fputs(text.toUtf8().constData(), stdout) >= 0 && std::fflush(stdout) == 0)
+        return 0;
+    std::perror("bvprint: standard output cannot be written");
+    return 1;
 }
 
 int runBatch(const bv::CommandLine &line, bv::PanelLoader &loader)
@@ -43,6 +45,9 @@ int runBatch(const bv::CommandLine &line, bv::PanelLoader &loader)
     bv::FolderSink nowhere;
     bv::JobSink &sink = line.session.usesServer() ? static_cast<bv::JobSink &>(printServer) : nowhere;
     bv::BatchCommands commands(*session.value(), loader, sink);
+    // A pipe that nobody reads, or a file that has reached its limit, is an error of the write and not the end.
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
     bv::BatchRunner runner(commands);
     if (const QString error = runner.open(line.script); !error.isEmpty())
         return refuse(error);
@@ -55,7 +60,7 @@ int main(int argc, char **argv)
 {
     // A stream that was closed before the start would lend its number to the next file that is opened, and a batch
     // would read that.
-    if (!bv::openStandardDescriptors())
+    if (!bv::openStandardDescriptors(O_RDONLY))
         return kBadStart;
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
@@ -65,21 +70,26 @@ int main(int argc, char **argv)
         return refuse(parsed.error());
     const bv::CommandLine &line = parsed.value();
     using Mode = bv::CommandLine::Mode;
-    if (line.mode == Mode::Help || line.mode == Mode::Version) {
-        const QString text = line.mode == Mode::Help ? bv::commandLineHelp() : bv::commandLineVersion();
-        std::fputs(text.toUtf8().constData(), stdout);
-        return 0;
-    }
+    if (line.mode == Mode::Help || line.mode == Mode::Version)
+        return say(line.mode == Mode::Help ? bv::commandLineHelp() : bv::commandLineVersion());
+    const bv::Result<QByteArray> platform = bv::windowSystem(line);
+    if (!platform)
+        return refuse(platform.error());
 
     bv::installMessageFilter();
-    chooseWindowSystem(line.mode == Mode::Batch);
-    // Our own options are read already; Qt gets none, so a document may have any name.
-    int applicationArgc = 1;
-    const QApplication application(applicationArgc, argv);
+    // Our own options are read already; Qt gets none of them, so a document may have any name. The window system is an
+    // option and no variable, which every program that the pane starts would inherit.
+    QByteArray option("-platform");
+    QByteArray value = platform.value();
+    std::array<char *, 4> words = {argv[0], option.data(), value.data(), nullptr};
+    int wordCount = value.isEmpty() ? 1 : 3;
+    const QApplication application(wordCount, words.data());
     QCoreApplication::setApplicationName(QStringLiteral("bvprint"));
 
+    // In the locale C a script reads the keys of texts. People in front of a window always read words.
+    const QString language = line.mode == Mode::Batch && bv::isLocaleC() ? QString() : bv::messageLocale();
     bv::PanelLoader loader;
-    if (const auto loaded = loader.load(line.plugin); !loaded)
+    if (const auto loaded = loader.load(line.plugin, language); !loaded)
         return refuse(loaded.error());
     if (line.mode == Mode::Batch) {
         // A file panel of the desktop could not be driven.

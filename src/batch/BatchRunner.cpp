@@ -131,6 +131,8 @@ void BatchRunner::answerOpenCommand()
 
 void BatchRunner::answer(const QString &command, const BatchCommands::Outcome &outcome)
 {
+    if (m_cannotAnswer)
+        return;
     QJsonObject object{{QStringLiteral("command"), command}};
     if (outcome.error.isEmpty()) {
         object[u"result"] = outcome.result;
@@ -139,8 +141,21 @@ void BatchRunner::answer(const QString &command, const BatchCommands::Outcome &o
         m_failed = true;
     }
     const QByteArray json = QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
-    std::fwrite(json.constData(), 1, static_cast<size_t>(json.size()), stdout);
-    std::fflush(stdout);
+    const auto size = static_cast<size_t>(json.size());
+    if (std::fwrite(json.constData(), 1, size, stdout) != size || std::fflush(stdout) != 0)
+        endUnanswered();
+}
+
+void BatchRunner::endUnanswered()
+{
+    std::fprintf(stderr, "bvprint: The answers cannot be written: %s.\n", strerror(errno));
+    m_cannotAnswer = true;
+    m_failed = true;
+    // What is left is not carried out: nobody would learn what came of it.
+    m_notifier->setEnabled(false);
+    m_lines.clear();
+    m_atEnd = true;
+    scheduleTurn();
 }
 
 } // namespace bv

@@ -25,7 +25,8 @@ public:
     QString open(const QString &script);
 
     // Carries out the whole script in the application's event loop, ending modal windows that are still open after its
-    // last command. 0 when no command failed, else 1.
+    // last command. 0 when no command failed, else 1. An answer that cannot be written is said on standard error and
+    // ends the batch at once, with 1.
     int run();
 
 private:
@@ -35,6 +36,7 @@ private:
     void carryOut(const QByteArray &line);
     void answer(const QString &command, const BatchCommands::Outcome &outcome);
     void answerOpenCommand();
+    void endUnanswered();
 
     BatchCommands &m_commands;
     FileDescriptor m_script; // none when it is standard input
@@ -46,6 +48,7 @@ private:
     std::deque<QByteArray> m_lines; // read and not carried out
     bool m_atEnd = false;
     bool m_failed = false;
+    bool m_cannotAnswer = false;
     QString m_openCommand; // being carried out and not answered, with nothing but null to come; else empty
 };
 

@@ -9,6 +9,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QTimer>
 #include <cstdio>
 
@@ -34,7 +35,9 @@ void takePicture(PrintDialog &dialog, const QString &path, int &status)
         [&dialog, path, &status] {
             // One more turn, so that the layout has settled.
             QTimer::singleShot(0, &dialog, [&dialog, path, &status] {
-                if (!dialog.grab().save(path, "PNG"))
+                // Without a buffer, whose last write would fail unseen.
+                QFile file(path);
+                if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !dialog.grab().save(&file, "PNG"))
                     status = badStart(QStringLiteral("The picture %1 cannot be written.").arg(path));
                 dialog.reject();
             });

@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
+#include <fcntl.h>
 #include <sys/auxv.h>
 #include <unistd.h>
 
@@ -25,7 +26,7 @@ bool giveUpEffectiveIds()
 
 bool prepareProcess()
 {
-    if (!openStandardDescriptors())
+    if (!openStandardDescriptors(O_RDWR))
         return false;
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);

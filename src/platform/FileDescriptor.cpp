@@ -91,10 +91,10 @@ bool writeAllAt(int descriptor, size_t offset, std::string_view bytes)
     });
 }
 
-bool openStandardDescriptors()
+bool openStandardDescriptors(int mode)
 {
     for (int descriptor = STDIN_FILENO; descriptor <= STDERR_FILENO; ++descriptor) {
-        if (fcntl(descriptor, F_GETFD) < 0 && open("/dev/null", O_RDWR) != descriptor)
+        if (fcntl(descriptor, F_GETFD) < 0 && open("/dev/null", mode) != descriptor)
             return false;
     }
     return true;

@@ -49,6 +49,7 @@ bool writeAll(int descriptor, std::string_view bytes);
 bool writeAllAt(int descriptor, size_t offset, std::string_view bytes);
 
 // Opens /dev/null in the place of each missing standard descriptor, so that no file that is opened later becomes one.
-bool openStandardDescriptors();
+// With the mode O_RDWR it takes what is written; with O_RDONLY writing fails, as it does without the descriptor.
+bool openStandardDescriptors(int mode);
 
 } // namespace bv

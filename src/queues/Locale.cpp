@@ -5,16 +5,29 @@
 
 namespace bv {
 
+namespace {
+
+// Without codeset and modifier; empty where none is set.
+QString localeName()
+{
+    for (const char *variable : {"LC_ALL", "LC_MESSAGES", "LANG"})
+        if (const QString value = qEnvironmentVariable(variable); !value.isEmpty())
+            return value.section(u'@', 0, 0).section(u'.', 0, 0);
+    return {};
+}
+
+} // namespace
+
+bool isLocaleC()
+{
+    const QString name = localeName();
+    return name == u"C" || name == u"POSIX";
+}
+
 QString messageLocale()
 {
-    for (const char *variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-        const QString value = qEnvironmentVariable(variable);
-        if (value.isEmpty())
-            continue;
-        const QString name = value.section(u'@', 0, 0).section(u'.', 0, 0);
-        return name == u"C" || name == u"POSIX" ? QString() : name;
-    }
-    return {};
+    const QString name = localeName();
+    return name.isEmpty() || isLocaleC() ? QStringLiteral("en") : name;
 }
 
 } // namespace bv

@@ -1,8 +1,6 @@
 // Loading a plug-in through Qt and talking to its factory.
 #include "queues/PanelLoader.h"
 
-#include "queues/Locale.h"
-
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -14,12 +12,7 @@ QString PanelLoader::defaultPath()
     return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/bvco/bvco.so"));
 }
 
-QString PanelLoader::language()
-{
-    return messageLocale();
-}
-
-Result<std::monostate> PanelLoader::load(const QString &path)
+Result<std::monostate> PanelLoader::load(const QString &path, const QString &language)
 {
     using Loaded = Result<std::monostate>;
     const QString absolute = QFileInfo(path.isEmpty() ? defaultPath() : path).absoluteFilePath();
@@ -33,7 +26,7 @@ Result<std::monostate> PanelLoader::load(const QString &path)
     m_factory = qobject_cast<PrintPanelFactory *>(root);
     if (!m_factory)
         return Loaded::failure(QStringLiteral("The plug-in %1 has no print panels.").arg(absolute));
-    if (!m_factory->initWithBundle({absolute, language()})) {
+    if (!m_factory->initWithBundle({absolute, language})) {
         m_factory = nullptr;
         return Loaded::failure(QStringLiteral("The plug-in %1 does not start.").arg(absolute));
     }

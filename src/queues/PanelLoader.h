@@ -17,13 +17,10 @@ class PanelLoader
 public:
     // Where the plug-in lies beside this program, built or installed: <folder of bvprint>/../lib/bvco/bvco.so.
     static QString defaultPath();
-    // The language for the plug-in's texts from LC_ALL, LC_MESSAGES and LANG, as a locale name such as "de_DE"; empty
-    // for "C", "POSIX", "C.UTF-8" and where none is set.
-    static QString language();
-
-    // Loads the plug-in and tells it where it lies; an empty path stands for the default one. The path of a failure is
+    // Loads the plug-in and tells it where it lies and which language its texts are wanted in: a locale name such as
+    // "de_DE", or empty for the keys of the texts. An empty path stands for the default one. The path of a failure is
     // named in its sentence. To be called once, and before all else.
-    Result<std::monostate> load(const QString &path);
+    Result<std::monostate> load(const QString &path, const QString &language);
 
     // What the factory answers; nothing when it has no panel of that type.
     std::optional<Panels> panels(const QString &type, PrintPanelCallback *callback);

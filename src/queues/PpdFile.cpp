@@ -118,7 +118,7 @@ Result<PpdFile> PpdFile::open(const QString &path, const QString &name)
     // first case. The PPD owns the string and frees it with free(3).
     if (!file->lang_encoding)
         file->lang_encoding = strdup("UTF-8");
-    if (!messageLocale().isEmpty())
+    if (!isLocaleC())
         ppdLocalize(file);
     ppdMarkDefaults(file);
     return ppd;

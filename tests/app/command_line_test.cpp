@@ -1,5 +1,6 @@
-// The command line, the words of a batch line and the locale: what is read from outside before anything runs.
+// What is read from outside before anything runs: the command line, the words of a batch line, display and locale.
 #include "app/CommandLine.h"
+#include "app/WindowSystem.h"
 #include "batch/BatchLine.h"
 #include "queues/Locale.h"
 
@@ -45,6 +46,33 @@ TEST(CommandLine, IsRefusedInASentenceThatNamesTheArgument)
     }
 }
 
+TEST(WindowSystem, IsOffscreenOnlyWhereNoDisplayIsAndNoWindowIsWaitedFor)
+{
+    struct Row
+    {
+        std::array<const char *, 3> variables; // QT_QPA_PLATFORM, WAYLAND_DISPLAY, DISPLAY
+        QStringList arguments;
+        std::optional<QByteArray> platform; // none: refused
+    };
+    const QStringList window = {"a.pdf"};
+    const QStringList picture = {"--screenshot", "x.png"};
+    const QStringList batch = {"--batch", "-"};
+    const Row rows[] = {
+        {{"", "", ""}, window, std::nullopt}, {{"", "", ""}, picture, "offscreen"},
+        {{"", "", ""}, batch, "offscreen"},   {{"", "", ":0"}, window, ""},
+        {{"", "", ":0"}, picture, ""},        {{"", "wayland-0", ":0"}, batch, "wayland;xcb;offscreen"},
+        {{"offscreen", "", ""}, window, ""},  {{"vnc", "", ":0"}, batch, ""},
+    };
+    for (const Row &row : rows) {
+        qputenv("QT_QPA_PLATFORM", row.variables[0]);
+        qputenv("WAYLAND_DISPLAY", row.variables[1]);
+        qputenv("DISPLAY", row.variables[2]);
+        const auto chosen = bv::windowSystem(parseCommandLine(row.arguments).value());
+        const std::optional<QByteArray> platform = chosen ? std::optional(chosen.value()) : std::nullopt;
+        EXPECT_EQ(platform, row.platform) << row.arguments[0].toStdString() << ' ' << row.variables[2];
+    }
+}
+
 TEST(BatchWords, AreCutAtBlanksOutsideQuotes)
 {
     // clang-format off
@@ -72,16 +100,27 @@ TEST(BatchWords, AnOpenQuoteIsAnErrorAndTheRestOfALineStaysAsItStands)
 }
 
 // Each test is a process of its own, so the variables need no putting back.
-TEST(MessageLocale, IsTheFirstOfTheThreeThatIsSet)
+TEST(MessageLocale, IsTheFirstOfTheThreeThatIsSetAndWordsAreEnglishWithoutOne)
 {
-    const std::array<const char *, 4> rows[] = {
-        {"", "", "", ""},        {"C", "de_DE", "de_DE", ""},       {"", "POSIX", "fr_FR", ""},
-        {"", "", "C.UTF-8", ""}, {"", "de_AT.UTF-8", "C", "de_AT"}, {"ca_ES.UTF-8@valencia", "C", "C", "ca_ES"}};
-    for (const auto &[all, messages, lang, locale] : rows) {
-        qputenv("LC_ALL", all);
-        qputenv("LC_MESSAGES", messages);
-        qputenv("LANG", lang);
-        EXPECT_EQ(bv::messageLocale(), locale) << all << ' ' << messages << ' ' << lang;
+    struct Row
+    {
+        std::array<const char *, 3> variables;
+        bool isC;
+        const char *locale;
+    };
+    const Row rows[] = {{{"", "", ""}, false, "en"},
+                        {{"C", "de_DE", "de_DE"}, true, "en"},
+                        {{"", "POSIX", "fr_FR"}, true, "en"},
+                        {{"", "", "C.UTF-8"}, true, "en"},
+                        {{"", "de_AT.UTF-8", "C"}, false, "de_AT"},
+                        {{"ca_ES.UTF-8@valencia", "C", "C"}, false, "ca_ES"}};
+    for (const auto &[variables, isC, locale] : rows) {
+        qputenv("LC_ALL", variables[0]);
+        qputenv("LC_MESSAGES", variables[1]);
+        qputenv("LANG", variables[2]);
+        const std::string row = std::string(variables[0]) + ' ' + variables[1] + ' ' + variables[2];
+        EXPECT_EQ(bv::isLocaleC(), isC) << row;
+        EXPECT_EQ(bv::messageLocale(), locale) << row;
     }
 }
 

@@ -119,7 +119,7 @@ protected:
     void loadPlugin(const QString &path)
     {
         loader = std::make_unique<bv::PanelLoader>();
-        const auto loaded = loader->load(path);
+        const auto loaded = loader->load(path, {});
         ASSERT_TRUE(loaded) << qPrintable(loaded.error());
     }
 

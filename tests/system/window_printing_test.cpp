@@ -34,7 +34,7 @@ protected:
         ASSERT_TRUE(m_server.addQueue("QL70", m_server.copyingPpd(BV_SOURCE_DIR "/resources/QL70.ppd")));
         m_server.useHere(m_folder.path());
         qputenv("BVCO_ROOT", m_folder.filePath("root").toUtf8());
-        const auto loaded = m_loader.load(QStringLiteral(BV_BUILD_DIR "/lib/bvco/bvco.so"));
+        const auto loaded = m_loader.load(QStringLiteral(BV_BUILD_DIR "/lib/bvco/bvco.so"), {});
         ASSERT_TRUE(loaded) << loaded.error().toStdString();
     }
 

@@ -1,0 +1,25 @@
+// The choice between a display and none.
+#include "app/WindowSystem.h"
+
+#include <QtGlobal>
+
+namespace bv {
+
+Result<QByteArray> windowSystem(const CommandLine &line)
+{
+    const bool isWayland = !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    const bool isX11 = !qEnvironmentVariableIsEmpty("DISPLAY");
+    const bool isBatch = line.mode == CommandLine::Mode::Batch;
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || (!isBatch && (isWayland || isX11)))
+        return QByteArray();
+    // A batch needs no window: it shows some where it can, and a display that does not answer is like none.
+    if (isBatch)
+        return QByteArray(isWayland ? "wayland;" : "") + (isX11 ? "xcb;" : "") + "offscreen";
+    if (!line.screenshot.isEmpty())
+        return QByteArray("offscreen");
+    return Result<QByteArray>::failure(
+        QStringLiteral("There is no display for the window (neither DISPLAY nor WAYLAND_DISPLAY is set). "
+                       "Without one, use bvprint --batch; see bvprint --help."));
+}
+
+} // namespace bv
