@@ -1,9 +1,13 @@
-// What is read from outside before anything runs: the command line, the words of a batch line, display and locale.
+// What is read from outside before anything runs: the command line, the words of a batch line, display and locale; and
+// the page that says how commands are written.
 #include "app/CommandLine.h"
 #include "app/WindowSystem.h"
+#include "batch/BatchCommands.h"
 #include "batch/BatchLine.h"
 #include "queues/Locale.h"
 
+#include <QFile>
+#include <QRegularExpression>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -71,6 +75,20 @@ TEST(WindowSystem, IsOffscreenOnlyWhereNoDisplayIsAndNoWindowIsWaitedFor)
         const std::optional<QByteArray> platform = chosen ? std::optional(chosen.value()) : std::nullopt;
         EXPECT_EQ(platform, row.platform) << row.arguments[0].toStdString() << ' ' << row.variables[2];
     }
+}
+
+// The first cell of each row in the page's tables of commands.
+TEST(BatchPage, ShowsEveryCommandAsTheProgramTakesIt)
+{
+    QFile page(BV_SOURCE_DIR "/docs/batch.md");
+    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(page.readAll());
+    const QString commands = text.section("## Commands", 1).section("\n## ", 0, 0);
+    QStringList shown;
+    static const QRegularExpression firstCell("^\\| `([^`]+)` \\|", QRegularExpression::MultilineOption);
+    for (auto cells = firstCell.globalMatch(commands); cells.hasNext();)
+        shown.append(cells.next().captured(1));
+    EXPECT_EQ(shown, bv::BatchCommands::usages());
 }
 
 TEST(BatchWords, AreCutAtBlanksOutsideQuotes)
