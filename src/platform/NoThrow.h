@@ -4,21 +4,21 @@
 #include "platform/Log.h"
 
 #include <new>
-#include <source_location>
 #include <type_traits>
 
 namespace bv {
 
+// GCC and clang both know the name of the calling function; std::source_location is missing in clang 14.
+//
 // The operation's result, or `failure`, with a line in the diagnostic log, when it runs out of memory.
 template <typename Operation>
 std::invoke_result_t<Operation> withoutThrowing(std::type_identity_t<std::invoke_result_t<Operation>> failure,
-                                                Operation operation,
-                                                std::source_location where = std::source_location::current())
+                                                Operation operation, const char *caller = __builtin_FUNCTION())
 {
     try {
         return operation();
     } catch (const std::bad_alloc &) {
-        diagnosticLine(std::string("no memory: ") + where.function_name());
+        diagnosticLine(std::string("no memory: ") + caller);
         return failure;
     }
 }
