@@ -8,9 +8,8 @@
 
 namespace bv {
 
-// GCC and clang both know the name of the calling function; std::source_location is missing in clang 14.
-//
 // The operation's result, or `failure`, with a line in the diagnostic log, when it runs out of memory.
+// The caller names itself by a built-in of GCC and clang; clang 14 has no std::source_location.
 template <typename Operation>
 std::invoke_result_t<Operation> withoutThrowing(std::type_identity_t<std::invoke_result_t<Operation>> failure,
                                                 Operation operation, const char *caller = __builtin_FUNCTION())
