@@ -10,9 +10,8 @@
 
 BVTextField::BVTextField(QWidget *parent) : QLineEdit(parent)
 {
-    // textEdited tells of every change by the user, whatever its way; textChanged of those by code as well.
+    // Tells of every change by the user, whatever its way.
     connect(this, &QLineEdit::textEdited, this, &BVTextField::textDidChange);
-    connect(this, &QLineEdit::textChanged, this, [this] { m_settledText = text(); });
 }
 
 void BVTextField::setMaxLength(uint32_t total, uint32_t extension)
@@ -46,7 +45,7 @@ void BVTextField::putText(const QString &text)
 
 bool BVTextField::textShouldBeginEditing(QLineEdit *editor)
 {
-    oldValue = m_settledText;
+    oldValue = text();
     textObj = editor;
     return true;
 }
@@ -78,11 +77,6 @@ void BVTextField::textDidChange()
 {
     if (m_replacing)
         return;
-    // A change without the focus (a drop, say) is an editing session of its own.
-    const bool ownSession = !textObj;
-    if (ownSession)
-        textShouldBeginEditing(this);
-
     const QString changed = text();
     if (breaksALimit(changed)) {
         const qsizetype caret = cursorPosition() - changed.size() + oldValue.size();
@@ -102,8 +96,6 @@ void BVTextField::textDidChange()
         updateOperateControl();
         oldValue = checked;
     }
-    if (ownSession)
-        textShouldEndEditing(this);
 }
 
 void BVTextField::updateOperateControl()
@@ -149,7 +141,13 @@ void BVTextField::focusOutEvent(QFocusEvent *event)
 void BVTextField::dropEvent(QDropEvent *event)
 {
     m_refusedCaret = -1;
+    // A drop on a field without the focus is an editing session of its own.
+    const bool ownSession = !textObj;
+    if (ownSession)
+        textShouldBeginEditing(this);
     QLineEdit::dropEvent(event);
+    if (ownSession && !hasFocus())
+        textShouldEndEditing(this);
     // The toolkit selects the dropped text afterwards, which is not there after a refusal.
     if (m_refusedCaret >= 0)
         setCursorPosition(m_refusedCaret);

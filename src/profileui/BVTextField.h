@@ -30,12 +30,13 @@ public:
     // was still composing is dropped.
     void putText(const QString &text);
 
-    // The start and end of an editing session, which is as long as the field has the focus. Both answer true.
+    // The start and end of an editing session, which is as long as the field has the focus; a refusal goes back to the
+    // text that stands there at its start. Both answer true.
     bool textShouldBeginEditing(QLineEdit *editor);
     bool textShouldEndEditing(QLineEdit *editor);
 
 public slots:
-    // The check after a change by the user.
+    // The check after a change by the user. A refusal goes back to the last text that was accepted or named.
     void textDidChange();
 
 protected:
@@ -56,7 +57,6 @@ private:
     uint32_t inputkey = 0;           // which filter
     QPointer<QWidget> operateOutlet; // enabled by the text
 
-    QString m_settledText;    // the text before the change that is being checked
     bool m_replacing = false; // the check itself is changing the text
     int m_refusedCaret = -1;  // where the last refusal of an event left the caret
 };

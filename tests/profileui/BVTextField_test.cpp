@@ -218,6 +218,24 @@ TEST_F(TextField, ATextPutByCodeIsNotCheckedAndIsWhatARefusalGoesBackTo)
     EXPECT_EQ(field.text(), QStringLiteral("new"));
 }
 
+TEST_F(TextField, ACheckWithoutAnEditingSessionGoesBackToTheTextThatWasNamed)
+{
+    elsewhere.setFocus();
+    for (const QString &forbidden : {kStem27 + u'2', QStringLiteral("a.icc4"), QStringLiteral("a.b.c")}) {
+        field.setOldString(QStringLiteral("ok.icc"));
+        field.setText(forbidden);
+        field.textDidChange();
+        EXPECT_EQ(field.text(), QStringLiteral("ok.icc")) << forbidden.toStdString();
+        EXPECT_TRUE(button.isEnabled());
+    }
+    field.setText(QStringLiteral("a:b"));
+    field.textDidChange();
+    EXPECT_EQ(field.text(), QStringLiteral("ab"));
+    field.setText(kStem27 + u'2');
+    field.textDidChange();
+    EXPECT_EQ(field.text(), QStringLiteral("ab")) << "the checked text is what is remembered";
+}
+
 TEST_F(TextField, UndoAfterARefusalGoesBackBehindItAndNeverLoops)
 {
     put({}, 0);
