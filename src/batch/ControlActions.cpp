@@ -164,8 +164,9 @@ QString setTableMark(QWidget *table, const QString &column, const QString &row, 
         return QStringLiteral("The cell %1 of row %2 has no check mark to set.").arg(column).arg(*at);
     // A mark that stands as wanted is left alone: what flips a mark may do so whatever it is told.
     const bool isSet = view->model()->data(index, Qt::CheckStateRole).toInt() == Qt::Checked;
-    if (isSet != (*mark == 1))
-        view->model()->setData(index, *mark == 1 ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole);
+    if (isSet != (*mark == 1) &&
+        !view->model()->setData(index, *mark == 1 ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole))
+        return QStringLiteral("The check mark %1 of row %2 cannot be changed.").arg(column).arg(*at);
     return {};
 }
 

@@ -1,6 +1,8 @@
 // The profile management window as a form: its controls, their texts and names, and what Return and Escape press.
 #pragma once
 
+#include "platform/ClassNames.h"
+
 #include "ui_ProfileManagement.h"
 
 #include <QDialog>

@@ -226,15 +226,21 @@ ProfileList *ProfileControl::currentDeleteDict()
     return current == &plistSIMDict ? &plistSIMDDelete : current == &plistDSTDict ? &plistDSTDelete : &plistRGBDelete;
 }
 
-bool ProfileControl::isCustomProfile()
+int ProfileControl::selectedRow()
 {
     const int row = m_window ? m_window->controls._profileTableView->selectedRow() : -1;
+    return row < std::min(currentProfileDict()->count, kProfileSlots) ? row : -1;
+}
+
+bool ProfileControl::isCustomProfile()
+{
+    const int row = selectedRow();
     return row >= 0 && bv::isFromPrinter(currentProfileDict()->records[row].InMenu);
 }
 
 void ProfileControl::reloadTable()
 {
-    m_window->model->setList(currentProfileDict(), !isLocalQueue());
+    m_window->model->setList([this] { return currentProfileDict(); }, !isLocalQueue());
     m_window->controls._profileTableView->deselectRow();
     m_window->controls._profileTableView->fitColumns();
 }
@@ -250,7 +256,7 @@ void ProfileControl::selectionChanged()
 {
     if (buttonIdentify != kIdle)
         return;
-    const int row = m_window->controls._profileTableView->selectedRow();
+    const int row = selectedRow();
     if (row < 0) {
         showFields({}, {});
         enableListButtons(true, false, false);
@@ -318,7 +324,7 @@ void ProfileControl::addButton()
 void ProfileControl::editButton()
 {
     const Ui::ProfileManagement &c = m_window->controls;
-    if (c._profileTableView->selectedRow() < 0)
+    if (selectedRow() < 0)
         return;
     const bool onlyName = isCustomProfile();
     setMode(kEditing);
@@ -361,7 +367,7 @@ ProfileRecord *ProfileControl::targetOfProfileOK()
 {
     ProfileList *list = currentProfileDict();
     if (buttonIdentify == kEditing) {
-        ProfileRecord *edited = &list->records[m_window->controls._profileTableView->selectedRow()];
+        ProfileRecord *edited = &list->records[selectedRow()];
         rememberDeleted(*edited);
         return edited;
     }
@@ -374,7 +380,7 @@ ProfileRecord *ProfileControl::targetOfProfileOK()
 void ProfileControl::profileOK()
 {
     const Ui::ProfileManagement &c = m_window->controls;
-    const int row = c._profileTableView->selectedRow();
+    const int row = selectedRow();
     if (buttonIdentify == kIdle || (buttonIdentify == kEditing && row < 0))
         return;
     const QString fileName = c._fileNameEdit->text();
@@ -414,7 +420,7 @@ void ProfileControl::rememberDeleted(const ProfileRecord &record)
 void ProfileControl::deleteButton()
 {
     const Ui::ProfileManagement &c = m_window->controls;
-    const int row = c._profileTableView->selectedRow();
+    const int row = selectedRow();
     c._profileTableView->setFocus();
     enableListButtons(true, false, false);
     enableEditArea(false, false);

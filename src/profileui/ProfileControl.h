@@ -65,6 +65,8 @@ private:
     void escape();
     bool isLocalQueue() const;
     ProfileList *currentDeleteDict();
+    // The selected row where the current list has one there; else -1.
+    int selectedRow();
     void readLists();
     void reloadTable();
     void showFields(const QString &fileName, const QString &profileName);

@@ -39,6 +39,12 @@ QString textOf(std::string_view utf8)
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
+// Any value that means true: a boolean, a number other than 0, Qt::Checked.
+bool meansTrue(const QVariant &value)
+{
+    return value.toBool() || value.toInt() != 0;
+}
+
 // Empty for unknown storage.
 QString storageName(int32_t location)
 {
@@ -55,17 +61,18 @@ ProfileTableModel::ProfileTableModel(QObject *parent)
     m_font.setPointSize(kTextPoints);
 }
 
-void ProfileTableModel::setList(ProfileList *list, bool showIcons)
+void ProfileTableModel::setList(ListSource list, bool showIcons)
 {
     beginResetModel();
-    m_list = list;
+    m_list = std::move(list);
     m_showIcons = showIcons;
     endResetModel();
 }
 
 int ProfileTableModel::rowCount(const QModelIndex &parent) const
 {
-    return m_list && !parent.isValid() ? std::clamp(m_list->count, 0, kProfileSlots) : 0;
+    const ProfileList *list = m_list ? m_list() : nullptr;
+    return list && !parent.isValid() ? std::clamp(list->count, 0, kProfileSlots) : 0;
 }
 
 int ProfileTableModel::columnCount(const QModelIndex &parent) const
@@ -121,7 +128,7 @@ QVariant ProfileTableModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid() || index.row() >= rowCount())
         return {};
-    const ProfileRecord &record = m_list->records[index.row()];
+    const ProfileRecord &record = m_list()->records[index.row()];
     if (index.column() == kIcon)
         return iconCell(record, role);
     if (index.column() == kInMenu)
@@ -141,10 +148,13 @@ bool ProfileTableModel::setData(const QModelIndex &index, const QVariant &value,
 {
     if (!index.isValid() || index.column() != kInMenu || role != Qt::CheckStateRole || index.row() >= rowCount())
         return false;
-    ProfileRecord &record = m_list->records[index.row()];
-    if (isInMenu(record.InMenu) == (value.toInt() == Qt::Checked))
+    ProfileRecord &record = m_list()->records[index.row()];
+    if (isInMenu(record.InMenu) == meansTrue(value))
         return true;
-    record.InMenu = flippedInMenu(record.InMenu);
+    const int32_t other = flippedInMenu(record.InMenu);
+    if (other == record.InMenu)
+        return false;
+    record.InMenu = other;
     emit dataChanged(index, index, {role, Qt::AccessibleTextRole});
     return true;
 }

@@ -1,6 +1,8 @@
 // The management window's table as the user handles it: one row at a time, type-ahead, check marks by mouse and space.
 #pragma once
 
+#include "platform/ClassNames.h"
+
 #include <QElapsedTimer>
 #include <QItemSelectionModel>
 #include <QTableView>

@@ -41,6 +41,25 @@ TEST(PluginLoad, HandsOutOnePanelOfThePrinterModuleTypeOnly)
     EXPECT_TRUE(loader.unload());
 }
 
+TEST(PluginLoad, EveryQtClassOfItsOwnBearsTheSuffix)
+{
+    // The meta objects' names in the file itself: whatever class is added is found.
+    QProcess nm;
+    nm.start(QStringLiteral("sh"),
+             {QStringLiteral("-c"),
+              QStringLiteral("nm -C '%1' | grep '::staticMetaObject$'").arg(QStringLiteral(BV_PLUGIN))});
+    ASSERT_TRUE(nm.waitForFinished());
+    QStringList classes;
+    for (const QByteArray &line : nm.readAllStandardOutput().split('\n')) {
+        if (line.isEmpty() || line.contains(" U "))
+            continue;
+        const QString name = QString::fromLatin1(line.mid(line.lastIndexOf(' ') + 1)).section("::", -2, -2);
+        EXPECT_TRUE(name.endsWith(kSuffix)) << name.toStdString();
+        classes.append(name);
+    }
+    EXPECT_TRUE(classes.contains("ManagementWindow" + kSuffix)) << "the names are there to be read";
+}
+
 TEST(PluginLoad, ExportsNothingButTheEntry)
 {
     QProcess nm;

@@ -85,6 +85,48 @@ QString spokenName(QWidget *control)
     return labels.isEmpty() ? QString() : labels.first().first->text(QAccessible::Name);
 }
 
+TEST_F(ProfileWindow, ACheckMarkTakesAnyValueThatMeansTrueOrFalse)
+{
+    append(lists->rgb, 7, "odd.icc", "Odd");
+    bv::ProfileTableModel model;
+    model.setList([this] { return &lists->rgb; }, true);
+    const auto set = [&](int row, const QVariant &value) {
+        return model.setData(model.index(row, bv::ProfileTableModel::kInMenu), value, Qt::CheckStateRole);
+    };
+    for (const QVariant &on : {QVariant(1), QVariant(true), QVariant(Qt::Checked), QVariant(QStringLiteral("true"))}) {
+        for (const QVariant &off : {QVariant(0), QVariant(false), QVariant(Qt::Unchecked)}) {
+            for (int row = 0; row < 6; ++row)
+                EXPECT_TRUE(set(row, on));
+            EXPECT_EQ(summary(lists->rgb).remove(QStringLiteral(".icc")),
+                      QStringLiteral("one:3:4 two:4:5 three:3:4 four:4:4 five:6:7 six:6:5 odd:7:4"));
+            for (int row = 0; row < 6; ++row)
+                EXPECT_TRUE(set(row, off));
+            EXPECT_EQ(lists->rgb.records[3].InMenu, 2);
+        }
+    }
+    EXPECT_FALSE(set(6, true)) << "a code without another menu state stays";
+    EXPECT_EQ(lists->rgb.records[6].InMenu, 7);
+}
+
+TEST_F(ProfileWindow, TableAndButtonsWorkOnTheListThatTheClassMenuNamesNow)
+{
+    writeFile();
+    inWindow([&] {
+        clickRow(3);
+        c()._profileMenu->setCurrentIndex(kProfileSIM); // by code: nothing is reloaded
+        EXPECT_EQ(table()->model()->rowCount(), 1);
+        EXPECT_EQ(cell(0, 1), QStringLiteral("sim.icc"));
+        press(c()._deleteButton); // row 3 is none of this list
+        press(c()._editButton);
+        EXPECT_TRUE(table()->model()->setData(table()->model()->index(0, bv::ProfileTableModel::kInMenu), false,
+                                              Qt::CheckStateRole));
+        press(c()._windowOK);
+    });
+    const auto file = readFile();
+    EXPECT_EQ(summary(file->rgb), summary(lists->rgb));
+    EXPECT_EQ(summary(file->sim), QStringLiteral("sim.icc:2:4"));
+}
+
 TEST_F(ProfileWindow, TheTabKeyReachesEveryControlInOrderAndEachHasAName)
 {
     writeFile();
