@@ -2,28 +2,12 @@
 #include "discovery/ProfileSpool.h"
 
 #include <algorithm>
+#include <span>
 
 ProfileList PlistForSpool;
 int32_t numprinted = 0;
 
 namespace {
-
-using ColumnOid = std::array<oid, bv::kColumnOidLength>;
-
-constexpr ColumnOid columnOid(oid column)
-{
-    ColumnOid id{};
-    std::copy(bv::kProfileEntryOid.begin(), bv::kProfileEntryOid.end(), id.begin());
-    id.back() = column;
-    return id;
-}
-
-constexpr ColumnOid iOidIndexOnDevice = columnOid(1);
-constexpr ColumnOid iOidSourceType = columnOid(2);
-constexpr ColumnOid iOidProfileName = columnOid(3);
-constexpr ColumnOid iOidFileName = columnOid(4);
-constexpr ColumnOid iOidProfileClass = columnOid(5);
-constexpr ColumnOid iOidProfileAvailability = columnOid(7);
 
 using Number = int32_t ProfileRecord::*;
 using Text = char (ProfileRecord::*)[kProfileTextBytes];
@@ -31,7 +15,7 @@ using Text = char (ProfileRecord::*)[kProfileTextBytes];
 // A kept column: its values are integers or texts, as its field is; the other member is null.
 struct Column
 {
-    const ColumnOid &id;
+    const bv::ColumnOid &id;
     Number number;
     Text text;
     bool countsRow;

@@ -4,10 +4,10 @@
 
 #include "profiles/ProfileList.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <span>
 
 #include <net-snmp/net-snmp-config.h>
 #include <net-snmp/net-snmp-includes.h>
@@ -19,7 +19,26 @@ inline constexpr std::array<oid, 15> kProfileEntryOid = {1, 3, 6, 1, 4, 1, 39847
 inline constexpr size_t kColumnOidLength = kProfileEntryOid.size() + 1;
 inline constexpr size_t kInstanceOidLength = kColumnOidLength + 2;
 
+using ColumnOid = std::array<oid, kColumnOidLength>;
+
+// The identifier of one column of the table.
+constexpr ColumnOid columnOid(oid column)
+{
+    ColumnOid id{};
+    std::copy(kProfileEntryOid.begin(), kProfileEntryOid.end(), id.begin());
+    id.back() = column;
+    return id;
+}
+
 } // namespace bv
+
+// The columns that are kept, by their identifiers.
+inline constexpr bv::ColumnOid iOidIndexOnDevice = bv::columnOid(1);
+inline constexpr bv::ColumnOid iOidSourceType = bv::columnOid(2);
+inline constexpr bv::ColumnOid iOidProfileName = bv::columnOid(3);
+inline constexpr bv::ColumnOid iOidFileName = bv::columnOid(4);
+inline constexpr bv::ColumnOid iOidProfileClass = bv::columnOid(5);
+inline constexpr bv::ColumnOid iOidProfileAvailability = bv::columnOid(7);
 
 // The rows of the latest walk, zeroed at its start. The count is the number of column-1 values stored: it can pass 500
 // when the printer sends one for a row twice, so readers stop at the last slot.

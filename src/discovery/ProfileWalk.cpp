@@ -89,18 +89,6 @@ int request(netsnmp_session *session, int type, const oid *name, size_t length, 
     return status;
 }
 
-void snmp_get_and_print(netsnmp_session *session, const oid *name, size_t length)
-{
-    Answer answer;
-    if (request(session, SNMP_MSG_GET, name, length, &answer) != STAT_SUCCESS || !answer ||
-        answer->errstat != SNMP_ERR_NOERROR)
-        return;
-    for (const netsnmp_variable_list *variable = answer->variables; variable; variable = variable->next_variable) {
-        ++numprinted;
-        print_variable(variable->name, variable->name_length, variable);
-    }
-}
-
 bool isException(u_char type)
 {
     return type == SNMP_NOSUCHOBJECT || type == SNMP_NOSUCHINSTANCE || type == SNMP_ENDOFMIBVIEW;
@@ -258,10 +246,25 @@ int32_t walk(int argc, char **argv, const bv::WalkLimits &limits)
         bv::diagnosticLine("Profile walk: no session with the printer");
         return kNotWalked;
     }
-    return Walk(session.get(), root, limits).run();
+    const int32_t status = Walk(session.get(), root, limits).run();
+    if (isOn(kPrintStatistics))
+        MyDebugMessage(("[UTIL-MIB] Variables found: " + std::to_string(numprinted)).c_str(), 0);
+    return status;
 }
 
 } // namespace
+
+void snmp_get_and_print(netsnmp_session *session, const oid *name, size_t length)
+{
+    Answer answer;
+    if (request(session, SNMP_MSG_GET, name, length, &answer) != STAT_SUCCESS || !answer ||
+        answer->errstat != SNMP_ERR_NOERROR)
+        return;
+    for (const netsnmp_variable_list *variable = answer->variables; variable; variable = variable->next_variable) {
+        ++numprinted;
+        print_variable(variable->name, variable->name_length, variable);
+    }
+}
 
 void optProc(int /*argc*/, char *const * /*argv*/, int option)
 {
@@ -283,8 +286,6 @@ int32_t bv::walkProfileTable(int32_t argc, char **argv, const WalkLimits &limits
 {
     prepareSnmpEnvironment();
     const int32_t status = walk(argc, argv, limits);
-    if (isOn(kPrintStatistics))
-        MyDebugMessage(("[UTIL-MIB] Variables found: " + std::to_string(numprinted)).c_str(), 0);
     // What the library printed must not come after what the caller prints, by whatever way.
     std::fflush(stdout);
     vRestructPlistSpool2Current(status < 0 ? kNotWalked : status);

@@ -7,6 +7,9 @@
 #include <cstddef>
 #include <cstdint>
 
+#include <net-snmp/net-snmp-config.h>
+#include <net-snmp/net-snmp-includes.h>
+
 // Walks the table with the words of the request ("snmpwalk" first). 0 success; 1 no answer, no session, a bad root or
 // identifiers that do not increase; 2 an error status of the device; negative: the arguments do not parse. The
 // reconciliation runs at its end whatever the result.
@@ -18,6 +21,10 @@ extern char sDEBUGmsg[128];
 // The library's call-back for the option "-C": its letters c, p and i toggle "dontCheckOrdering", "printStatistics" and
 // "includeRequested"; another letter leaves a message in sDEBUGmsg. Other options are ignored.
 void optProc(int argc, char *const *argv, int option);
+
+// Sends one GET for a name of `length` sub-identifiers over an open session, and waits. Each variable of an answer
+// without error counts in numprinted and is printed on standard output by the library; any other answer is passed over.
+void snmp_get_and_print(netsnmp_session *session, const oid *name, size_t length);
 
 namespace bv {
 

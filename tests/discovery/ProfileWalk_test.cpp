@@ -19,12 +19,18 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+// Called in place of the walk's trace hook, see the link options.
+extern "C" void __wrap__Z14MyDebugMessagePKcj(const char *message, uint32_t level);
+
 namespace {
 
 using bvtest::ProgramUnderTest;
 using bvtest::ScratchFolder;
 using std::chrono::milliseconds;
 using testing::ElementsAre;
+
+// The last message to the walk's trace hook.
+char lastTrace[sizeof(sDEBUGmsg)];
 
 struct Walks
 {
@@ -41,6 +47,7 @@ struct Walked
     std::array<int32_t, 3> statuses;
     int32_t variables;
     char message[sizeof(sDEBUGmsg)];
+    char traced[sizeof(sDEBUGmsg)]; // the last trace
     ProfileList spool;
 
     std::string row(int number) const
@@ -97,6 +104,7 @@ private:
         }
         m_walked->variables = numprinted;
         std::memcpy(m_walked->message, sDEBUGmsg, sizeof(sDEBUGmsg));
+        std::memcpy(m_walked->traced, lastTrace, sizeof(lastTrace));
         m_walked->spool = PlistForSpool;
     }
 
@@ -271,8 +279,12 @@ TEST_F(ProfileWalk, OptionsChangeTheWalk)
     EXPECT_EQ(again.requests(), 100);
 
     Simulator included;
-    EXPECT_EQ(walked({.hosts = {included.host()}, .options = {"-Cip"}}).statuses[0], 0);
+    const Walked counted = walked({.hosts = {included.host()}, .options = {"-Cip"}});
+    EXPECT_EQ(counted.statuses[0], 0);
     EXPECT_EQ(included.requests(), 51) << "the root is asked for first";
+    EXPECT_STREQ(counted.traced, "[UTIL-MIB] Variables found: 49");
+    EXPECT_STREQ(walked({.hosts = {"127.0.0.1:1"}, .options = {"-Cp"}, .root = "1.x"}).traced, "")
+        << "nothing is counted where no walk was begun";
 
     Simulator unknown;
     const Walked left = walked({.hosts = {unknown.host()}, .options = {"-Cxc"}});
@@ -370,3 +382,8 @@ TEST_F(ProfileWalk, TakesOrLeavesEveryReplyOfAnotherAgent)
 }
 
 } // namespace
+
+void __wrap__Z14MyDebugMessagePKcj(const char *message, uint32_t /*level*/)
+{
+    std::snprintf(lastTrace, sizeof(lastTrace), "%s", message);
+}
