@@ -43,76 +43,81 @@ void PainChangeController::ShowAdvancedToColorView()
 
 void PainChangeController::show(ControlTableView *shown, ControlTableView *hidden)
 {
-    if (!shown || !hidden)
+    if (!shown)
         return;
-    const bool hadFocus = hidden->isAncestorOf(hidden->window()->focusWidget());
+    const bool hadFocus = hidden && hidden->isAncestorOf(hidden->window()->focusWidget());
     shown->setViewBounds(onMainCustomView ? onMainCustomView->rect() : QRect());
-    if (onMainCustomView) {
-        shown->setParent(onMainCustomView);
+    if (!onMainCustomView) // and so no pane is swapped: one without a parent would become a window of its own
+        return;
+    shown->setParent(onMainCustomView);
+    QLayout *layout = onMainCustomView->layout();
+    if (hidden) {
         hidden->setParent(onMainCustomView); // a hidden pane stays in the view, so that its controls can be found
-        if (QLayout *layout = onMainCustomView->layout(); layout && layout->indexOf(hidden) >= 0)
+        if (layout && layout->indexOf(hidden) >= 0)
             const std::unique_ptr<QLayoutItem> replaced(layout->replaceWidget(hidden, shown));
+        hidden->hide();
+    } else if (layout && layout->indexOf(shown) < 0) {
+        layout->addWidget(shown);
     }
-    hidden->hide();
     shown->show();
     if (hadFocus)
         focusFirstControl(shown);
 }
 
+template <typename Call> void PainChangeController::advancedThenColor(Call call)
+{
+    if (onAdvancedView)
+        call(*onAdvancedView);
+    if (onColorView)
+        call(*onColorView);
+}
+
 void PainChangeController::creatPDEControlTableEachView()
 {
-    onAdvancedView->createPDEControlTable();
-    onColorView->createPDEControlTable();
+    advancedThenColor([](ControlTableView &pane) { pane.createPDEControlTable(); });
 }
 
 void PainChangeController::addPPDArrayEachView(QStringList *array)
 {
-    onAdvancedView->addPPDArray(array);
-    onColorView->addPPDArray(array);
+    advancedThenColor([array](ControlTableView &pane) { pane.addPPDArray(array); });
 }
 
 void PainChangeController::deallocPDEControlTableEachView()
 {
-    if (onAdvancedView)
-        onAdvancedView->deallocPDEControlTable();
-    if (onColorView)
-        onColorView->deallocPDEControlTable();
+    advancedThenColor([](ControlTableView &pane) { pane.deallocPDEControlTable(); });
 }
 
 void PainChangeController::setPPDFileEachView(ppd_file_t *file)
 {
-    onAdvancedView->setPPDFile(file);
-    onColorView->setPPDFile(file);
+    advancedThenColor([file](ControlTableView &pane) { pane.setPPDFile(file); });
 }
 
 void PainChangeController::setPMPrintEachView(PMPrintSettings settings, PMPrintSession session)
 {
-    onAdvancedView->setPMPrint(settings, session);
-    onColorView->setPMPrint(settings, session);
+    advancedThenColor([=](ControlTableView &pane) { pane.setPMPrint(settings, session); });
 }
 
 void PainChangeController::createPDEItemForPPDKeyEachView()
 {
-    onAdvancedView->createPDEItemForPPDKey();
-    onColorView->createPDEItemForPPDKey();
+    advancedThenColor([](ControlTableView &pane) { pane.createPDEItemForPPDKey(); });
 }
 
 void PainChangeController::defaultFromPPDInfoEachView()
 {
-    onColorView->defaultFromPPDInfo();
-    onAdvancedView->defaultFromPPDInfo();
+    if (onColorView)
+        onColorView->defaultFromPPDInfo();
+    if (onAdvancedView)
+        onAdvancedView->defaultFromPPDInfo();
 }
 
 void PainChangeController::getControlValueFromTickettEachView()
 {
-    onAdvancedView->getControlValueFromTicket();
-    onColorView->getControlValueFromTicket();
+    advancedThenColor([](ControlTableView &pane) { pane.getControlValueFromTicket(); });
 }
 
 void PainChangeController::setControlValueToTicketEachView()
 {
-    onAdvancedView->setControlValueToTicket();
-    onColorView->setControlValueToTicket();
+    advancedThenColor([](ControlTableView &pane) { pane.setControlValueToTicket(); });
 }
 
 int32_t PainChangeController::getControlDataEachView(PDEControlTable *list, int32_t count)
@@ -130,24 +135,35 @@ int32_t PainChangeController::getControlCountEachView() const
                    (onAdvancedView ? onAdvancedView->getControlCount() : 0));
 }
 
+int16_t PainChangeController::quickColor() const
+{
+    return onColorView ? int16_t(onColorView->getQuickColorValue()) : int16_t(0);
+}
+
+int16_t PainChangeController::economy() const
+{
+    return onColorView ? int16_t(onColorView->getEconoModeValue()) : int16_t(0);
+}
+
 void PainChangeController::changeAdvancedItemAccodingQuickColor()
 {
-    onAdvancedView->changeItemAccodingQuickColor(int16_t(onColorView->getQuickColorValue()),
-                                                 int16_t(onColorView->getEconoModeValue()));
+    if (onAdvancedView)
+        onAdvancedView->changeItemAccodingQuickColor(quickColor(), economy());
 }
 
 void PainChangeController::getSummaryAdvancedItemAccodingQuickColor(bv::PrintDictionary *dictionary,
                                                                     bv::PrintArray *array)
 {
-    onAdvancedView->getSummaryItemAccodingQuickColor(int16_t(onColorView->getQuickColorValue()),
-                                                     int16_t(onColorView->getEconoModeValue()), dictionary, array);
+    if (onAdvancedView)
+        onAdvancedView->getSummaryItemAccodingQuickColor(quickColor(), economy(), dictionary, array);
 }
 
 void PainChangeController::getSummaryTextEachView(bv::PrintDictionary *dictionary, bv::PrintArray *array)
 {
-    onColorView->getSummaryText(dictionary, array);
-    if (int16_t(onColorView->getQuickColorValue()) != kQuickColorFree)
+    if (onColorView)
+        onColorView->getSummaryText(dictionary, array);
+    if (quickColor() != kQuickColorFree)
         getSummaryAdvancedItemAccodingQuickColor(dictionary, array);
-    else
+    else if (onAdvancedView)
         onAdvancedView->getSummaryText(dictionary, array);
 }

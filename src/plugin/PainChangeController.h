@@ -17,7 +17,8 @@ class PainChangeController : public QObject
 public:
     using QObject::QObject;
 
-    // The interface file's outlets. The controller owns none of them.
+    // The interface file's outlets. The controller owns none of them, and any may be missing: what is asked of a
+    // missing pane is left out, its Quick Color and Economy count as 0, and without a container no pane is swapped.
     QPointer<QWidget> onMainCustomView;
     QPointer<ColorOptions> onColorView;
     QPointer<AdvancedColorOptions> onAdvancedView;
@@ -56,4 +57,7 @@ public slots:
 
 private:
     void show(ControlTableView *shown, ControlTableView *hidden);
+    template <typename Call> void advancedThenColor(Call call);
+    int16_t quickColor() const;
+    int16_t economy() const;
 };

@@ -77,4 +77,55 @@ TEST_F(Panes, GatherTwoTablesAndTheirRecords)
     EXPECT_EQ(controller.getControlCountEachView(), 14 + 47);
 }
 
+TEST_F(Panes, ThatAreMissingAreLeftOutAndTheRestIsDone)
+{
+    const auto askForAll = [this] {
+        QStringList keys;
+        bv::PrintDictionary summary;
+        bv::PrintArray order;
+        controller.setPMPrintEachView(nullptr, nullptr);
+        controller.setPPDFileEachView(nullptr);
+        controller.creatPDEControlTableEachView();
+        controller.createPDEItemForPPDKeyEachView();
+        controller.defaultFromPPDInfoEachView();
+        controller.getControlValueFromTickettEachView();
+        controller.setControlValueToTicketEachView();
+        controller.changeAdvancedItemAccodingQuickColor();
+        controller.getSummaryTextEachView(&summary, &order);
+        controller.addPPDArrayEachView(&keys);
+        controller.ColorToAdvancedView();
+        controller.SHowColorToAdvancedView();
+        controller.AdvancedToColorView();
+        controller.ShowAdvancedToColorView();
+    };
+    container.resize(300, 200);
+
+    controller.onColorView = nullptr;
+    advanced->setParent(nullptr);
+    controller.creatPDEControlTableEachView();
+    EXPECT_EQ(controller.getControlCountEachView(), 47);
+    controller.ColorToAdvancedView();
+    EXPECT_EQ(advanced->parentWidget(), &container);
+    EXPECT_TRUE(advanced->isVisibleTo(&container));
+    askForAll();
+
+    controller.onAdvancedView = nullptr;
+    askForAll();
+
+    controller.onColorView = color;
+    color->setParent(nullptr);
+    controller.ShowAdvancedToColorView();
+    EXPECT_EQ(color->parentWidget(), &container);
+    askForAll();
+
+    controller.onAdvancedView = advanced;
+    controller.onMainCustomView = nullptr;
+    advanced->setGeometry(5, 5, 50, 50);
+    controller.SHowColorToAdvancedView();
+    EXPECT_TRUE(advanced->geometry().topLeft().isNull());
+    EXPECT_NE(advanced->size(), QSize(50, 50)) << "the bounds of no container are those of an empty rectangle";
+    EXPECT_FALSE(advanced->isWindow());
+    askForAll();
+}
+
 } // namespace
