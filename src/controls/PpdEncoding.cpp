@@ -11,18 +11,41 @@ namespace bv {
 
 namespace {
 
+constexpr uint32_t kUtf8 = 0x08000100;
+
+// Shift JIS: backslash and tilde are those of ASCII, as everywhere in a PPD, and the special characters of row 13 are
+// those of code page 932. Mac OS Roman: U+2206 and U+F8FF as in the table that its vendor published (ROMAN.TXT).
 // clang-format off
 constexpr std::array<PpdEncoding, 6> kEncodings{{
-    {"ISOLatin1",   5, 0x00000201, "ISO-8859-1"},
-    {"WindowsANSI", 12, 0x00000500, "CP1252"},
-    {"JIS83-RKSJ",  8, 0x00000A01, "SHIFT_JIS"},
-    {"UTF-8",       4, 0x08000100, "UTF-8"},
-    {"UTF8",        4, 0x08000100, "UTF-8"},
-    {nullptr,      30, 0x00000000, "MACINTOSH"},
+    {"ISOLatin1",   5,  0x00000201, "ISO-8859-1", nullptr, {}},
+    {"WindowsANSI", 12, 0x00000500, "CP1252",     nullptr, {}},
+    {"JIS83-RKSJ",  8,  0x00000A01, "SHIFT_JIS",  "CP932", {{{u'\u00A5', u'\\'},    {u'\u203E', u'~'}}}},
+    {"UTF-8",       4,  kUtf8,      "UTF-8",      nullptr, {}},
+    {"UTF8",        4,  kUtf8,      "UTF-8",      nullptr, {}},
+    {nullptr,       30, 0x00000000, "MACINTOSH",  nullptr, {{{u'\u0394', u'\u2206'}, {u'\uE01E', u'\uF8FF'}}}},
 }};
 // clang-format on
 
+// Whether two bytes have the form of a two-byte character of Shift JIS, in its table or not.
+bool isShiftJisPair(unsigned char first, unsigned char second)
+{
+    const bool lead = (first >= 0x81 && first <= 0x9F) || (first >= 0xE0 && first <= 0xFC);
+    return lead && second >= 0x40 && second <= 0xFC && second != 0x7F;
+}
+
 constexpr char kReplacement[] = "\xEF\xBF\xBD"; // U+FFFD
+
+// Appends what the character set itself lacks at the beginning of a text: a two-byte character of the second set, or
+// U+FFFD. The number of bytes that it took.
+size_t appendUnknown(std::string *out, std::string_view text, const PpdEncoding &encoding)
+{
+    const bool isPair = encoding.pairsName && text.size() >= 2 && isShiftJisPair(uint8_t(text[0]), uint8_t(text[1]));
+    const std::string_view unknown = text.substr(0, isPair ? 2 : 1);
+    TextConverter pairs("UTF-8", isPair ? encoding.pairsName : encoding.iconvName);
+    if (!isPair || !pairs || !pairs.append(out, unknown))
+        *out += kReplacement;
+    return unknown.size();
+}
 
 bool isAscii(std::string_view text)
 {
@@ -45,10 +68,11 @@ QString decodePpdText(const char *text, const PpdEncoding &encoding)
     if (!text)
         return {};
     const std::string_view bytes(text);
-    // All six encodings agree on ASCII, and almost every text of a PPD is nothing else.
+    // In all six encodings as this table has them the bytes below 0x80 are ASCII, and almost every text of a PPD is
+    // nothing else.
     if (isAscii(bytes))
         return QString::fromLatin1(bytes.data(), qsizetype(bytes.size()));
-    if (encoding.cfEncoding == 0x08000100)
+    if (encoding.cfEncoding == kUtf8)
         return QString::fromUtf8(bytes.data(), qsizetype(bytes.size()));
     TextConverter converter("UTF-8", encoding.iconvName);
     if (!converter)
@@ -56,12 +80,14 @@ QString decodePpdText(const char *text, const PpdEncoding &encoding)
     std::string decoded;
     for (std::string_view rest = bytes; !rest.empty();) {
         rest.remove_prefix(converter.appendBeginning(&decoded, rest));
-        if (rest.empty())
-            break;
-        decoded += kReplacement;
-        rest.remove_prefix(1);
+        if (!rest.empty())
+            rest.remove_prefix(appendUnknown(&decoded, rest, encoding));
     }
-    return QString::fromStdString(decoded);
+    QString result = QString::fromStdString(decoded);
+    for (const PpdReplacement &replacement : encoding.replacements)
+        if (replacement.converted)
+            result.replace(QChar(replacement.converted), QChar(replacement.meant));
+    return result;
 }
 
 } // namespace bv
