@@ -84,7 +84,8 @@ public:
     static int32_t commonGetControlValueWithSInt32(const PDEControlItem *item);
     // Sets a row's control; a pop-up index beyond its items is ignored, a negative one clears the selection.
     static void commonSetControlValueWithSInt32(const PDEControlItem *item, int32_t value);
-    // A number in the session's data, as a handle. kPMInvalidValue when the item is no number.
+    // A number in the session's data, as a handle. kPMInvalidValue, and the handle 0, when the item is no number of 32
+    // bits.
     static int32_t commonGetTicket(PMPrintSession session, const QString &kind, int32_t *ticket);
 
     // ---- Summary (controls/SummaryText.cpp) ----
@@ -97,8 +98,9 @@ public:
 
     // ---- Profile menus and ticket entries (profiles/ProfileMenus.cpp, profiles/ProfileTicket.cpp) ----
 
-    // Appends the stored profiles to the menus of a table's profile rows. noErr, -1 when the list file cannot be read,
-    // or paramErr when the last row examined is no profile row.
+    // Appends the stored profiles to the menus of a table's profile rows. noErr; -1 when the list file cannot be read;
+    // paramErr as soon as one row is no profile row or the name of a storage cannot be had: no later row takes that
+    // back, and the other rows and profiles are appended all the same.
     static int32_t commonAddMenuFromProfilePlist(PDEControlTable table);
     // Records the n-th listed profile (from 1) of the row's class in the queue dictionary. 0 or -1.
     static int32_t commonSetTicketAddedProfile(const PDEControlItem *item, const bv::PrintDictionaryRef &dict,

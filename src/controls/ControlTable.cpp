@@ -1,6 +1,8 @@
 // PDECommon: operations on whole control tables.
 #include "common/PDECommon.h"
 
+#include "common/AsciiText.h"
+#include "platform/Log.h"
 #include "platform/NoThrow.h"
 
 #include <algorithm>
@@ -56,11 +58,18 @@ int32_t PDECommon::commonAddPPDArray(QStringList *array, PDEControlTable table)
     if (!array)
         return paramErr;
     return bv::withoutThrowing(memFullErr, [&] {
+        int32_t status = noErr;
         for (int16_t row = 0; table && table[row].control; ++row) {
-            if (table[row].ppdKey[0] != '\0')
-                array->append(QString::fromLatin1(table[row].ppdKey));
+            if (table[row].ppdKey[0] == '\0')
+                continue;
+            if (const auto key = asciiText(table[row].ppdKey))
+                array->append(*key);
+            else
+                status = paramErr;
         }
-        return noErr;
+        if (status != noErr)
+            bv::diagnosticLine("a control table has a keyword that is no ASCII");
+        return status;
     });
 }
 

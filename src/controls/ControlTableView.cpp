@@ -1,6 +1,7 @@
 // Building, freeing and forwarding of a pane's control table.
 #include "controls/ControlTableView.h"
 
+#include "common/AsciiText.h"
 #include "platform/NoThrow.h"
 
 ControlTableView::ControlTableView(std::span<const ControlRow> rows, QWidget *parent) : QWidget(parent), m_rows(rows) {}
@@ -94,5 +95,6 @@ void ControlTableView::defaultFromPPDInfo()
 void ControlTableView::appendAllKeys(QStringList *array) const
 {
     for (size_t i = 0; i < ctrlTable.size() && ctrlTable[i].control; ++i)
-        array->append(QString::fromLatin1(ctrlTable[i].ppdKey));
+        if (const auto key = asciiText(ctrlTable[i].ppdKey))
+            array->append(*key);
 }

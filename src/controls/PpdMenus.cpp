@@ -1,6 +1,7 @@
 // PDECommon: pop-up menus, control titles and current values as the PPD words them.
 #include "common/PDECommon.h"
 
+#include "common/AsciiText.h"
 #include "controls/PpdEncoding.h"
 #include "platform/Bundle.h"
 
@@ -27,7 +28,10 @@ int32_t checkBoxEntry(const PDEControlItem *item)
 {
     const auto *box = qobject_cast<const QCheckBox *>(item->control);
     const bool on = box && box->isChecked();
-    return PDECommon::commonFindPPDKeyPairsMatch(item->ppdChoices.get(), QString::fromLatin1(item->ppdKey),
+    const auto option = asciiText(item->ppdKey);
+    if (!option)
+        return -1;
+    return PDECommon::commonFindPPDKeyPairsMatch(item->ppdChoices.get(), *option,
                                                  on ? QStringLiteral("True") : QStringLiteral("False"));
 }
 
@@ -43,7 +47,8 @@ void PDECommon::commonReBuildMenuFromPPD(ppd_file_t *ppd, const PDEControlItem *
     menu->clear();
     for (int i = 0; i < option->num_choices; ++i) {
         const ppd_choice_t &choice = option->choices[i];
-        menu->addItem(bv::decodePpdText(choice.text, encoding), QString::fromLatin1(choice.choice));
+        const auto keyword = asciiText(choice.choice);
+        menu->addItem(bv::decodePpdText(choice.text, encoding), keyword ? QVariant(*keyword) : QVariant());
     }
 }
 
@@ -51,7 +56,9 @@ void PDECommon::commonSetControlTitleFromLocalizeString(const PDEControlItem *it
 {
     if (!item->title)
         return;
-    const QString text = localizedString(item->title);
+    const QString text = bundleText(item->title);
+    if (text.isNull())
+        return;
     switch (item->kind) {
     case kPDEControlText:
         if (auto *label = qobject_cast<QLabel *>(item->control))
@@ -81,7 +88,8 @@ int32_t PDECommon::commonGetDefualtValueFromPPDWithSInt32(const PDEControlItem *
     if (!item || !item->ppdChoices || item->ppdChoices->empty())
         return 0;
     const QString &defaultChoice = item->ppdChoices->front()[1];
-    return commonGetTicketValueWithSInt32(item, QString::fromLatin1(item->ppdKey), bv::PrintValue(defaultChoice));
+    return commonGetTicketValueWithSInt32(item, asciiText(item->ppdKey).value_or(QString()),
+                                          bv::PrintValue(defaultChoice));
 }
 
 int32_t PDECommon::commonGetControlValueFromPPDWithSInt32(const PDEControlItem *item)

@@ -21,14 +21,16 @@ int32_t PDECommon::commonGetSummaryText(PDEControlTable table, bv::PrintDictiona
         return noErr;
     return bv::withoutThrowing(memFullErr, [&] {
         int32_t status = noErr;
+        QString name; // kept from row to row: a name key that is no ASCII shows the name of the row before once more
         for (int16_t row = 0; table[row].control; ++row) {
             if (!table[row].summaryName)
                 continue;
-            const QString name = localizedString(table[row].summaryName);
+            if (const QString own = bundleText(table[row].summaryName); !own.isNull())
+                name = own;
             const QString value = commonGetControlValueFromPPDWithNSString(&table[row]);
-            if (value.isNull()) {
+            if (name.isNull() || value.isNull()) {
                 bv::diagnosticLine(
-                    bv::formatLog("summary: %s has no value", {bv::LogArgument(table[row].summaryName)}));
+                    bv::formatLog("summary: %s has no name or no value", {bv::LogArgument(table[row].summaryName)}));
                 status = paramErr;
                 continue;
             }
@@ -43,10 +45,11 @@ int32_t PDECommon::commonGetSummaryTextQuickColor(const char *quickColor, const 
 {
     if (!pluginBundle())
         return noErr;
-    if (!quickColor)
+    const QString name = bundleText(quickColor);
+    if (name.isNull())
         return paramErr;
     return bv::withoutThrowing(memFullErr, [&] {
-        addItem(localizedString(quickColor), itemName, adddict, addArray);
+        addItem(name, itemName, adddict, addArray);
         return noErr;
     });
 }

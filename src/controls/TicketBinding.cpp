@@ -1,11 +1,13 @@
 // PDECommon: control values into the print settings and back.
 #include "common/PDECommon.h"
 
+#include "common/AsciiText.h"
 #include "platform/Log.h"
 #include "platform/NoThrow.h"
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <utility>
 
 namespace {
 
@@ -39,19 +41,21 @@ bool namesProfile(const PDEControlItem &row, const bv::PrintDictionaryRef &queue
     return flag.string() && *flag.string() == QLatin1String("True");
 }
 
-// The value that the queue dictionary holds for a row. A stored value that is no string hands on `carried`, the value
-// of the row before: tickets of older versions rely on it.
+// The value that the queue dictionary holds for a row. A stored value that is no string, and a keyword that is no
+// ASCII, hand on `carried`, the value of the row before: tickets of older versions rely on it.
 int32_t storedValue(const PDEControlItem &row, const bv::PrintDictionaryRef &queue, int32_t carried)
 {
     if (namesProfile(row, queue)) {
         const int16_t position = PDECommon::commonGetTicketAddedProfile(&row, queue);
         return position < 1 ? PDECommon::commonGetDefualtValueFromPPDWithSInt32(&row) : choiceCount(row) + position - 1;
     }
-    const QString key = QString::fromLatin1(row.ppdKey);
-    if (!queue->contains(key))
+    const auto key = asciiText(row.ppdKey);
+    if (!key)
+        return carried;
+    if (!queue->contains(*key))
         return PDECommon::commonGetDefualtValueFromPPDWithSInt32(&row);
-    const bv::PrintValue stored = queue->value(key);
-    return stored.string() ? PDECommon::commonGetTicketValueWithSInt32(&row, key, stored) : carried;
+    const bv::PrintValue stored = queue->value(*key);
+    return stored.string() ? PDECommon::commonGetTicketValueWithSInt32(&row, *key, stored) : carried;
 }
 
 } // namespace
@@ -105,7 +109,7 @@ bv::PrintDictionaryRef PDECommon::commonGetModelDictionary(PMPrintSettings setti
     }
     const bv::PrintDictionaryRef queues = entry.dictionary();
     if (!queues || queue.isNull()) {
-        bv::diagnosticLine(queue.isNull() ? "no current printer: the ticket is left alone"
+        bv::diagnosticLine(queue.isNull() ? "no current printer: the controls and the ticket are not matched"
                                           : "the ticket's entry of this system is no dictionary and is left alone");
         return nullptr;
     }
@@ -193,7 +197,7 @@ int32_t PDECommon::commonGetTicket(PMPrintSession session, const QString &kind, 
     const int32_t status = PMSessionGetDataFromSession(session, kind, &item);
     if (status != noErr)
         return status;
-    if (!item.integer())
+    if (!item.integer() || !std::in_range<int32_t>(*item.integer()))
         return kPMInvalidValue;
     *ticket = int32_t(*item.integer());
     return noErr;

@@ -4,6 +4,8 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include <algorithm>
+
 // The tables lie in a static library, where nothing but this call keeps the linker from dropping them. The macro must
 // stand outside any namespace.
 static void keepTables()
@@ -63,8 +65,15 @@ void setPluginBundle(const bv::PluginBundle &bundle)
         keptBundle() = std::make_unique<const bv::Bundle>(bundle);
 }
 
-QString localizedString(const char *key)
+QString bundleText(const char *key)
 {
     const QString text = QString::fromLatin1(key);
-    return pluginBundle() ? pluginBundle()->localizedString(text) : text;
+    const bool ascii = std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+    return key && ascii && pluginBundle() ? pluginBundle()->localizedString(text) : QString();
+}
+
+QString localizedString(const char *key)
+{
+    const QString text = bundleText(key);
+    return text.isNull() ? QString::fromLatin1(key) : text;
 }

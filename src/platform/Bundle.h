@@ -29,5 +29,8 @@ private:
 const bv::Bundle *pluginBundle();
 // Keeps the bundle if none is kept yet.
 void setPluginBundle(const bv::PluginBundle &bundle);
-// The localised text of an ASCII key in the plug-in's bundle; the key itself without a bundle or a text.
+// The localised text of an ASCII key in the plug-in's bundle, the key itself where the bundle has no text for it. A
+// null string where no text can be had: without a bundle, and for a key that is null or no ASCII.
+QString bundleText(const char *key);
+// The same for texts that must show something: the key itself also where no text can be had.
 QString localizedString(const char *key);

@@ -59,7 +59,9 @@ private:
 
 // The text (UTF-8) of a printf-like format in which "%@" stands for the description of its argument. Flags, width and
 // precision work as in printf(3); a placeholder whose argument is missing or of another kind never reads past it: a
-// missing one is written as it stands, another kind is written in its own natural form.
+// missing one is written as it stands, another kind is written in its own natural form. Two things are left out on
+// purpose: arguments by position ("%2$s" is written as it stands), and lengths narrow no number (with "%hhd" 300 is
+// 300), since each argument brings its own width.
 std::string formatLog(std::string_view format, std::initializer_list<LogArgument> arguments);
 
 // Writes UTF-8 text to a stream in the encoding of the process's locale, with "?" for each character that it cannot

@@ -16,24 +16,36 @@ namespace {
 
 using ThreeLists = std::array<ProfileList, 3>;
 
-// The menu title of a profile: file name, profile name in parentheses, storage (none where it is unknown). The bytes
-// are cut at 255.
-QString profileTitle(const ProfileRecord &record)
+// The localised name of a record's storage: an empty text for unknown storage, a null one when it cannot be had.
+QString storageName(const ProfileRecord &record)
+{
+    const bv::ProfileStorage *storage = bv::profileStorage(record.Location);
+    return storage ? bundleText(storage->name) : QStringLiteral("");
+}
+
+// The menu title of a profile: file name, profile name in parentheses, storage. The bytes are cut at 255.
+QString profileTitle(const ProfileRecord &record, const QString &storage)
 {
     std::string title(bv::fieldText(record.FileName));
-    title.append("(").append(bv::fieldText(record.ProfileName)).append(")");
-    if (const bv::ProfileStorage *storage = bv::profileStorage(record.Location))
-        title.append(localizedString(storage->name).toStdString());
+    title.append("(").append(bv::fieldText(record.ProfileName)).append(")").append(storage.toStdString());
     return QString::fromUtf8(title.data(), qsizetype(std::min(title.size(), size_t{255})));
 }
 
-void appendProfiles(QComboBox *menu, const ProfileList &list)
+// Appends the listed profiles; false when the name of some storage could not be had.
+bool appendProfiles(QComboBox *menu, const ProfileList &list)
 {
+    bool complete = true;
     for (int32_t i = 0; i < std::min<int32_t>(list.count, kProfileSlots); ++i) {
         const ProfileRecord &record = list.records[i];
-        if (bv::isListed(record.InMenu))
-            menu->addItem(profileTitle(record));
+        if (!bv::isListed(record.InMenu))
+            continue;
+        const QString storage = storageName(record);
+        if (storage.isNull())
+            complete = false;
+        else if (menu)
+            menu->addItem(profileTitle(record, storage));
     }
+    return complete;
 }
 
 } // namespace
@@ -50,11 +62,9 @@ int32_t PDECommon::commonAddMenuFromProfilePlist(PDEControlTable table)
         for (int16_t row = 0; table && table[row].control; ++row) {
             const auto which = bv::profileClassOfKind(table[row].profileKind);
             auto *menu = qobject_cast<QComboBox *>(table[row].control);
-            // Once set, the result stays: only the last value counts, and no profile row sets it back.
-            if (!which)
+            // Once set, the result stays: no profile row sets it back.
+            if (!which || !appendProfiles(menu, (*lists)[*which]))
                 result = paramErr;
-            else if (menu)
-                appendProfiles(menu, (*lists)[*which]);
         }
         return result;
     });

@@ -1,6 +1,7 @@
 // PDECommon: a chosen profile in the queue's dictionary of the ticket.
 #include "common/PDECommon.h"
 
+#include "common/AsciiText.h"
 #include "platform/NoThrow.h"
 #include "profiles/DevicePath.h"
 #include "profiles/MenuState.h"
@@ -10,14 +11,30 @@
 #include <QStringDecoder>
 #include <algorithm>
 #include <memory>
+#include <optional>
 
 namespace {
 
 constexpr size_t kEncodedPathLimit = 1023;
 
-QString entryKey(const PDEControlItem *item, const char *suffix)
+// The key of a row's entry; nothing where the row's keyword is no ASCII: such a row has no entries.
+std::optional<QString> entryKey(const PDEControlItem *item, const char *suffix)
 {
-    return QString::fromLatin1(item->ppdKey) + QLatin1String(suffix);
+    auto key = asciiText(item->ppdKey);
+    if (key)
+        key->append(QLatin1String(suffix));
+    return key;
+}
+
+void setEntry(const bv::PrintDictionaryRef &dict, const std::optional<QString> &key, const QString &value)
+{
+    if (key)
+        dict->setValue(*key, bv::PrintValue(value));
+}
+
+bv::PrintValue entryOf(const bv::PrintDictionaryRef &dict, const std::optional<QString> &key)
+{
+    return key ? dict->value(*key) : bv::PrintValue();
 }
 
 // Calls `visit(record, number)` for each record that is in the menus, numbered from 1, until it answers true.
@@ -92,8 +109,7 @@ int32_t PDECommon::commonSetTicketAddedProfile(const PDEControlItem *item, const
             const PPDChoiceEntry &first = item->ppdChoices->front();
             dict->setValue(first[0], bv::PrintValue(first[2]));
         }
-        dict->setValue(entryKey(item, "CustomFilename"),
-                       bv::PrintValue(QString::fromStdString(bv::encodeDevicePath(path))));
+        setEntry(dict, entryKey(item, "CustomFilename"), QString::fromStdString(bv::encodeDevicePath(path)));
         return commonSetTicketAddedProfileFlag(item, dict, QStringLiteral("True"));
     });
 }
@@ -104,7 +120,7 @@ int16_t PDECommon::commonGetTicketAddedProfile(const PDEControlItem *item, const
     if (!dict || !which)
         return -1;
     return bv::withoutThrowing(-1, [&]() -> int16_t {
-        const QString wanted = storedPath(dict->value(entryKey(item, "CustomFilename")));
+        const QString wanted = storedPath(entryOf(dict, entryKey(item, "CustomFilename")));
         return wanted.isEmpty() ? 0 : numberOfPath(*which, wanted);
     });
 }
@@ -113,7 +129,7 @@ int32_t PDECommon::commonSetTicketAddedProfileFlag(const PDEControlItem *item, c
                                                    const QString &flag)
 {
     if (dict && bv::profileClassOfKind(item->profileKind))
-        dict->setValue(entryKey(item, "Custom"), bv::PrintValue(flag));
+        setEntry(dict, entryKey(item, "Custom"), flag);
     return 0;
 }
 
@@ -122,5 +138,5 @@ bv::PrintValue PDECommon::commonGetTicketAddedProfileFlag(const PDEControlItem *
 {
     if (!dict || !bv::profileClassOfKind(item->profileKind))
         return {};
-    return dict->value(entryKey(item, "Custom"));
+    return entryOf(dict, entryKey(item, "Custom"));
 }

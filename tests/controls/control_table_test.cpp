@@ -1,5 +1,6 @@
 // Control tables: joining, constraint units, keywords and titles.
 #include "common/PDECommon.h"
+#include "platform/Bundle.h"
 #include "plugin/PanelLog.h"
 #include "support/PaneFixture.h"
 
@@ -49,16 +50,23 @@ TEST(ControlTitles, TabsPastTheFourthRepeatTheLast)
 {
     QTabWidget tabs;
     for (int i = 0; i < 6; ++i)
-        tabs.addTab(new QWidget, QString());
+        tabs.addTab(new QWidget, QStringLiteral("kept"));
     PDEControlItem row{&tabs, kPDEControlTabView, "", "Image", nullptr, "", 0, nullptr};
+    if (!pluginBundle()) { // once in a process
+        PDECommon::commonSetControlTitleFromLocalizeString(&row);
+        EXPECT_EQ(tabs.tabText(0), "kept") << "without the plug-in's bundle there are no titles";
+    }
+    setPluginBundle({QStringLiteral("/first"), {}});
     PDECommon::commonSetControlTitleFromLocalizeString(&row);
     const char *expected[] = {"Image", "Text", "Graphics", "Simulation", "Simulation", "Simulation"};
     for (int i = 0; i < 6; ++i)
         EXPECT_EQ(tabs.tabText(i), expected[i]);
-    row.title = nullptr;
     tabs.setTabText(0, "kept");
-    PDECommon::commonSetControlTitleFromLocalizeString(&row);
-    EXPECT_EQ(tabs.tabText(0), "kept");
+    for (const char *noTitle : {static_cast<const char *>(nullptr), "\xC3\xA9"}) {
+        row.title = noTitle;
+        PDECommon::commonSetControlTitleFromLocalizeString(&row);
+        EXPECT_EQ(tabs.tabText(0), "kept");
+    }
 }
 
 } // namespace

@@ -47,6 +47,11 @@ TEST(PpdEncoding, DecodesEachEncodingAndSurvivesWhatIsNoText)
         {"WindowsANSI", "a\x81z", u"a\uFFFDz"},
         {"JIS83-RKSJ", "\x8E\xCA\x90\x5E", u"\u5199\u771F"},
         {"JIS83-RKSJ", "a\x8E", u"a\uFFFD"},
+        // The bytes of ASCII are ASCII, whatever stands beside them.
+        {"JIS83-RKSJ", "\\~", u"\\~"},
+        {"JIS83-RKSJ", "\\~\x88\x9F", u"\\~\u4E9C"},
+        {"JIS83-RKSJ", "\x87\x40@\x81\x60\x85\x40x", u"\u2460@\u301C\uFFFDx"},
+        {nullptr, "\xC6\xF0\xBD\xDB", u"\u2206\uF8FF\u03A9\u20AC"},
         {"UTF-8", "Gr\xC3\xBC", u"Gr\u00FC"},
         {nullptr, "Gr\x9F", u"Gr\u00FC"},
         {"none", "\xC7x\xC8", u"\u00ABx\u00BB"},
@@ -128,6 +133,10 @@ TEST(PpdMenus, RebuildReplacesItemsOnlyWhenThePpdHasTheOption)
     EXPECT_EQ(menu.itemData(1).toString(), "Two");
     PDECommon::commonReBuildMenuFromPPD(nullptr, &row);
     EXPECT_EQ(menu.count(), 3);
+    ppdFindOption(ppd.get(), "BVA")->choices[1].choice[0] = '\xE9';
+    PDECommon::commonReBuildMenuFromPPD(ppd.get(), &row);
+    EXPECT_EQ(menu.itemText(1), "Two text");
+    EXPECT_FALSE(menu.itemData(1).isValid()) << "a keyword that is no ASCII is no keyword";
 }
 
 TEST(PpdMenus, DefaultsAndCurrentValuesByKind)

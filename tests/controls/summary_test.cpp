@@ -20,7 +20,7 @@ TEST(Summary, NeedsTheBundleThenListsRowsWithAName)
         {&menu, kPDEControlPopUp, "K", nullptr, "Same", "", 0, nullptr},
         {&label, kPDEControlText, "", "Title", nullptr, "", 0, nullptr},
         {&oddBox, kPDEControlCheckBox, "O", nullptr, "Odd", "", 0, nullptr}, // no True or False in the PPD
-        {&menu, kPDEControlPopUp, "K", nullptr, "Same", "", 0, nullptr},
+        {&menu, kPDEControlPopUp, "K", nullptr, "\xC3\xA9", "", 0, nullptr}, // no ASCII: the name before again
         endControlItem(),
     };
     bv::PrintDictionary dictionary;
@@ -37,14 +37,18 @@ TEST(Summary, NeedsTheBundleThenListsRowsWithAName)
     EXPECT_EQ(PDECommon::commonGetSummaryText(table, &dictionary, &order), paramErr);
     ASSERT_EQ(order.size(), 2U);
     EXPECT_EQ(*order[0].string(), "Same");
-    EXPECT_EQ(*order[1].string(), "Same");
-    EXPECT_EQ(dictionary.entries.size(), 1U);
+    EXPECT_EQ(*order[1].string(), "Odd");
     EXPECT_EQ(*dictionary.value("Same").string(), "Two");
+    EXPECT_EQ(*dictionary.value("Odd").string(), "Two");
+    EXPECT_EQ(PDECommon::commonGetSummaryText(&table[3], &dictionary, &order), paramErr) << "and no row before it";
+    EXPECT_EQ(order.size(), 2U);
 
     EXPECT_EQ(PDECommon::commonGetSummaryTextQuickColor("Same", "later", &dictionary, &order), noErr);
     EXPECT_EQ(*dictionary.value("Same").string(), "later");
     EXPECT_EQ(order.size(), 3U);
-    EXPECT_EQ(PDECommon::commonGetSummaryTextQuickColor(nullptr, "x", &dictionary, &order), paramErr);
+    for (const char *noName : {static_cast<const char *>(nullptr), "caf\xE9"})
+        EXPECT_EQ(PDECommon::commonGetSummaryTextQuickColor(noName, "x", &dictionary, &order), paramErr);
+    EXPECT_EQ(order.size(), 3U);
 }
 
 TEST(Texts, AreEnglishWhereTheLanguageHasNoTableAndKeysWithoutALanguage)

@@ -97,6 +97,15 @@ TEST_F(TicketBinding, ANumberInTheTicketTakesTheValueOfTheRowBefore)
     restore();
     EXPECT_EQ(menuA.currentIndex(), 1);
     EXPECT_FALSE(box.isChecked());
+
+    ticket.putInQueue("BVA", bv::PrintValue("Three"));
+    ticket.putInQueue("BVOn", bv::PrintValue("False"));
+    rows[1].ppdKey = "BVOn\xE9"; // neither has a keyword that is no ASCII any value of its own
+    restore();
+    EXPECT_TRUE(box.isChecked());
+    QStringList keys;
+    EXPECT_EQ(PDECommon::commonAddPPDArray(&keys, rows.data()), paramErr);
+    EXPECT_EQ(keys, QStringList({"BVA", "BVZ", "BVOdd"}));
 }
 
 TEST_F(TicketBinding, MirrorsEveryEntryOfTheQueueAndOnlyOfThisQueue)
@@ -160,11 +169,17 @@ TEST_F(TicketBinding, SessionDataMustBeANumber)
 {
     session.items.setValue("n", bv::PrintValue::integer(70));
     session.items.setValue("t", bv::PrintValue("70"));
+    session.items.setValue("lowest", bv::PrintValue::integer(INT32_MIN));
+    session.items.setValue("wide", bv::PrintValue::integer(int64_t{INT32_MAX} + 1));
     int32_t handle = 1;
-    EXPECT_EQ(PDECommon::commonGetTicket(&session, "n", &handle), noErr);
-    EXPECT_EQ(handle, 70);
-    EXPECT_EQ(PDECommon::commonGetTicket(&session, "t", &handle), kPMInvalidValue);
-    EXPECT_EQ(handle, 0);
+    EXPECT_EQ(PDECommon::commonGetTicket(&session, "lowest", &handle), noErr);
+    EXPECT_EQ(handle, INT32_MIN);
+    for (const char *key : {"t", "wide"}) {
+        EXPECT_EQ(PDECommon::commonGetTicket(&session, "n", &handle), noErr);
+        EXPECT_EQ(handle, 70);
+        EXPECT_EQ(PDECommon::commonGetTicket(&session, key, &handle), kPMInvalidValue) << key;
+        EXPECT_EQ(handle, 0);
+    }
     EXPECT_EQ(PDECommon::commonGetTicket(&session, "absent", &handle), kPMKeyNotFound);
 }
 

@@ -1,5 +1,6 @@
 // Stored profiles in the menus of profile rows, and a chosen profile in the ticket.
 #include "colorrules/AdvancedColorOptions.h"
+#include "platform/Bundle.h"
 #include "profiles/DevicePath.h"
 #include "profiles/ProfileKinds.h"
 #include "profiles/ProfileListFile.h"
@@ -20,6 +21,7 @@ class ProfileMenus : public testing::Test
 protected:
     ProfileMenus()
     {
+        setPluginBundle({QStringLiteral("/bundle"), {}});
         for (const auto &[menu, kind, keyword] :
              {std::tuple(&rgb, 1, "BVSrc"), {&dst, 2, "BVDst"}, {&sim, 3, "BVSim"}}) {
             rows.push_back({menu, kPDEControlPopUp, keyword, nullptr, nullptr, "", int16_t(kind), nullptr});

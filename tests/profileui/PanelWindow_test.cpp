@@ -1,4 +1,5 @@
 // The window as the panel opens it: the advanced pane's menus and rules follow what OK leaves behind.
+#include "platform/Bundle.h"
 #include "plugin/PDEPlugInInterface.h"
 #include "profileui/ProfileWindowFixture.h"
 
@@ -20,6 +21,7 @@ protected:
         callback.settings = &ticket;
         callback.session = &session;
         callback.ppd = ppd.get();
+        setPluginBundle({QStringLiteral("/bundle"), {}});
         panel = std::make_unique<PDEPlugInInterface>(&callback);
         view = panel->panelView();
         ASSERT_TRUE(view);
