@@ -1,4 +1,4 @@
-// Copies and page range, and the check of the range while it is typed.
+// Copies and page range. The range is checked while the user types.
 #include "dialog/JobRows.h"
 
 #include "jobs/PageRange.h"
@@ -48,7 +48,7 @@ JobRows::JobRows(QWidget *parent)
             m_somePages->setChecked(true);
     });
     connect(m_range, &QLineEdit::textChanged, this, &JobRows::update);
-    // Choosing "Pages" by mouse or key means to type a range next.
+    // A user who selects "Pages" wants to type a range next.
     connect(m_somePages, &QRadioButton::clicked, m_range, [this] { m_range->setFocus(); });
     update();
 }

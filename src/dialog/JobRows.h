@@ -1,4 +1,4 @@
-// The rows for what belongs to one job only and is never remembered: copies and page range.
+// The rows for copies and page range. They apply to one job and are never remembered.
 #pragma once
 
 #include "jobs/JobSink.h"
@@ -22,10 +22,10 @@ public:
 
     explicit JobRows(QWidget *parent = nullptr);
 
-    // The job's options: "copies" where there are more than one, "page-ranges" where not all pages print. Only to be
-    // asked for while problem() is empty.
+    // Returns "copies" when more than one is wanted, and "page-ranges" when not all pages are printed. Valid only while
+    // problem() is empty.
     JobOptions options() const;
-    // A sentence for people that says what is wrong with the page range; empty when all is well.
+    // A sentence for the user about a wrong page range. Empty when the range is valid.
     QString problem() const;
 
     QSpinBox *copies() const { return m_copies; }

@@ -1,4 +1,4 @@
-// One thread that asks for one PPD after the other: a queue whose server is slow holds nobody up.
+// One thread fetches one PPD after another, so a slow print server does not block the window.
 #include "dialog/PaneSurvey.h"
 
 #include <algorithm>
@@ -23,7 +23,7 @@ PaneSurvey::PaneSurvey(const QueueSource &source, QStringList queues, QStringLis
             if (m_stop)
                 return;
             const Result<PpdFile> ppd = source.ppd(queue);
-            // The signal reaches its receivers through their own event loop.
+            // The signal is queued, since its receivers live in another thread.
             if (!ppd)
                 emit withoutPane(queue, ppd.error());
             else if (!hasAny(ppd.value().handle(), keys))

@@ -1,4 +1,4 @@
-// Looks through the queues in the background and finds those for which a panel has nothing to show.
+// Checks the queues in the background and reports those that have none of the panel's options.
 #pragma once
 
 #include "queues/QueueSource.h"
@@ -15,16 +15,17 @@ class PaneSurvey : public QObject
     Q_OBJECT
 
 public:
-    // The source must outlive the survey. Keys: the PPD options that the panel is for.
+    // The source must outlive the survey. `keys` are the PPD options that the panel serves.
     PaneSurvey(const QueueSource &source, QStringList queues, QStringList keys, QObject *parent = nullptr);
-    // Ends after the queue that is being looked at.
+    // Waits until the queue being checked is done.
     ~PaneSurvey() override;
 
-    // Begins to look. Connect first: what is found before that is told to nobody.
+    // Starts the check. Connect the signal first: earlier results would be lost.
     void start();
 
 signals:
-    // Sent on the thread that the survey lives in. Without a PPD, error says why; else the PPD has none of the options.
+    // Sent on the thread that the survey lives in. `error` says why the queue has no PPD; it is empty when there is a
+    // PPD without any of the options.
     void withoutPane(const QString &queue, const QString &error);
 
 private:

@@ -1,4 +1,4 @@
-// The panel's life in the dialog, and who owns its view when.
+// Creates and ends a panel, and passes on the ownership of its view.
 #include "dialog/PanelHolder.h"
 
 #include <algorithm>

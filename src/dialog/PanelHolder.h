@@ -1,4 +1,4 @@
-// Keeps one panel and its view from the first call to the last, by nothing but the host protocol.
+// Owns one panel and its view for their whole life. Uses only the host protocol.
 #pragma once
 
 #include "platform/HostProtocol.h"
@@ -15,24 +15,24 @@ class PanelHolder : public QObject
 
 public:
     explicit PanelHolder(std::unique_ptr<PrintPanel> panel);
-    // Takes the view out of the window, tells the panel that it ends, and lets it go. The callback object and the
-    // plug-in must still be there.
+    // Takes the view out of the window, tells the panel to end, and deletes it. The callback object and the plug-in
+    // must still exist.
     ~PanelHolder() override;
 
     PrintPanel &panel() { return *m_panel; }
 
-    // Whether the PPD has any of the options that the panel is for.
+    // True if the PPD has any of the panel's options.
     bool serves(ppd_file_t *ppd);
 
-    // Asks for the view, which may wait for the network, puts it into an area of the holder's, and restores the values.
-    // Returns a sentence for people when the panel gives no view or takes no values; empty when all is well.
+    // Asks the panel for its view, puts the view into area(), and restores the values. May wait for the network.
+    // Returns a sentence for the user when the panel has no view or refuses the values; empty on success.
     QString prepare();
 
-    // The area with the view, to be placed in a window; null before prepare() and where it failed. The holder owns it.
+    // The scroll area with the view. Null before prepare() and after it failed. Owned by the holder.
     QWidget *area() const { return m_area; }
 
 signals:
-    // A control of the view reported a change; once a turn of the event loop.
+    // A control of the view changed. Sent at most once per turn of the event loop.
     void changed();
 
 private:

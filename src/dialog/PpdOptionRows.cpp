@@ -1,4 +1,4 @@
-// Builds the rows from the PPD through libcups, and keeps them, the ticket and the conflict line together.
+// Builds the rows from the PPD with libcups. Keeps rows, ticket and conflict line consistent.
 #include "dialog/PpdOptionRows.h"
 
 #include <QComboBox>
@@ -15,11 +15,11 @@ namespace {
 struct RowKind
 {
     const char *label;                  // with its mnemonic
-    const char *name;                   // within a sentence
-    std::vector<const char *> keywords; // the first that the PPD has counts
+    const char *name;                   // for use in a sentence
+    std::vector<const char *> keywords; // the first one that the PPD has is used
 };
 
-// The rows in the order in which they are shown. Some makers' PPDs have the option under a keyword of their own.
+// The rows in display order. Some makers' PPDs use a keyword of their own for the option.
 const std::vector<RowKind> &rowKinds()
 {
     // clang-format off
@@ -45,7 +45,7 @@ QString optionText(const ppd_option_t &option)
     return text.isEmpty() ? QString::fromUtf8(option.keyword) : text;
 }
 
-// Puts a pop-up on a choice by keyword; false when it has no such item.
+// Selects a choice by keyword. False if the pop-up has no such item.
 bool choose(QComboBox *popUp, const QString &choice)
 {
     const int index = popUp->findData(choice);
@@ -173,7 +173,7 @@ void PpdOptionRows::markEverything(PMPrintSettings settings)
     }
 }
 
-// One sentence for each row in conflict, naming the options that have a part in it.
+// One sentence for each row in conflict. It names all options involved.
 QStringList PpdOptionRows::conflictSentences() const
 {
     QStringList sentences;

@@ -1,5 +1,5 @@
-// The dialog's own rows for what a PPD says about paper, tray, two-sided printing and resolution. Their choices are
-// top-level strings of the ticket under the PPD's keyword.
+// The dialog's own rows for paper size, tray, two-sided printing and resolution. The choices come from the PPD. The
+// ticket holds them as top-level strings under the PPD's keywords.
 #pragma once
 
 #include "platform/PrintSettings.h"
@@ -20,30 +20,31 @@ class PpdOptionRows : public QWidget
     Q_OBJECT
 
 public:
-    // One row for each of the options that the PPD has; none without a PPD. The rows mark choices in the PPD when they
-    // look for conflicts, so it is one that no panel sees; it is borrowed and must outlive the rows.
+    // Makes one row for each of these options that the PPD has. A null PPD gives no rows. The PPD is borrowed and must
+    // outlive the rows. Looking for conflicts marks choices in it, so no panel may use the same PPD.
     explicit PpdOptionRows(ppd_file_t *ppd, QWidget *parent = nullptr);
 
-    // Takes the rows' choices from the ticket; a row whose entry is missing or names no choice shows the PPD's default.
+    // Sets the rows from the ticket. A row shows the PPD's default when its entry is missing or names an unknown
+    // choice.
     void readFrom(PMPrintSettings settings);
-    // Writes every row's choice into the ticket, so that the job says what the rows show.
+    // Writes the choice of every row into the ticket, so that the job contains all that the rows show.
     void writeTo(PMPrintSettings settings) const;
-    // Puts every row on the PPD's default.
+    // Sets every row to the PPD's default.
     void restoreDefaults();
 
-    // Looks at the rows together with the ticket's other choices and says in a line below the rows which of the rows'
-    // choices do not go together with what; empty and hidden without such a conflict.
+    // Checks the rows against the ticket's other choices. Describes the conflicts in a line below the rows; the line is
+    // hidden when there are none.
     void updateConflicts(PMPrintSettings settings);
     QString conflictText() const;
-    // Whether the PPD rules out anything at all.
+    // True if the PPD has any constraints.
     bool hasConstraints() const;
 
-    // The PPD keywords of the rows, in order; the pop-up of each has its keyword as object name, with "row_" before it.
+    // PPD keywords of the rows, in order. The object name of a row's pop-up is "row_" and the keyword.
     QStringList keywords() const;
     QFormLayout *form() const { return m_form; }
 
 signals:
-    // The user chose something: the option's keyword and the choice's keyword.
+    // The user made a choice. Both arguments are PPD keywords.
     void choiceMade(const QString &keyword, const QString &choice);
 
 private:
@@ -51,7 +52,7 @@ private:
     {
         ppd_option_t *option = nullptr;
         QComboBox *popUp = nullptr;
-        QString name; // for sentences, without mnemonic
+        QString name; // without mnemonic, for use in sentences
     };
 
     void addRow(ppd_option_t *option, const QString &label, const QString &name);

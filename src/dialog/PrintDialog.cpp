@@ -1,4 +1,4 @@
-// The dialog's behaviour. Whatever may wait for the network runs after the window has said so and been painted.
+// The dialog's behavior. Any step that may wait for the network runs after the window has announced it and was painted.
 #include "dialog/PrintDialog.h"
 
 #include "dialog/JobRows.h"
@@ -28,14 +28,14 @@ namespace bv {
 
 namespace {
 
-// How long the user may rest on a queue, on the way through the list by keys, before it is opened.
+// A user who steps through the queue list by keys must stop on a queue this long before it is opened.
 constexpr int kRestMilliseconds = 200;
 
-// Room for pane and summary side by side where the screen has it.
+// Wide enough for pane and summary side by side, if the screen is.
 QSize startSize()
 {
     constexpr QSize kRoomy(1200, 680);
-    constexpr QSize kFrame(16, 48); // what a window manager puts around it
+    constexpr QSize kFrame(16, 48); // space for the window frame
     const QScreen *screen = QGuiApplication::primaryScreen();
     return screen ? kRoomy.boundedTo(screen->availableSize() - kFrame) : kRoomy;
 }
@@ -62,7 +62,7 @@ PrintDialog::PrintDialog(QueueSource &source, JobSink &sink, PanelLoader &loader
     m_parts->showQueue(nullptr, nullptr, QString(), tr("Looking for printers…"));
     m_parts->summary->showNote(QString());
     setBusy(true);
-    // Without documents the first thing to do is to add some; with them, Print is one key away.
+    // Without documents, adding some is the first thing to do. Otherwise the user can press Print at once.
     if (m_parts->documents->documents().isEmpty())
         m_parts->documents->addButton()->setFocus();
     else
@@ -73,7 +73,7 @@ PrintDialog::~PrintDialog()
 {
     setBusy(false);
     m_survey.reset();
-    // The panels take their views back while the window is still there to be left.
+    // Panels must take their views out of the window before it is destroyed.
     m_current = nullptr;
     m_rooms.clear();
 }
@@ -201,7 +201,8 @@ void PrintDialog::openQueue()
         return;
     }
     std::optional<PrintDictionary> ticket = m_remembered.load(m_current->queue().name);
-    // The ticket is for the first queue, whenever that opens: a second try starts from it as well.
+    // The given ticket belongs to the first queue. Keep its name, so that another try at opening it uses the ticket
+    // too.
     if (m_start.queue.isEmpty())
         m_start.queue = m_current->queue().name;
     if (m_start.ticket && m_current->queue().name == m_start.queue) {
@@ -312,7 +313,7 @@ void PrintDialog::refreshSummary()
     if (m_current && m_current->pane())
         m_parts->summary->showSummary(m_current->summary());
     else
-        m_parts->summary->showNote(m_current && !m_busy ? tr("There are no colour options to sum up.") : QString());
+        m_parts->summary->showNote(m_current && !m_busy ? tr("There are no color options to sum up.") : QString());
 }
 
 void PrintDialog::updateReadiness()

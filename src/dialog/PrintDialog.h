@@ -1,4 +1,4 @@
-// The print dialog's window: what the user does in it, and in which order the queues, the pane and the job follow.
+// The print dialog's window: user actions, and the order in which queues, pane and job are handled.
 #pragma once
 
 #include "jobs/JobSink.h"
@@ -18,11 +18,11 @@ class PanelLoader;
 class PrintDialogLayout;
 class QueueRoom;
 
-// What the command line asks of the dialog.
+// Settings from the command line.
 struct PrintDialogStart
 {
-    QString queue;                         // to choose; empty: the source's default one
-    std::optional<PrintDictionary> ticket; // to start from on that queue, in place of what is remembered
+    QString queue;                         // to choose; empty for the default queue
+    std::optional<PrintDictionary> ticket; // replaces the remembered ticket of that queue
     QStringList documents;
 };
 
@@ -31,23 +31,23 @@ class PrintDialog : public QDialog
     Q_OBJECT
 
 public:
-    // Source, sink, loader and remembered tickets must outlive the dialog; the plug-in is loaded.
+    // All four references must outlive the dialog. The plug-in must be loaded.
     PrintDialog(QueueSource &source, JobSink &sink, PanelLoader &loader, RememberedTickets &remembered,
                 PrintDialogStart start);
     ~PrintDialog() override;
 
-    // True once any queue could be opened. False at the end means that there was nothing to print to.
+    // True once a queue was opened. If it is still false at the end, there was no printer.
     bool hadPrinter() const { return m_hadPrinter; }
-    // Why Print is greyed, as shown; empty when it is not.
+    // The reason shown for a greyed Print button. Empty when the button is enabled.
     QString printReason() const;
-    // What the print server said, as shown; empty when all is well.
+    // The message shown in the message bar. Empty when there is none.
     QString messageText() const;
     const PrintDialogLayout &parts() const { return *m_parts; }
 
 signals:
-    // The chosen queue is shown, with its pane or the reason why it has none; or there is no queue to show.
+    // The chosen queue is shown with its pane or with the reason why it has none, or there is no queue.
     void ready();
-    // A job was taken; the note says where it went, where there is more to say. The dialog closes right after.
+    // The job was sent. The note says where it went; it may be empty. The dialog closes right after this.
     void printed(const QString &note);
 
 protected:
@@ -56,16 +56,16 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 public slots:
-    // Does nothing while a job is on its way: it would leave open whether the job was printed.
+    // Closes the dialog. Does nothing while a job is being sent, because nobody would learn whether it was printed.
     void reject() override;
 
 private:
     void connectParts();
     using Step = void (PrintDialog::*)();
-    // Runs a step after what the window says has been painted, in place of a step that is still waiting.
+    // Runs a step after the window was painted. Replaces a step that is still waiting.
     void afterPaint(Step step, int milliseconds = 0);
 
-    // The steps to a shown queue; each may wait for the network, and each is a turn of the event loop of its own.
+    // The steps that lead to a shown queue. Each may wait for the network and runs in its own turn of the event loop.
     void listQueues();
     void openQueue();
     void preparePane();
@@ -91,11 +91,11 @@ private:
     PrintDialogLayout *m_parts;
 
     std::vector<std::unique_ptr<QueueRoom>> m_rooms;
-    QueueRoom *m_current = nullptr; // one of m_rooms; null: none is chosen
+    QueueRoom *m_current = nullptr; // one of m_rooms, or null
     std::unique_ptr<PaneSurvey> m_survey;
     QTimer m_stepTimer;
-    Step m_step = nullptr; // what comes when the timer fires
-    QString m_noQueue;     // why there is no current queue, once that is known
+    Step m_step = nullptr; // runs when the timer fires
+    QString m_noQueue;     // why there is no current queue; empty while unknown
     QString m_openFailure; // why the current queue cannot be opened
     bool m_begun = false;
     bool m_busy = false;

@@ -1,4 +1,4 @@
-// Builds the window's layout, keeps its tab order, and moves the summary when the window's width allows it.
+// Builds the layout, keeps the tab order, and moves the summary when the window's width changes.
 #include "dialog/PrintDialogLayout.h"
 
 #include "dialog/JobRows.h"
@@ -27,8 +27,7 @@ namespace bv {
 
 namespace {
 
-// Widths in average characters: of the side, of a summary that stands by itself, and what the pane is given before the
-// summary may stand so.
+// Widths in average characters: the side, a summary beside the pane, and the pane's minimum for that.
 constexpr int kSideCharacters = 44;
 constexpr int kWidestSideCharacters = 58;
 constexpr int kSummaryCharacters = 44;
@@ -95,12 +94,12 @@ QWidget *PrintDialogLayout::makeSide()
     inner->addWidget(job);
     inner->addWidget(m_rows);
     inner->addStretch(1);
-    // The focus frames of the controls at the edge need a little room.
+    // Leaves room for the focus frames of controls at the edge.
     inner->setContentsMargins(2, 2, 4, 2);
     m_settings->setWidget(content);
 
     m_sideColumn = column(side);
-    // The settings take what they need, the summary the rest.
+    // The settings take the height they need, the summary takes the rest.
     m_settings->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     m_sideColumn->addWidget(m_settings);
     m_sideColumn->addWidget(makeSummary(), 1);
@@ -173,7 +172,7 @@ void PrintDialogLayout::showQueue(PpdOptionRows *rows, QWidget *pane, const QStr
     if (rows && m_rows->indexOf(rows) < 0)
         m_rows->addWidget(rows);
     m_rows->setCurrentWidget(rows ? static_cast<QWidget *>(rows) : m_noRows);
-    // Only the rows in sight are to take room.
+    // Hidden rows must not take up space.
     for (int i = 0; i < m_rows->count(); ++i) {
         const bool shown = i == m_rows->currentIndex();
         m_rows->widget(i)->setSizePolicy(QSizePolicy::Preferred, shown ? QSizePolicy::Preferred : QSizePolicy::Ignored);
@@ -230,7 +229,7 @@ void PrintDialogLayout::placeSummary()
     setTabOrders();
 }
 
-// Longer texts, in another language or a PPD, make the side wider, up to where the pane needs the room.
+// Makes the side wider for longer texts (another language, another PPD), but leaves the pane the room it needs.
 void PrintDialogLayout::widenSide()
 {
     const int character = fontMetrics().averageCharWidth();
@@ -239,8 +238,8 @@ void PrintDialogLayout::widenSide()
     m_side->setFixedWidth(std::clamp(content, character * kSideCharacters, character * kWidestSideCharacters));
 }
 
-// Widgets that come into the window later stand at the end of the chain; whatever belongs behind them is put there
-// anew, so that the pane's own order stays as its maker made it.
+// New widgets are added at the end of the tab chain. Everything that belongs behind them is appended again, so that the
+// order inside the pane stays unchanged.
 void PrintDialogLayout::setTabOrders()
 {
     const QList<QWidget *> behind = {summary, restore, cancel, print};
@@ -259,7 +258,7 @@ void PrintDialogLayout::setTabOrders()
     }
 }
 
-// The two forms at the side stand one above the other: their fields are to begin at one edge.
+// Aligns the fields of the two forms at the side.
 void PrintDialogLayout::alignLabels(PpdOptionRows *rows)
 {
     QList<QLabel *> labels = labelsOf(job->form());

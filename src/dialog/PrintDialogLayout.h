@@ -1,5 +1,5 @@
-// Where everything of the print dialog's window stands: printer on top, the job's settings and the summary at the
-// side, the pane in the middle, the buttons below.
+// The layout of the print dialog's window: printer at the top, job settings and summary at the side, pane in the
+// middle, buttons at the bottom.
 #pragma once
 
 #include <QWidget>
@@ -38,10 +38,10 @@ public:
     QPushButton *print = nullptr;
     ReasonLabel *reason = nullptr;
 
-    // Shows the rows and the pane of one queue; null rows: none, null pane: the sentence in its place. What was shown
-    // before stays in the window, hidden, until its owner takes it out.
+    // Shows the rows and the pane of one queue. `rows` may be null. Shows the sentence instead of a null pane. The
+    // widgets shown before stay in the window, hidden, until their owner removes them.
     void showQueue(PpdOptionRows *rows, QWidget *pane, const QString &paneName, const QString &sentence);
-    // The sentence in the pane's place; empty while a pane is there.
+    // The sentence shown instead of a pane. Empty while a pane is shown.
     QString placeText() const;
 
 protected:
@@ -53,7 +53,7 @@ private:
     QWidget *makePlace();
     QWidget *makeSummary();
     QBoxLayout *makeButtons(QDialog *dialog);
-    // Moves the summary below the job's settings or, where the window is wide, to the pane's other side.
+    // Puts the summary beside the pane in a wide window, else below the job's settings.
     void placeSummary();
     void widenSide();
     void setTabOrders();
@@ -63,7 +63,7 @@ private:
     QBoxLayout *m_sideColumn = nullptr;
     QWidget *m_side = nullptr;
     QWidget *m_summaryBox = nullptr;
-    PaneArea *m_settings = nullptr; // in it all of the side but the summary
+    PaneArea *m_settings = nullptr; // holds everything at the side but the summary
     QStackedWidget *m_rows = nullptr;
     QStackedWidget *m_place = nullptr;
     QWidget *m_placeNote = nullptr;

@@ -1,4 +1,4 @@
-// From a request to a shown dialog, and from its end to the exit status.
+// Opens the dialog for a request and turns its result into an exit status.
 #include "dialog/PrintDialogRunner.h"
 
 #include "dialog/PrintDialog.h"
@@ -17,7 +17,7 @@ namespace bv {
 
 namespace {
 
-// The smallest screen that the window is made for; pictures show it so.
+// The smallest supported screen; pictures are taken at this size.
 constexpr QSize kPictureSize(1024, 600);
 
 int badStart(const QString &sentence)
@@ -26,16 +26,16 @@ int badStart(const QString &sentence)
     return 2;
 }
 
-// Writes a picture of the dialog once it is ready, and closes it.
+// Saves a picture of the dialog once it is ready, and closes it.
 void takePicture(PrintDialog &dialog, const QString &path, int &status)
 {
     dialog.resize(kPictureSize);
     QObject::connect(
         &dialog, &PrintDialog::ready, &dialog,
         [&dialog, path, &status] {
-            // One more turn, so that the layout has settled.
+            // Waits one more turn of the event loop for the layout.
             QTimer::singleShot(0, &dialog, [&dialog, path, &status] {
-                // Without a buffer, whose last write would fail unseen.
+                // Unbuffered, because errors in a last buffered write would go unnoticed.
                 QFile file(path);
                 if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !dialog.grab().save(&file, "PNG"))
                     status = badStart(QStringLiteral("The picture %1 cannot be written.").arg(path));
@@ -87,7 +87,7 @@ int runPrintDialog(const WindowRequest &request, PanelLoader &loader)
     dialog.exec();
     if (dialog.hadPrinter())
         return status;
-    // Who started it from a script, for a picture say, saw no window.
+    // A script that takes a picture shows no window, so the reason goes to standard error.
     return badStart(dialog.messageText().isEmpty() ? dialog.printReason() : dialog.messageText());
 }
 

@@ -9,16 +9,16 @@ namespace bv {
 
 class PanelLoader;
 
-// What the window is opened for.
+// The settings for one run of the window.
 struct WindowRequest
 {
     SessionRequest session;
     QStringList documents;
-    QString screenshot; // a PNG file for a picture of the ready window, which is then closed; empty: none
+    QString screenshot; // PNG file: saves a picture of the ready window and closes it; empty: none
 };
 
-// Runs the dialog until it is closed; the exit status of the program. The application object exists, and the plug-in is
-// loaded.
+// Runs the dialog until it is closed and returns the program's exit status. The application object must exist and the
+// plug-in must be loaded.
 int runPrintDialog(const WindowRequest &request, PanelLoader &loader);
 
 } // namespace bv

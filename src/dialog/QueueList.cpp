@@ -1,4 +1,4 @@
-// Fills the pop-up of printers and words the line beside it.
+// Fills the pop-up of printers and the line beside it.
 #include "dialog/QueueList.h"
 
 #include <QComboBox>
@@ -20,7 +20,7 @@ QString itemText(const PrintQueue &queue)
                : QueueList::tr("%1 (%2)", "description and name of a printer").arg(queue.description, queue.name);
 }
 
-// Where the printer stands and what state it is in.
+// Location and state of the printer.
 QString noteText(const PrintQueue &queue)
 {
     QStringList parts;
@@ -93,7 +93,7 @@ void QueueList::markWithoutPane(const QString &queue, const QString &reason)
     if (index < 0 || !m_popUp->itemData(index, Qt::ToolTipRole).toString().isEmpty())
         return;
     m_popUp->setItemData(index, reason, Qt::ToolTipRole);
-    m_popUp->setItemText(index, tr("%1: no colour options").arg(m_popUp->itemText(index)));
+    m_popUp->setItemText(index, tr("%1: no color options").arg(m_popUp->itemText(index)));
 }
 
 void QueueList::showNote()

@@ -1,4 +1,4 @@
-// The list of printers: every queue, with a line that says what is to be known about the chosen one.
+// The list of printers, with a line about the chosen one.
 #pragma once
 
 #include "queues/PrintServer.h"
@@ -17,13 +17,13 @@ class QueueList : public QWidget
 public:
     explicit QueueList(QWidget *parent = nullptr);
 
-    // Shows other queues in place of the old ones; none of them is chosen, and nothing is told.
+    // Replaces the queues. Afterwards none is chosen. Sends no signal.
     void setQueues(const std::vector<PrintQueue> &queues);
-    // Chooses a queue by name and tells nobody; false when there is none of that name.
+    // Chooses a queue by name without sending a signal. False if there is no such queue.
     bool choose(const QString &queue);
-    // Name of the chosen queue; empty when none is.
+    // Name of the chosen queue, or empty.
     QString chosen() const;
-    // Says in the list that a queue has no pane, and in its tool tip why.
+    // Marks a queue that has no pane; its tool tip gives the reason.
     void markWithoutPane(const QString &queue, const QString &reason);
 
     QComboBox *popUp() const { return m_popUp; }

@@ -1,4 +1,4 @@
-// What is done with one queue, step by step.
+// The steps for one queue: opening, preparing the pane, printing.
 #include "dialog/QueueRoom.h"
 
 #include "queues/PanelLoader.h"
@@ -7,7 +7,7 @@ namespace bv {
 
 QString noPaneSentence(const QString &queueTitle)
 {
-    return QueueRoom::tr("“%1” has no colour options: its driver does not offer any that this dialog knows. You can "
+    return QueueRoom::tr("“%1” has no color options: its driver does not offer any that this dialog knows. You can "
                          "print with its other settings.")
         .arg(queueTitle);
 }
@@ -25,7 +25,7 @@ QString QueueRoom::open(QueueSource &source, const std::optional<PrintDictionary
     Result<PpdFile> panelPpd = source.ppd(m_queue.name);
     if (!panelPpd)
         return panelPpd.error();
-    // The rows mark choices when they look for conflicts, and the panel is to find its PPD as it was.
+    // The rows need a PPD of their own: they mark choices to find conflicts, and the panel must not see these marks.
     Result<PpdFile> rowsPpd = source.ppd(m_queue.name);
     if (!rowsPpd)
         return rowsPpd.error();
@@ -45,7 +45,7 @@ void QueueRoom::preparePane(PanelLoader &loader)
     m_state = State::Ready;
     std::unique_ptr<PrintPanel> panel = loader.printerPanel(m_session.get());
     if (!panel) {
-        m_noPaneReason = tr("“%1” has no colour options: the plug-in offers none. Install it anew to have them.")
+        m_noPaneReason = tr("“%1” has no color options: the plug-in offers none. Install it anew to have them.")
                              .arg(queueTitle(m_queue));
         return;
     }
@@ -94,7 +94,7 @@ void QueueRoom::updateConflicts()
 {
     if (!m_rows || !m_rows->hasConstraints())
         return;
-    // A panel that refuses now is asked again, and heard, before anything is printed.
+    // A refusal is ignored here. Before printing the panel is asked again, and then it counts.
     if (m_holder)
         m_holder->panel().saveValuesAndReturnError(nullptr);
     m_rows->updateConflicts(m_session->printSettings());

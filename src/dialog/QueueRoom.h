@@ -1,4 +1,4 @@
-// All that the dialog keeps for one queue while it is open: session and ticket, its own option rows, the panel.
+// Everything that the dialog keeps for one queue while it is open: session, ticket, option rows and panel.
 #pragma once
 
 #include "dialog/PanelHolder.h"
@@ -16,61 +16,61 @@ class QueueRoom : public QObject
     Q_OBJECT
 
 public:
-    // What has been done for the queue so far.
+    // How far the queue has been prepared.
     enum class State {
         Listed, // known by name only
-        Opened, // session and rows are there
-        Ready,  // the pane is there, or it is known why there is none
+        Opened, // session and rows exist
+        Ready,  // the pane exists, or it is known why it does not
     };
 
     explicit QueueRoom(PrintQueue queue);
-    // Rows and panel leave the window that they were put in.
+    // Removes rows and panel from the window.
     ~QueueRoom() override;
 
     const PrintQueue &queue() const { return m_queue; }
     State state() const { return m_state; }
 
-    // Fetches the PPD, makes session and rows, and fills the ticket. May wait for the network. Returns a sentence for
-    // people on a failure; the room is then as before.
+    // Fetches the PPD, creates session and rows, and fills the ticket. May wait for the network. On a failure returns a
+    // sentence for the user and leaves the room as it was.
     QString open(QueueSource &source, const std::optional<PrintDictionary> &ticket);
-    // Makes the panel and its view. May wait for the network. Never fails: where there is no pane, noPaneReason() says
+    // Creates the panel and its view. May wait for the network. Never fails: when there is no pane, noPaneReason() says
     // why.
     void preparePane(PanelLoader &loader);
 
-    // The dialog's rows; null before open(). Owned here.
+    // The option rows. Null before open(). Owned by the room.
     PpdOptionRows *rows() const { return m_rows; }
-    // The area with the panel's view; null where there is none.
+    // The area with the panel's view, or null.
     QWidget *pane() const { return m_holder ? m_holder->area() : nullptr; }
-    // The panel's own name for itself, localised; empty without a panel.
+    // The panel's localized name. Empty without a panel.
     QString paneName() const { return m_paneName; }
-    // The PPD options that the panel is for; empty without a panel.
+    // The PPD options that the panel serves. Empty without a panel.
     QStringList paneKeys() const { return m_paneKeys; }
     QString noPaneReason() const { return m_noPaneReason; }
-    // A sentence about values that the panel did not take; empty when it took all.
+    // A sentence for the user when the panel refused some values, else empty.
     QString paneWarning() const { return m_paneWarning; }
 
-    // Tell the panel that its view comes into sight or leaves it. leave() answers false when the panel refuses.
+    // Tell the panel that its view is about to be shown or hidden. leave() returns false when the panel refuses.
     void enter();
     bool leave();
-    // Has the panel write its values into the ticket; a sentence for people when it cannot.
+    // Has the panel write its values into the ticket. Returns a sentence for the user when it cannot.
     QString saveValues();
 
-    // What the panel says of its settings; an empty dictionary without a panel.
+    // The panel's summary. An empty dictionary without a panel.
     PrintDictionary summary();
-    // Has the panel write its choices into the ticket and looks whether they and the rows' go together.
+    // Has the panel write its choices into the ticket and checks whether they conflict with the rows.
     void updateConflicts();
-    // To be called when the user chose something in the rows: looks for conflicts again and tells the panel.
+    // Call this when the user made a choice in the rows. Checks for conflicts again and tells the panel.
     void choiceMade(const QString &keyword, const QString &choice);
-    // Empties the ticket and puts panel and rows on their defaults.
+    // Empties the ticket and sets panel and rows to their defaults.
     void restoreDefaults();
-    // Sends the documents with the ticket's and the extra options. On a failure nothing is printed, and every choice
-    // stays.
+    // Sends the documents with the options of the ticket and the extra ones. On a failure nothing is printed and all
+    // choices stay.
     Result<PrintedJob> print(JobSink &sink, const QStringList &documents, const JobOptions &extra);
-    // The ticket as it stands.
+    // The current ticket.
     const PrintDictionary &ticket() const { return m_session->ticket().entries(); }
 
 signals:
-    // A choice of the panel changed; once a turn of the event loop.
+    // A choice in the panel changed. Sent at most once per turn of the event loop.
     void panelChanged();
 
 private:
@@ -80,14 +80,15 @@ private:
     QStringList m_paneKeys;
     QString m_noPaneReason;
     QString m_paneWarning;
-    // In this order: the rows go before their PPD, the panel before its session.
+    // The order matters: members are destroyed from last to first, the panel before its session and the rows before
+    // their PPD.
     std::optional<PpdFile> m_rowsPpd;
     QPointer<PpdOptionRows> m_rows;
     std::unique_ptr<QueueSession> m_session;
     std::unique_ptr<PanelHolder> m_holder;
 };
 
-// Why a panel with these keys has nothing to show for a PPD, in a sentence for people.
+// A sentence for the user that says why there is no pane for this queue.
 QString noPaneSentence(const QString &queueTitle);
 
 } // namespace bv

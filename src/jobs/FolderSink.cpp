@@ -1,4 +1,4 @@
-// Jobs that stay in a folder.
+// Stores jobs in folders.
 #include "jobs/FolderSink.h"
 
 #include "queues/StateFolder.h"
@@ -44,7 +44,7 @@ Result<std::optional<int>> FolderSink::submit(const JobRequest &request)
     file.close();
     for (qsizetype i = 0; i < request.documents.size(); ++i) {
         const QFileInfo document(request.documents[i]);
-        // Documents of one name from several folders are kept apart by their number.
+        // The number keeps documents apart that have the same name in different folders.
         const QString copy = job.filePath(QStringLiteral("%1-%2").arg(i + 1).arg(document.fileName()));
         if (!QFile::copy(document.filePath(), copy))
             return Sent::failure(tr("The document %1 cannot be copied to %2.").arg(document.filePath(), copy));

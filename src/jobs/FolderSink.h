@@ -1,18 +1,18 @@
-// Stands in for a print server: leaves each job in a folder of its own.
+// Takes the place of a print server: stores each job in a folder of its own.
 #pragma once
 
 #include "jobs/JobSink.h"
 
 namespace bv {
 
-// Folders are called "job-1" and up; each holds the options in "options.json" and copies of the documents. Without a
-// folder the sink only takes the job.
+// Job folders are named "job-1", "job-2" and so on. Each holds the options in "options.json" and copies of the
+// documents. With an empty folder name, jobs are accepted and dropped.
 class FolderSink final : public JobSink
 {
 public:
     explicit FolderSink(QString folder = QString()) : m_folder(std::move(folder)) {}
     Result<std::optional<int>> submit(const JobRequest &request) override;
-    // Names the folder of the job that was submitted last; empty before, and without a folder.
+    // Names the folder of the last job. Empty before the first job, and without a folder.
     QString sentNote() const override;
 
 private:
@@ -20,7 +20,7 @@ private:
     QString m_lastJobFolder;
 };
 
-// The folder for jobs where no print server is asked: BVPRINT_OUTPUT from the environment, or "bvprint-jobs" in the
+// The folder for jobs when there is no print server: BVPRINT_OUTPUT from the environment, else "bvprint-jobs" in the
 // user's state folder.
 QString demoOutputFolder();
 

@@ -1,4 +1,4 @@
-// A print job before it is sent, and what takes it.
+// A print job, and the interface of its receivers.
 #pragma once
 
 #include "platform/Result.h"
@@ -9,25 +9,25 @@
 
 namespace bv {
 
-// Options by keyword, as they are sent.
+// Values by keyword, as they are sent.
 using JobOptions = std::map<QString, QString>;
 
 struct JobRequest
 {
     QString queue;
     QString title;
-    QStringList documents; // paths; several are one job, in this order
+    QStringList documents; // paths; all are printed in one job, in this order
     JobOptions options;
 };
 
-// Where jobs go. A sink reports a failure in a sentence for people, and then nothing is printed.
+// A receiver of jobs. On a failure it returns a sentence for the user, and nothing is printed.
 class JobSink
 {
 public:
     virtual ~JobSink() = default;
-    // The number of the job where it got one.
+    // Returns the job's number, if the receiver gives it one.
     virtual Result<std::optional<int>> submit(const JobRequest &request) = 0;
-    // What to tell the user about the job that was taken last, beyond that it was; may be empty.
+    // An additional message for the user about the last job. May be empty.
     virtual QString sentNote() const { return {}; }
 };
 

@@ -1,4 +1,4 @@
-// Reads page ranges: one run after the other, then sorting and joining.
+// Reads page ranges run by run, then sorts and joins them.
 #include "jobs/PageRange.h"
 
 #include <QCoreApplication>
@@ -15,7 +15,7 @@ QString tr(const char *text)
     return QCoreApplication::translate("PageRange", text);
 }
 
-// The text with all digits as ASCII, all dashes as "-", all separators as "," and no blanks around any of them.
+// Converts digits to ASCII, dashes to "-" and separators to ",", and removes the blanks around them.
 QString simplified(const QString &text)
 {
     static const QString kDashes = QStringLiteral("\u2010\u2011\u2012\u2013\u2014\u2212");
@@ -34,7 +34,7 @@ QString simplified(const QString &text)
     return plain;
 }
 
-// A page number; nothing when the text is none. Numbers beyond the open end count as the open end.
+// Reads a page number. Nothing when the text is not a number. Numbers above kOpenEnd become kOpenEnd.
 std::optional<int> pageNumber(const QString &text)
 {
     if (text.isEmpty() || !std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; }))
@@ -66,7 +66,7 @@ std::optional<PageRun> readRun(const QString &text, QString *error)
     return PageRun{*first, *last};
 }
 
-// Whether a run begins within another or right behind it.
+// True if `run` begins inside `before` or directly after it.
 bool touches(const PageRun &before, const PageRun &run)
 {
     return before.last == PageRun::kOpenEnd || run.first <= before.last + 1;

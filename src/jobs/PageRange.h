@@ -1,4 +1,4 @@
-// Page ranges as people write them ("1-3, 8-"), checked and brought into the form that the print server takes.
+// Reads page ranges as users write them ("1-3, 8-"), checks them, and converts them to the print server's form.
 #pragma once
 
 #include <QString>
@@ -6,7 +6,7 @@
 
 namespace bv {
 
-// One run of pages, first to last, both counted from 1. An open run ends with the document.
+// Consecutive pages from first to last, counted from 1. With kOpenEnd the run goes up to the last page of the document.
 struct PageRun
 {
     static constexpr int kOpenEnd = 2147483647;
@@ -17,20 +17,21 @@ struct PageRun
     bool operator==(const PageRun &) const = default;
 };
 
-// What was made of a text: the runs in ascending order, without overlaps, or a sentence for people that says what is
-// wrong with it (then there are no runs).
+// The result of reading a text: sorted runs that do not overlap, or a sentence for the user about the mistake (then
+// there are no runs).
 struct PageRange
 {
     std::vector<PageRun> runs;
     QString error;
 
     bool isValid() const { return error.isEmpty(); }
-    // "1-3,8-", the syntax of the job attribute "page-ranges" on a command line.
+    // The syntax of the job attribute "page-ranges" on a command line, for example "1-3,8-".
     QString toOption() const;
 };
 
-// Reads a list of pages and runs ("3", "1-4", "8-", "-2") between commas or semicolons, with any digits and dashes.
-// The print server wants ascending runs that do not overlap (RFC 8011, 5.2.7), so they are sorted and joined here.
+// Reads pages and runs ("3", "1-4", "8-", "-2") separated by commas or semicolons. Any Unicode digits and dashes are
+// accepted. Sorts and joins the runs, because the print server requires ascending runs without overlaps (RFC 8011,
+// 5.2.7).
 PageRange parsePageRange(const QString &text);
 
 } // namespace bv

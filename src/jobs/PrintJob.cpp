@@ -1,4 +1,4 @@
-// From a ticket to a submitted job.
+// Turns a ticket into a submitted job.
 #include "jobs/PrintJob.h"
 
 #include "jobs/StandardAttributes.h"

@@ -1,4 +1,4 @@
-// Makes a job's options of a ticket, and prints: checks the documents, lets the panel have its say, submits.
+// Makes a job's options from a ticket, and prints: checks the documents, asks the panel, submits the job.
 #pragma once
 
 #include "jobs/JobSink.h"
@@ -8,25 +8,26 @@ namespace bv {
 
 class QueueSession;
 
-// Each string at the ticket's top level as it is and each integer there in decimal; nothing else of the ticket.
+// The strings and integers at the ticket's top level; integers in decimal. Ignores all other entries.
 JobOptions ticketOptions(const PrintDictionary &ticket);
 
-// The ticket's options and the standard attributes that keep the print server from adding what contradicts them. An
-// attribute that is among the extra ones or in the ticket already stays as it is; the extra ones win over the ticket.
+// The ticket's options, the extra options, and standard attributes that keep the print server from adding defaults that
+// contradict them. Extra options override the ticket. Attributes that are set already stay as they are.
 JobOptions jobOptions(const PrintDictionary &ticket, ppd_file_t *ppd, const JobOptions &extra = {});
 
-// A sentence for the first document that cannot be printed (missing, not readable, a folder); empty when all can.
+// A sentence for the user about the first document that cannot be printed (missing, unreadable, a folder). Empty when
+// all can be printed.
 QString checkDocuments(const QStringList &documents);
 
-// What was sent.
+// A job that was sent.
 struct PrintedJob
 {
-    std::optional<int> id; // the print server's number for it
+    std::optional<int> id; // the print server's job number, if there is one
     JobOptions options;
 };
 
-// What the Print button does: checks the documents before anything is changed, has the panel save its values and asks
-// whether printing may go on, then submits. The panel may be null: then the ticket is sent as it is.
+// Prints as the Print button does. Checks the documents before anything is changed, has the panel save its values, asks
+// it whether to print, then submits. The panel may be null; then the ticket is sent unchanged.
 Result<PrintedJob> printDocuments(QueueSession &session, PrintPanel *panel, JobSink &sink, const QStringList &documents,
                                   const JobOptions &extra = {});
 

@@ -26,7 +26,7 @@ struct IppDelete
 };
 using IppMessage = std::unique_ptr<ipp_t, IppDelete>;
 
-// What people read when the server refuses. %1 is the queue, %2 the document.
+// Messages for the user when the server refuses. %1 is the queue, %2 the document.
 struct Refusal
 {
     ipp_status_t status;
@@ -72,7 +72,7 @@ ipp_t *newRequest(ipp_op_t operation, const QString &queue)
     return request;
 }
 
-// Whether libcups has no type of its own for the option and so takes its value for a name.
+// True if libcups does not know the option's type. It then sends the value as a name.
 bool isUntyped(const QByteArray &keyword)
 {
     const IppMessage probe(ippNew());
@@ -84,8 +84,8 @@ bool isUntyped(const QByteArray &keyword)
     return attribute && ippGetValueTag(attribute) == IPP_TAG_NAME;
 }
 
-// Whether what reads the options again takes the value for what it is. A brace at the beginning opens a collection
-// there (cupsParseOptions): one that is not closed by the value's last character swallows the options behind it.
+// True if the value survives being parsed again on the server (cupsParseOptions). There, a brace at the beginning opens
+// a collection. If the last character does not close it, it swallows the options that follow.
 bool isCarried(const QString &value)
 {
     if (!value.startsWith(u'{'))
@@ -99,20 +99,21 @@ bool isCarried(const QString &value)
     return false;
 }
 
-// A blank or an equals sign ends a keyword there; what follows would be read as options and values of its own.
+// True if the keyword survives the same parser. A blank or an equals sign would end it, and the rest would be read as
+// other options.
 bool isCarriedKeyword(const QString &keyword)
 {
     return std::none_of(keyword.begin(), keyword.end(),
                         [](QChar character) { return character.isSpace() || character == u'='; });
 }
 
-// An option goes as libcups types it: numbers, keywords and ranges for the standard ones, a boolean for True and False.
-// But it takes untyped values apart (quotes, commas, a brace at the beginning), so those are added whole.
+// Lets libcups choose the type: integers, keywords and ranges for standard options, a boolean for True and False. But
+// libcups splits values of unknown options at quotes, commas and a leading brace, so these are added whole.
 void addOption(ipp_t *request, const QString &keyword, const QString &value)
 {
     QByteArray name = keyword.toUtf8();
     QByteArray text = value.toUtf8();
-    // An attribute without a name would be a further value of the one before it (RFC 8010, 3.1.5).
+    // An attribute without a name would be read as another value of the previous one (RFC 8010, 3.1.5).
     if (name.isEmpty())
         return;
     const bool isTruth =
@@ -125,8 +126,8 @@ void addOption(ipp_t *request, const QString &keyword, const QString &value)
     cupsEncodeOptions2(request, 1, &option, IPP_TAG_JOB);
 }
 
-// A sentence when the queue would not take a job now: it is gone, or takes none. One that is stopped takes jobs and
-// keeps them until it is resumed.
+// A sentence for the user when the queue accepts no jobs or no longer exists. A stopped queue accepts jobs and keeps
+// them until it is resumed.
 QString checkQueue(http_t *http, const QString &queue)
 {
     ipp_t *request = newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
@@ -140,7 +141,7 @@ QString checkQueue(http_t *http, const QString &queue)
                                                  : QString();
 }
 
-// The number of a new job without documents, or a sentence.
+// Creates a job without documents. Returns its number, or a sentence for the user.
 Result<int> createJob(http_t *http, const JobRequest &job)
 {
     ipp_t *request = newRequest(IPP_OP_CREATE_JOB, job.queue);
@@ -156,14 +157,14 @@ Result<int> createJob(http_t *http, const JobRequest &job)
     return ippGetInteger(number, 0);
 }
 
-// Sends one document; a sentence when it was not taken.
+// Sends one document. Returns a sentence for the user on a failure.
 QString sendDocument(http_t *http, const JobRequest &job, int number, const QString &path, bool isLast)
 {
     QFile file(path);
     const QString name = QFileInfo(path).fileName();
     if (!file.open(QIODevice::ReadOnly))
         return tr("The document %1 cannot be read: %2.").arg(path, file.errorString());
-    // The server would say no more than that there is no file.
+    // For an empty file the server would only say that there is no file.
     if (file.size() == 0)
         return tr("The document %1 is empty.").arg(path);
     const QByteArray queue = job.queue.toUtf8();
@@ -181,7 +182,7 @@ QString sendDocument(http_t *http, const JobRequest &job, int number, const QStr
     return answer > IPP_STATUS_OK_CONFLICTING ? refusal(answer, job.queue, name) : QString();
 }
 
-// Over a connection of its own: the one that the job came over may be what was lost.
+// Uses a new connection, since the job's own one may be broken.
 void cancelJob(const QString &queue, int number)
 {
     if (const Result<HttpConnection> http = PrintServer::connect())
@@ -213,7 +214,7 @@ Result<std::optional<int>> PrintServerSink::submit(const JobRequest &request)
             sendDocument(http, request, job.value(), request.documents[i], i + 1 == request.documents.size());
         if (error.isEmpty())
             continue;
-        // The server made the job before it saw the documents; without them it would wait for ever.
+        // The job exists on the server already and would wait for its documents for ever.
         cancelJob(request.queue, job.value());
         return Sent::failure(error);
     }

@@ -5,8 +5,8 @@
 
 namespace bv {
 
-// One job for all documents, their bytes as they are, each of the format that the server finds in them. A document that
-// is refused cancels the job.
+// Sends all documents in one job, byte by byte as they are. The server detects the format of each. If it refuses a
+// document, the whole job is canceled.
 class PrintServerSink final : public JobSink
 {
 public:

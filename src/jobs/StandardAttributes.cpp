@@ -1,4 +1,4 @@
-// The table of PPD choices that have a standard attribute beside them.
+// The table of PPD choices that have a matching standard attribute.
 #include "jobs/StandardAttributes.h"
 
 #include <array>
@@ -10,7 +10,7 @@ namespace {
 struct Row
 {
     const char *option;
-    const char *choice; // compared without regard to case, as libcups does
+    const char *choice; // case does not matter, as in libcups
     const char *attribute;
     const char *value;
 };
@@ -30,7 +30,7 @@ QString chosen(const JobOptions &options, ppd_file_t *ppd, const char *keyword)
     if (const auto found = options.find(QString::fromLatin1(keyword)); found != options.end())
         return found->second;
     ppd_option_t *option = ppd ? ppdFindOption(ppd, keyword) : nullptr;
-    // A default that names no choice of the option stands for none.
+    // Ignores a default that is not one of the option's choices.
     return option && ppdFindChoice(option, option->defchoice) ? QString::fromUtf8(option->defchoice) : QString();
 }
 

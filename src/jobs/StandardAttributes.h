@@ -1,4 +1,4 @@
-// The standard job attributes that say to the print server what a PPD option says to the printer.
+// The standard job attributes that tell the print server what a PPD option tells the printer.
 #pragma once
 
 #include "jobs/JobSink.h"
@@ -7,9 +7,9 @@
 
 namespace bv {
 
-// Adds the attributes that go with the options, or with the PPD's default where an option is not among them. A print
-// server fills in the attributes of PWG 5100.13 that a job lacks from what the printer can do, so a job in grays would
-// be announced as one in colours. An attribute that is among the options already stays. The PPD may be null.
+// Adds the attributes for the options; for an option that is missing, the PPD's default counts. Without them the print
+// server fills in missing attributes (PWG 5100.13) from the printer's capabilities, and a job in gray would be
+// announced as a color job. Attributes that are set already stay. The PPD may be null.
 void addStandardAttributes(JobOptions &options, ppd_file_t *ppd);
 
 } // namespace bv

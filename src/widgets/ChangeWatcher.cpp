@@ -1,4 +1,4 @@
-// Connects the generic signals of the toolkit's controls, and follows the tree of widgets as it grows.
+// Connects to the change signals of Qt's standard controls, and to widgets as they are added.
 #include "widgets/ChangeWatcher.h"
 
 #include <QAbstractButton>
@@ -110,7 +110,7 @@ void ChangeWatcher::watchModel(QAbstractItemView *view)
 
 bool ChangeWatcher::eventFilter(QObject *object, QEvent *event)
 {
-    // "Polished" comes once the child is wholly made, so that its kind can be seen.
+    // Qt sends ChildPolished when the child is fully constructed and its class is known.
     if (event->type() == QEvent::ChildPolished) {
         if (auto *child = qobject_cast<QWidget *>(static_cast<QChildEvent *>(event)->child()))
             watchTree(child);

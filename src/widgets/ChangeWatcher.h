@@ -1,5 +1,5 @@
-// Tells when any standard control below a widget reports a change, whoever made that widget and whenever the control
-// was made; several changes within one turn of the event loop are told once.
+// Reports changes of all standard controls below a widget, also of controls that are created later. Several changes in
+// one turn of the event loop are reported once.
 #pragma once
 
 #include <QObject>
@@ -19,7 +19,8 @@ class ChangeWatcher : public QObject
 public:
     explicit ChangeWatcher(QObject *parent = nullptr);
 
-    // Watches the widget and all that is or will be below it. The widget is not owned and may go at any time.
+    // Watches the widget and everything below it, now and later. The widget is not owned and may be deleted at any
+    // time.
     void watch(QWidget *root);
 
 signals:
@@ -31,7 +32,7 @@ protected:
 
 private:
     void watchTree(QWidget *widget);
-    // Whether the control is of a kind whose insides need no look of their own.
+    // Connects to a known kind of control. Returns true when its children need not be watched.
     bool watchControl(QWidget *widget);
     void watchModel(QAbstractItemView *view);
     void noteChange();

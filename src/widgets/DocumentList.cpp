@@ -1,4 +1,4 @@
-// The list of documents with its two buttons, and the rules of what may be added.
+// The list of documents, its two buttons, and the rules for adding files.
 #include "widgets/DocumentList.h"
 
 #include <QFileDialog>
@@ -16,7 +16,7 @@ namespace bv {
 
 namespace {
 
-// A list that says in its empty place how to fill it.
+// A list that shows a hint while it is empty.
 class HintedList : public QListWidget
 {
 public:
@@ -34,7 +34,7 @@ protected:
                          DocumentList::tr("Drop files here, or choose Add."));
     }
 
-    // A list's own hint is far taller than the few files of a job need.
+    // The default size hint is far too tall for the few files of a job.
     QSize sizeHint() const override { return {fontMetrics().averageCharWidth() * 30, fontMetrics().height() * 4}; }
     QSize minimumSizeHint() const override
     {
@@ -44,7 +44,7 @@ protected:
 
 constexpr int kPathRole = Qt::UserRole;
 
-// Why a file cannot be printed; empty when it can.
+// Why a file cannot be printed. Empty when it can.
 QString whyNot(const QFileInfo &file)
 {
     if (!file.exists())
@@ -161,7 +161,7 @@ void DocumentList::removeSelected()
     const QList<QListWidgetItem *> selected = m_list->selectedItems();
     if (selected.isEmpty())
         return;
-    // The button greys itself when the list empties; the keyboard then goes on in the list.
+    // The Remove button is disabled when the list becomes empty, so the focus moves to the list first.
     m_list->setFocus();
     qDeleteAll(selected);
     updateButtons();

@@ -1,4 +1,4 @@
-// The documents of the job: a list to which files are added by a file panel, by dropping or by the command line.
+// The documents of the job. Files are added by a file dialog, by dropping them, or by the command line.
 #pragma once
 
 #include <QStringList>
@@ -17,24 +17,24 @@ class DocumentList : public QWidget
 public:
     explicit DocumentList(QWidget *parent = nullptr);
 
-    // Adds files by path, relative ones from the current folder. A file that is in the list already is not added
-    // again; one that cannot be read is left out and told by refused().
+    // Adds files by path; relative paths start from the current folder. Skips files that are in the list already.
+    // Leaves out unreadable files and reports them by refused().
     void addDocuments(const QStringList &paths);
-    // Adds what a drop or paste carries. Only files of this machine can be printed.
+    // Adds the files of a drop or paste. Only local files can be printed.
     void addDropped(const QMimeData &data);
-    // Whether a drop carries anything that could be a file.
+    // True if the data may contain files.
     static bool canTake(const QMimeData &data);
 
-    // Absolute paths, in the order in which they print.
+    // Absolute paths, in printing order.
     QStringList documents() const;
 
-    // The list itself, for the tab order and the default focus.
+    // For the tab order and the default focus.
     QListWidget *list() const { return m_list; }
     QPushButton *addButton() const { return m_add; }
 
 signals:
     void documentsChanged();
-    // A sentence for people about files that were not taken.
+    // A sentence for the user about files that were not added.
     void refused(const QString &reason);
 
 private:

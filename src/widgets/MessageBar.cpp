@@ -1,4 +1,4 @@
-// The message bar: icon, text and a button that takes it away.
+// The message bar: icon, text, action button and close button.
 #include "widgets/MessageBar.h"
 
 #include <QAccessible>
@@ -13,7 +13,7 @@ namespace bv {
 
 namespace {
 
-// A colour between two, `share` (0 to 1) of the way to the second.
+// Mixes two colors. `share` runs from 0 (only base) to 1 (only other).
 QColor mixed(const QColor &base, const QColor &other, double share)
 {
     return QColor::fromRgbF(float(base.redF() + (other.redF() - base.redF()) * share),
@@ -93,7 +93,8 @@ QString MessageBar::text() const
 void MessageBar::changeEvent(QEvent *event)
 {
     QFrame::changeEvent(event);
-    // Only the window's palette is looked at, so setting this bar's own does not come back here for ever.
+    // Reacts to the application's palette only. The bar sets its own palette here, and reacting to that would never
+    // end.
     if (event->type() == QEvent::ParentChange || event->type() == QEvent::ApplicationPaletteChange)
         tint();
 }

@@ -1,4 +1,4 @@
-// A bar at the top of a window that says what went wrong, or what is worth knowing, without a box in the way.
+// A bar at the top of a window that shows a note or a problem without a message box.
 #pragma once
 
 #include <QFrame>
@@ -19,12 +19,12 @@ public:
 
     explicit MessageBar(QWidget *parent = nullptr);
 
-    // Shows a plain text (never read as markup) in place of an older one, and tells assistive tools. With an action
-    // there is a button of that name as well; the bar is cleared before the action runs.
+    // Replaces the text and announces it to assistive tools. The text is plain, never markup. `actionName` adds a
+    // button for `action`; the bar is cleared before the action runs.
     void say(Kind kind, const QString &text, const QString &actionName = QString(), std::function<void()> action = {});
-    // Takes the text away and hides the bar.
+    // Removes the text and hides the bar.
     void clear();
-    // The text shown; empty when there is none.
+    // The text shown, or empty.
     QString text() const;
 
 protected:

@@ -16,11 +16,12 @@ PaneArea::PaneArea(QWidget *parent) : QScrollArea(parent)
 
 QSize PaneArea::sizeHint() const
 {
-    // The whole content, where the base class stops at a share of the screen.
+    // The base class limits the hint to a part of the screen; this one covers the whole content.
     if (!widget())
         return QScrollArea::sizeHint();
     QSize hint = widget()->sizeHint().expandedTo(widget()->minimumSizeHint());
-    // Reckoned with a scroll bar, there or not: a hint that changed with the bar would bring it in and out for ever.
+    // Always subtracts the width of a scroll bar. Otherwise the hint would change with the bar and make it appear and
+    // disappear without end.
     const int narrow = width() - verticalScrollBar()->sizeHint().width();
     if (widget()->hasHeightForWidth())
         hint.setHeight(std::max(hint.height(), widget()->heightForWidth(narrow)));
@@ -38,14 +39,14 @@ QSize PaneArea::minimumSizeHint() const
 void PaneArea::resizeEvent(QResizeEvent *event)
 {
     QScrollArea::resizeEvent(event);
-    // Wrapped texts are taller in a narrower area.
+    // Wrapped texts get taller when the area gets narrower.
     if (event->size().width() != event->oldSize().width() && widget() && widget()->hasHeightForWidth())
         updateGeometry();
 }
 
 bool PaneArea::eventFilter(QObject *object, QEvent *event)
 {
-    // Content that changes its size from within must move the area's neighbours, not only grow a scroll bar.
+    // When the content changes its size, the layout around this area must change too.
     if (object == widget() && event->type() == QEvent::LayoutRequest)
         updateGeometry();
     return QScrollArea::eventFilter(object, event);

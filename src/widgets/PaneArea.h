@@ -1,11 +1,11 @@
-// A scroll area that asks for as much room as what is in it, and follows it when it changes its size.
+// A scroll area that is as large as its content where there is room, and follows the content's size.
 #pragma once
 
 #include <QScrollArea>
 
 namespace bv {
 
-// Takes no keyboard focus itself, and moves along when the focus goes to a control that is out of sight.
+// Takes no keyboard focus itself. Scrolls to a control that gets the focus.
 class PaneArea : public QScrollArea
 {
     Q_OBJECT
@@ -13,7 +13,7 @@ class PaneArea : public QScrollArea
 public:
     explicit PaneArea(QWidget *parent = nullptr);
     QSize sizeHint() const override;
-    // As wide as the content, up to what a small screen has room for; any height, since the content scrolls.
+    // As wide as the content, but not wider than a small screen allows. Small in height, since the content scrolls.
     QSize minimumSizeHint() const override;
 
 protected:

@@ -1,4 +1,4 @@
-// Keeps a button and the text that explains its state together.
+// Updates a button and the texts that explain its state.
 #include "widgets/ReasonLabel.h"
 
 #include <QAbstractButton>

@@ -1,4 +1,4 @@
-// The line beside a greyed button that says why it is greyed, in sight and for assistive tools.
+// A label beside a button that says why the button is greyed.
 #pragma once
 
 #include <QLabel>
@@ -13,11 +13,11 @@ class ReasonLabel : public QLabel
     Q_OBJECT
 
 public:
-    // The button is not owned. usualTip is the button's tool tip while it can be pressed.
+    // The button is not owned. `usualTip` is its tool tip while it is enabled.
     ReasonLabel(QAbstractButton *button, QString usualTip, QWidget *parent = nullptr);
 
-    // Greys the button and says why: here, in its tool tip and in its accessible description. An empty reason makes
-    // the button usable again and takes the texts away.
+    // Greys the button and shows the reason in this label, in the button's tool tip and in its accessible description.
+    // An empty reason enables the button and removes the texts.
     void explain(const QString &reason);
 
 private:

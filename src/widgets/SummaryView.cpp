@@ -1,4 +1,4 @@
-// Lays the summary's items out as a table of two columns that wraps long texts.
+// Shows the summary as a table of two columns with wrapped texts.
 #include "widgets/SummaryView.h"
 
 #include "platform/HostProtocol.h"
@@ -9,7 +9,7 @@ namespace bv {
 
 namespace {
 
-// A summary value as a text for people; nothing for what has no plain text (arrays, dictionaries, no value).
+// Text for a summary value. Nothing for values without a plain text (arrays, dictionaries, no value).
 std::optional<QString> displayText(const PrintValue &value)
 {
     if (const QString *text = value.string())

@@ -1,4 +1,4 @@
-// The live summary: what a panel says about its settings, item by item, in the panel's order.
+// Shows the panel's summary of its settings, in the panel's order.
 #pragma once
 
 #include "platform/PrintValue.h"
@@ -15,28 +15,28 @@ class SummaryView : public QTextEdit
     Q_OBJECT
 
 public:
-    // Item names and values, as shown.
+    // Names and values as shown.
     using Items = std::vector<std::pair<QString, QString>>;
 
     explicit SummaryView(QWidget *parent = nullptr);
 
-    // Shows a panel's summary. Items that are named twice in the order show twice, names without a value not at all;
-    // without an order array the items come in the dictionary's own order. The scroll position stays.
+    // Shows a panel's summary. The order array decides: an item named twice is shown twice, a name without a value is
+    // skipped. Without an order array the items are shown in dictionary order. Keeps the scroll position.
     void showSummary(const PrintDictionary &summary);
-    // Shows a sentence in place of items.
+    // Shows a sentence instead of items.
     void showNote(const QString &note);
 
-    // What is shown now; empty while a note is.
+    // The items shown now. Empty while a note is shown.
     const Items &items() const { return m_items; }
 
 private:
-    // Texts run as the window does.
+    // Aligns the texts to the window's layout direction.
     void alignTexts();
 
     Items m_items;
 };
 
-// The items of a summary in the order in which they are to be shown.
+// The items of a summary in display order.
 SummaryView::Items summaryItems(const PrintDictionary &summary);
 
 } // namespace bv
