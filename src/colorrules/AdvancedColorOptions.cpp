@@ -15,8 +15,8 @@ namespace {
 
 constexpr char kDownloadManager[] = "/Applications/Download Manager QL70/BREVANE Download Manager.app";
 
-// The three Halftone rows have no identifier: users rely on no rule greying them out. "Match Paper Color" is a render
-// intent, by the name that users know from the PPD.
+// The three Halftone rows have no identifier, because no rule may grey them out. "Match Paper Color" is a rendering
+// intent; the title is the name that users know from the PPD.
 // clang-format off
 constexpr std::array<ControlRow, 46> kRows{{
     // outlet                      kind                ppdKey                          title                   summaryName                      identifier                         profileKind
@@ -101,7 +101,8 @@ void AdvancedColorOptions::createPDEItemForPPDKey()
 
 void AdvancedColorOptions::rebuildProfileItems()
 {
-    // A menu whose option the PPD lacks is not built anew, so its profiles would stand twice.
+    // The menu of an option that the PPD lacks is not rebuilt, so its profiles are removed here; otherwise they would
+    // appear twice.
     const PDEControlTable table = getControlData();
     for (int16_t row = 0; table && table[row].control; ++row) {
         auto *menu = qobject_cast<QComboBox *>(table[row].control);
@@ -137,7 +138,8 @@ void AdvancedColorOptions::getSummaryItemAccodingQuickColor(int16_t quickColor, 
         summariseItem(row.menu, row.summaryName, row.index[size_t(quickColor)], summaryDict, addArray);
     if (eco == 0)
         return;
-    // Reported a second time: readers of the summary take the later value, the one in force.
+    // Added a second time on purpose: readers of the summary use the last value of an item, and that is the one in
+    // force.
     for (const PresetRow *row : economyRows(quickColor))
         summariseItem(row->menu, row->summaryName, 0, summaryDict, addArray);
 }

@@ -12,25 +12,25 @@ class AdvancedColorOptions : public ControlTableView
 public:
     explicit AdvancedColorOptions(QWidget *parent = nullptr);
 
-    // Builds the table, shows the image tab and enables "Management Profile" for who may manage profiles.
+    // Builds the table, shows the image tab, and enables "Management Profile" if the user may manage profiles.
     void createPDEControlTable() override;
-    // Titles and menus from the PPD, then the stored profiles behind them.
+    // Sets titles and menus from the PPD, then appends the stored profiles to the menus.
     void createPDEItemForPPDKey() override;
-    // Builds the menus anew after the stored profiles changed, so that each profile stands once.
+    // Rebuilds the menus after the stored profiles changed. Each profile appears once.
     void rebuildProfileItems();
     // Appends the keyword of every row, empty ones included.
     void createPPDKeyNSArrayAdvance(QStringList *array) const;
 
-    // Selects the items of a Quick Color preset (0 to 2; other values change nothing), then, with eco non-zero, its
-    // Economy items. A menu without the item stays as it is.
+    // Selects the items of a Quick Color preset (0 to 2; other values change nothing). If eco is not 0, also selects
+    // the preset's Economy items. A menu that lacks the item stays as it is.
     void changeItemAccodingQuickColor(int16_t quickColor, int16_t eco);
-    // Adds what the preset would select, whatever the menus show, then its Economy items. A menu without the item is
-    // left out.
+    // Adds the items that the preset would select to a summary, whatever the menus show now. If eco is not 0, adds its
+    // Economy items after them. Skips a menu that lacks the item.
     void getSummaryItemAccodingQuickColor(int16_t quickColor, int16_t eco, bv::PrintDictionary *summaryDict,
                                           bv::PrintArray *addArray);
 
 public slots:
-    // Opens the download manager; silent when it is not installed.
+    // Opens the download manager. Does nothing if it is not installed.
     void downloadManagerButton();
 
 private:

@@ -16,7 +16,7 @@ QString nameOf(const PDEControlItem &row)
     return localizedString(row.summaryName ? row.summaryName : row.identifier);
 }
 
-// The title of a pop-up's item, counted from 1; its number when there is no such item.
+// Title of a pop-up's item, counted from 1. Its number if there is no such item.
 QString itemTitle(const PDEControlItem &row, int32_t item)
 {
     const auto *menu = qobject_cast<const QComboBox *>(row.control);

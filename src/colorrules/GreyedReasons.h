@@ -1,15 +1,16 @@
-// Says in a greyed-out control's tool tip and accessible description why it is not available and what brings it back.
+// Explains greyed-out controls: the tool tip and the accessible description say why a control is not available and how
+// to make it available again.
 #pragma once
 
 #include "common/PDEControlItem.h"
 
 namespace bv {
 
-// Works the texts of all controls that the rules can grey out from the conditions that hold now, and takes the text
-// away from those that are available. To be called after a pass of the rules over the same table.
+// Sets the texts of all controls in the table that a rule can grey out, and removes them from controls that are
+// available. Call it after the rules were applied to the same table.
 void explainGreyedControls(PDEControlTable table);
 
-// A pass of the rules over a table, and the texts that go with it.
+// Applies the rules to a table and updates the texts.
 void applyOptionRules(PDEControlTable table);
 
 } // namespace bv

@@ -1,12 +1,12 @@
-// The rule table. Rule 19 shares the two-condition expression with a single condition of its own, so text edge
-// enhancement does not follow the Economy switch: users of Economy rely on crisp text. Rules 0 and 3 to 20 change no
-// value: users find their choice again when the control comes back.
+// The rule table. Only the rules 1 and 2 change a value; the others keep it, so that users find their choice again when
+// the control is available again. Rule 19 uses the two-condition expression but has a single condition: Economy must
+// not grey out text edge enhancement, because its users rely on crisp text.
 #include "colorrules/OptionConstraints.h"
 
 namespace {
 
 // clang-format off
-constexpr CSTCondition kClosing{"", -1, kCSTEnd}; // ends each condition array; never reached
+constexpr CSTCondition kClosing{"", -1, kCSTEnd}; // end of each condition array; never evaluated
 
 constexpr CSTCondition kQuickColorNotFree[]  = {{"QuickColorPopup", 4, kCSTNotEqual}, kClosing};
 constexpr CSTCondition kGray[]               = {{"ColorAsGrayCheckBox", 1, kCSTEqual}, kClosing};

@@ -1,27 +1,28 @@
-// The rules by which one setting makes another meaningless: a constant table, and the pass that applies it to a control
-// table. The rules name controls by their rows' identifiers; a row that a table lacks leaves its rule without effect.
+// Rules between options: a constant table says which settings make another setting meaningless, and a pass applies it
+// to a control table. Rules name controls by the identifier of their row. If the table lacks the target's row, the rule
+// has no effect.
 #pragma once
 
 #include "common/PDEControlItem.h"
 
 #include <cstdint>
 
-// Codes of conditions, expressions, rules and actions, in one numbering.
+// Codes for conditions, expressions, rules and actions share one numbering.
 enum CSTCode : int32_t {
-    kCSTOpen = 1001,  // parentheses: defined, not evaluated
+    kCSTOpen = 1001,  // parentheses: defined but not evaluated
     kCSTClose = 1002, //
     kCSTAnd = 1003,
     kCSTOr = 1004,
     kCSTEqual = 1005,
     kCSTNotEqual = 1006,
-    kCSTSet = 1007, // a rule's value action: set the target; as a condition's operator it never holds
+    kCSTSet = 1007, // value action of a rule: set the target; as a condition's operator it is always false
     kCSTLess = 1009,
     kCSTGreater = 1010,
     kCSTLessEqual1 = 1011,
     kCSTLessEqual2 = 1012,
     kCSTGreaterEqual1 = 1013,
     kCSTGreaterEqual2 = 1014,
-    kCSTEnd = 1017,      // end of an expression; as a rule's value action: no value change
+    kCSTEnd = 1017,      // end of an expression; as value action of a rule: keep the value
     kCSTTableEnd = 1019, // type of the end record of the rule table
     VRCHG = 1022,        // the only rule type in use
     GROUT = 1027,        // target action: grey out
@@ -30,7 +31,7 @@ enum CSTCode : int32_t {
 inline constexpr int kCSTMaxConditions = 20;
 inline constexpr int kCSTMaxTokens = 40;
 
-// Tests one control. `value` is in constraint units: a pop-up's item counts from 1, a check box is 0 or 1.
+// Tests one control. `value` is in constraint units: pop-up items count from 1, a check box is 0 or 1.
 struct CSTCondition
 {
     char key[64]; // identifier of the control's row
@@ -57,13 +58,13 @@ struct CSTRule
     const CSTAction *actions;
 };
 
-// The rules in the order in which they are applied, the end record last.
+// The rules, in the order in which they are applied. The last record has the type kCSTTableEnd.
 extern const CSTRule cstColorOption[];
 
-// Applies all rules to the live controls of a table, in order.
+// Applies all rules, in order, to the live controls of a table.
 void vColorPresetConstraints(PDEControlTable table);
 
-// The four steps of a pass, for the rule at an index of cstColorOption.
+// The four steps of a pass. `rule` is an index into cstColorOption.
 uint8_t bMatchCondition(int32_t rule, PDEControlTable table); // 0 or 1
 void vValueChange(int32_t rule, PDEControlTable table);
 void vActOption(int32_t rule, PDEControlTable table);
@@ -71,13 +72,13 @@ void vActReverseOption(int32_t rule, PDEControlTable table);
 
 namespace bv {
 
-// The row with exactly this identifier; null when there is none.
+// The row with exactly this identifier, or null.
 const PDEControlItem *findControlRow(const char *identifier, PDEControlTable table);
 
-// Whether a single condition holds for the table's controls.
+// True if the condition holds for the controls of the table. False if the table lacks the control.
 bool conditionHolds(const CSTCondition &condition, PDEControlTable table);
 
-// Evaluates a rule's conditions and expression: left to right, seeded with condition 0.
+// Evaluates a rule's expression from left to right, starting with the value of condition 0. Returns 0 or 1.
 uint8_t matchRule(const CSTRule &rule, PDEControlTable table);
 
 } // namespace bv

@@ -1,4 +1,4 @@
-// The record of a control table: one on-screen control, the PPD option that it stands for, and its texts.
+// The record of a control table: one control on the screen, the PPD option it is bound to, and its texts.
 #pragma once
 
 #include <QString>
@@ -9,7 +9,7 @@
 
 class QWidget;
 
-// Control kinds. Log readers rely on the numbers; 1033 and 1038 stand for nothing.
+// Control kinds. The log shows the numbers, so they must not change. 1033 and 1038 are unused.
 enum PDEControlKind : int32_t {
     kPDEControlEnd = 1032,
     kPDEControlText = 1034,
@@ -27,17 +27,17 @@ using PPDChoiceArray = std::vector<PPDChoiceEntry>;
 
 struct PDEControlItem
 {
-    QWidget *control = nullptr;        // borrowed from the view; null ends a table for most walkers
+    QWidget *control = nullptr;        // owned by the view; most loops stop at a null control
     int32_t kind = kPDEControlEnd;     // a PDEControlKind
-    const char *ppdKey = "";           // PPD main keyword; empty: no option is bound
-    const char *title = nullptr;       // localisation key of the control's own title
-    const char *summaryName = nullptr; // localisation key of the item's name in the summary; null: not in the summary
-    const char *identifier = "";       // the name by which the rules find the row; unique across both views
-    int16_t profileKind = 0;           // 1 RGB source, 2 destination, 3 simulation: menu extended by profiles
+    const char *ppdKey = "";           // PPD main keyword; empty when no option is bound
+    const char *title = nullptr;       // localization key of the control's own title
+    const char *summaryName = nullptr; // localization key of the item's name in the summary; null: not in the summary
+    const char *identifier = "";       // name that the rules use for the row; unique across both views
+    int16_t profileKind = 0;           // class of profiles added to the menu: 1 RGB source, 2 destination, 3 simulation
     std::shared_ptr<const PPDChoiceArray> ppdChoices; // null until built, and for rows without ppdKey
 };
 
-// Pointer to the first record; the end record is the last. Null where there is no table.
+// Pointer to the first record of a table that ends with an end record. Null when there is no table.
 using PDEControlTable = PDEControlItem *;
 
 // The record that ends every table.
