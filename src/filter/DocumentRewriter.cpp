@@ -10,13 +10,14 @@ namespace bv {
 
 namespace {
 
-// Longer lines than the conventions' 255 characters exist; what is behind these bytes is no word of a comment.
+// Comments are read up to this length. Some are longer than the 255 characters of the conventions, but no word that
+// matters is farther from the start.
 constexpr size_t kLongestComment = 1024;
-// A feature that goes on for longer than this is taken for one that has no end, and stays.
+// A longer feature is taken for one without an end, and kept.
 constexpr size_t kLongestFeature = size_t{64} * 1024;
-// How far the end of a setup is looked for.
+// The end of a setup section is searched within this many bytes.
 constexpr size_t kLongestSetup = size_t{128} * 1024;
-// What may stand in front of a document on its first line: the end of the job before, by the serial protocol and by the
+// Possible bytes before a document on its first line: the end of the previous job, in the serial protocol and in the
 // printer job language.
 constexpr std::string_view kPrefixes[] = {"\004", "\033%-12345X"};
 
@@ -25,7 +26,7 @@ bool isLineEnd(char character)
     return character == '\n' || character == '\r';
 }
 
-// The first line with its line end.
+// The first line, including its line end.
 std::string_view firstLine(std::string_view text)
 {
     const size_t end = text.find_first_of("\r\n");
@@ -45,7 +46,7 @@ bool isBlank(std::string_view line)
     return line.find_first_not_of(" \t\r\n\f") == line.npos;
 }
 
-// The words behind the colon of a comment.
+// The words after the colon of a comment.
 std::string_view argumentsOf(std::string_view line)
 {
     line.remove_suffix(lineEndOf(line).size());
@@ -61,8 +62,8 @@ std::string_view takeWord(std::string_view &words)
     return word;
 }
 
-// Passes on what a comment says to be binary, or data that could hold anything: "%%BeginBinary: bytes" and
-// "%%BeginData: number type unit".
+// Copies binary data or any other data that a comment announces: "%%BeginBinary: bytes" and "%%BeginData: number type
+// unit".
 void passData(DocumentStream &stream, std::string_view line)
 {
     const bool isData = line.starts_with("%%BeginData:");
@@ -79,7 +80,7 @@ void passData(DocumentStream &stream, std::string_view line)
         stream.pass(count);
 }
 
-// "%%Requirements: numcopies(N)": copies that the printer makes, not those that stand in the document. 1 without it.
+// The N of "%%Requirements: numcopies(N)": copies that the printer makes, not copies in the document. 1 without it.
 int copiesOf(std::string_view line)
 {
     constexpr std::string_view kWord = "numcopies(";
@@ -90,7 +91,7 @@ int copiesOf(std::string_view line)
     return std::max(copies, 1);
 }
 
-// The length of a feature with the line that ends it; 0 when it does not end in this text.
+// Length of a feature, including the line that ends it. 0 when the text does not hold the end.
 size_t featureLength(std::string_view text)
 {
     constexpr std::string_view kEnd = "%%EndFeature";
@@ -124,7 +125,7 @@ DocumentRewriter::Result DocumentRewriter::copy(int input, int output)
     return m_found ? Result::Done : Result::NoDocument;
 }
 
-// Anything that is no structuring comment.
+// Handles lines that are not structuring comments.
 void DocumentRewriter::code(DocumentStream &stream, std::string_view line)
 {
     if (m_place == Place::Outside) {
@@ -143,7 +144,7 @@ void DocumentRewriter::code(DocumentStream &stream, std::string_view line)
             stream.pass(line.size());
             return;
         }
-        // A document that begins without saying where its prolog and its setup are.
+        // The document has no prolog or setup section, so the settings go first.
         putSettings(stream, Section::None);
     }
     stream.passToComment();
@@ -151,7 +152,7 @@ void DocumentRewriter::code(DocumentStream &stream, std::string_view line)
 
 void DocumentRewriter::comment(DocumentStream &stream, std::string_view line)
 {
-    const std::string kept(line); // reading ahead moves what was there before
+    const std::string kept(line); // reading ahead invalidates the view
     if (m_nested == 0 && structure(stream, kept))
         return;
     if (kept.starts_with("%%BeginDocument"))
@@ -162,7 +163,7 @@ void DocumentRewriter::comment(DocumentStream &stream, std::string_view line)
     passData(stream, kept);
 }
 
-// A comment of the document itself. True when nothing is left to be passed on.
+// Handles a comment of the document itself. Returns true when the line needs no copying.
 bool DocumentRewriter::structure(DocumentStream &stream, std::string_view line)
 {
     if (m_place == Place::Outside) {
@@ -215,7 +216,8 @@ void DocumentRewriter::beginDocument(DocumentStream &stream, std::string_view li
         putSettings(stream, Section::None);
 }
 
-// Settings belong to the end of the setup, behind the document's own. A setup that shows no end gets them at once.
+// The settings go to the end of the setup section, after the document's own. If the end of the section is not found,
+// they go to its beginning.
 bool DocumentRewriter::beginSetup(DocumentStream &stream, std::string_view line)
 {
     m_place = Place::Setup;
@@ -247,7 +249,7 @@ void DocumentRewriter::putSettings(DocumentStream &stream, Section section)
     stream.put(text);
 }
 
-// Whether a feature comment names an option that the settings decide about.
+// True if a feature comment names an option that the settings set.
 bool DocumentRewriter::isOurs(std::string_view feature) const
 {
     std::string_view words = argumentsOf(feature);

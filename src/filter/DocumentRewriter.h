@@ -1,6 +1,6 @@
-// Copies PostScript documents from one descriptor to another and puts a job's settings into each of them. Documents are
-// read by their structuring comments (Document Structuring Conventions, version 3.0); what stands between the comments
-// is never looked at, so memory and time do not depend on it.
+// Copies PostScript documents from one descriptor to another and adds a job's settings to each. Only structuring
+// comments are interpreted (Document Structuring Conventions, version 3.0). The code between them is copied unread, so
+// memory use does not depend on its size.
 #pragma once
 
 #include "filter/Setting.h"
@@ -13,40 +13,40 @@ namespace bv {
 
 class DocumentStream;
 
-// Every document gets the settings once: at the end of its setup section, or in a section of their own before its first
-// page, or at its head where it has neither. Features of the same options that a document carries, for the whole of it
-// or for a page, are taken out. Documents within documents and binary sections are passed on as they are.
+// Adds the settings to each document once: at the end of its setup section, else in a new setup section before the
+// first page, else at the beginning. Removes the document's own features for the same options, for the whole document
+// and for single pages. Embedded documents and binary sections are copied unchanged.
 class DocumentRewriter
 {
 public:
-    // Told for each page of a document, counted from 1 over the whole input, with the copies of it that the document
-    // has the printer make.
+    // Called for each page. Pages are counted from 1 over the whole input. `copies` is the number of copies that the
+    // document tells the printer to make.
     using PageNotice = std::function<void(int page, int copies)>;
 
     DocumentRewriter(Settings settings, PageNotice pageNotice);
 
-    // How a copy ended.
+    // The result of copy().
     enum class Result {
         Done,
-        NoDocument, // all was copied, but nothing in it was PostScript
+        NoDocument, // everything was copied, but there was no PostScript document
         ReadError,  // errno says why
         WriteError, // errno says why
     };
-    // Copies all of `input` to `output`. Both stay open.
+    // Copies all of `input` to `output`. Leaves both open.
     Result copy(int input, int output);
 
 private:
-    // Where in a document the copy stands.
+    // The current position in a document.
     enum class Place {
         Outside,     // before the first document, or between two
         Header,      // in the header comments
-        AfterHeader, // behind them, and nothing has begun
+        AfterHeader, // after the header comments, before any section
         Prolog,
         Setup,
-        Body, // the settings are in
+        Body, // after the settings
     };
 
-    // What stands around settings that are put in.
+    // Whether settings are written with a setup section of their own around them.
     enum class Section { None, Own };
 
     void code(DocumentStream &stream, std::string_view line);
@@ -61,10 +61,10 @@ private:
     PageNotice m_pageNotice;
     Place m_place = Place::Outside;
     std::string m_lineEnd = "\n";
-    int m_nested = 0; // depth of documents within the document
+    int m_nested = 0; // nesting depth of embedded documents
     int m_pages = 0;
     int m_copies = 1;
-    bool m_found = false; // some document has begun
+    bool m_found = false; // a document was found
 };
 
 } // namespace bv

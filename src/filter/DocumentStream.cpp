@@ -1,4 +1,4 @@
-// Reading ahead and writing behind, with one buffer for both.
+// Reads ahead and delays writing, with one buffer for both.
 #include "filter/DocumentStream.h"
 
 #include <algorithm>
@@ -33,7 +33,7 @@ void DocumentStream::passLines(uint64_t count)
         if (text.empty())
             return;
         const size_t end = text.find_first_of("\r\n");
-        // A CR at the end of what is there may have its LF still to come.
+        // After a CR at the end of the buffer, an LF may still follow.
         if (end == text.npos || (end + 1 == text.size() && end > 0)) {
             advance(end == text.npos ? text.size() : end);
             continue;
@@ -79,7 +79,7 @@ void DocumentStream::flush()
     m_begin = m_next;
 }
 
-// Makes room and reads once; false when nothing more can be had.
+// Makes room in the buffer and reads once. False at the end of the input, on a failure, or when the buffer is full.
 bool DocumentStream::refill()
 {
     if (m_atEnd || m_writeFailed)
@@ -87,7 +87,7 @@ bool DocumentStream::refill()
     if (m_end == m_buffer.size()) {
         flush();
         if (m_next == 0)
-            return false; // the buffer is full of what is asked for
+            return false; // the buffer is full
         std::memmove(m_buffer.data(), m_buffer.data() + m_next, m_end - m_next);
         m_end -= m_next;
         m_begin = m_next = 0;

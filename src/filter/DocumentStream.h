@@ -1,4 +1,4 @@
-// A descriptor read ahead and copied to another one, with the means to leave out and to put in.
+// Copies one descriptor to another. Reads ahead, and can leave bytes out or insert some.
 #pragma once
 
 #include <cstddef>
@@ -8,34 +8,34 @@
 
 namespace bv {
 
-// Bytes are passed on in the order in which they are read, unless they are dropped. A failure ends all reading and
-// writing; it is told by readFailed() and writeFailed(), and errno keeps its reason.
+// Bytes are copied in the order in which they are read, unless they are dropped. After a failure nothing more is read
+// or written; readFailed() or writeFailed() reports it, and errno keeps the reason.
 class DocumentStream
 {
 public:
-    // The most that ahead() can be asked for.
+    // The largest argument of ahead().
     static constexpr size_t kBufferBytes = size_t{256} * 1024;
 
-    // Borrows both descriptors.
+    // Borrows both descriptors; the caller closes them.
     DocumentStream(int input, int output);
 
-    // The bytes that come next: at least `wanted` of them where the input still has so many. Empty at its end. Valid
+    // The next bytes: at least `wanted`, or fewer when the input ends before. Empty at the end of the input. Valid
     // until the next call.
     std::string_view ahead(size_t wanted);
-    // Whether the next byte begins a line.
+    // True if the next byte begins a line.
     bool atLineStart() const { return m_before == '\n' || m_before == '\r'; }
 
-    // Passes on the next bytes, up to the end of the input.
+    // Copies the next `count` bytes, at most up to the end of the input.
     void pass(uint64_t count);
-    // Passes on the next lines, whatever their line ends are.
+    // Copies the next `count` lines, with any kind of line end.
     void passLines(uint64_t count);
-    // Passes on at least one byte, and all until a line begins with "%".
+    // Copies at least one byte, and then everything up to the next line that begins with "%".
     void passToComment();
-    // Leaves out bytes that ahead() has shown.
+    // Skips bytes that ahead() has returned.
     void drop(size_t count);
-    // Writes text of its own in front of what comes next.
+    // Inserts text before the next byte.
     void put(std::string_view text);
-    // Writes all that was passed on. To be called at the end.
+    // Writes all that was copied. Call it at the end.
     void flush();
 
     bool readFailed() const { return m_readFailed; }
@@ -49,9 +49,9 @@ private:
     int m_input;
     int m_output;
     std::vector<char> m_buffer;
-    size_t m_begin = 0;   // passed on, not written yet: from here to m_next
-    size_t m_next = 0;    // comes next
-    size_t m_end = 0;     // read so far
+    size_t m_begin = 0;   // start of the copied bytes that are not written yet; they end at m_next
+    size_t m_next = 0;    // the next byte
+    size_t m_end = 0;     // end of the bytes read so far
     char m_before = '\n'; // the byte before m_next
     bool m_atEnd = false;
     bool m_readFailed = false;

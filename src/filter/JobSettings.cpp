@@ -1,4 +1,4 @@
-// Marks the job's choices in the PPD and reads off what they mean.
+// Marks the job's choices in the PPD and derives the settings from the marks.
 #include "filter/JobSettings.h"
 
 #include "discovery/FileNameRule.h"
@@ -21,11 +21,11 @@ constexpr char kEconomy[] = "BVEconoMode";
 constexpr char kGray[] = "BVColorAsGray";
 constexpr char kSeparation[] = "BVColorSeparation";
 constexpr char kColorMode[] = "print-color-mode";
-// The values of print-color-mode (PWG 5100.13) that leave no color.
+// Values of print-color-mode (PWG 5100.13) without color.
 constexpr std::string_view kGrayModes[] = {"monochrome", "auto-monochrome", "process-monochrome", "bi-level",
                                            "process-bi-level"};
 
-// The options of a job, freed at the end.
+// The options of a job. Freed by the destructor.
 class Options
 {
 public:
@@ -35,7 +35,7 @@ public:
     ~Options() { cupsFreeOptions(m_count, m_options); }
 
     void mark(ppd_file_t *ppd) const { cupsMarkOptions(ppd, m_count, m_options); }
-    // Empty where the job does not have the option.
+    // Empty when the job does not have the option.
     std::string_view value(const std::string &name) const
     {
         const char *found = cupsGetOption(name.c_str(), m_count, m_options);
@@ -47,7 +47,7 @@ private:
     int m_count;
 };
 
-// The position of the option's marked choice; -1 without option or mark.
+// Index of the option's marked choice. -1 without an option or a mark.
 int markedIndex(ppd_file_t *ppd, const char *keyword)
 {
     const ppd_option_t *option = ppdFindOption(ppd, keyword);
@@ -80,19 +80,18 @@ void addPreset(JobSettings &job, ppd_file_t *ppd, int16_t quickColor, bool econo
         const bool first = std::find(economyRowsHere.begin(), economyRowsHere.end(), &row) != economyRowsHere.end();
         const int index = first ? 0 : row.index[size_t(quickColor)];
         const ppd_option_t *option = ppdFindOption(ppd, row.option);
-        // A PPD with fewer choices keeps the job's own, as the dialog keeps its menu.
+        // If the PPD lacks the choice, the job's own one stays, as in the dialog's menus.
         if (option && index < option->num_choices)
             add(job, row.option, option->choices[index]);
     }
 }
 
-// The path that an encoded text names, where it is one of a profile: a folder of profiles on one of the printer's
-// storages, and a file name that the printer takes. Nothing for every other text, also one that is not encoded as it
-// should be.
+// Decodes the path of a profile. Nothing unless the text is encoded correctly, the folder is a profile folder on one of
+// the printer's storages, and the printer accepts the file name.
 std::optional<std::string> profilePathOf(std::string_view encoded)
 {
     std::string path = decodeDevicePath(encoded);
-    // Decoding is lenient; what it made of another text does not encode to that text again.
+    // The decoder accepts malformed texts. Encoding the result again reveals them.
     if (encodeDevicePath(path) != encoded)
         return std::nullopt;
     for (const ProfileStorage &storage : kProfileStorages) {
@@ -103,7 +102,7 @@ std::optional<std::string> profilePathOf(std::string_view encoded)
     return std::nullopt;
 }
 
-// A profile's path as a string of PostScript.
+// Returns the path as a PostScript string.
 std::string postScriptString(std::string_view path)
 {
     std::string text = "(";
@@ -119,7 +118,7 @@ void addProfiles(JobSettings &job, const Options &options)
 {
     for (const PresetRow &row : quickColorPresets()) {
         const std::string option = row.option;
-        // libcups hands a flag on as "true", however the job wrote it.
+        // libcups passes the flag on as "true", in whatever case the job wrote it.
         if (row.profileKind == 0 || strcasecmp(std::string(options.value(option + "Custom")).c_str(), "true") != 0)
             continue;
         const std::optional<std::string> path = profilePathOf(options.value(option + "CustomFilename"));
@@ -147,7 +146,7 @@ JobSettings jobSettings(ppd_file_t *ppd, const char *text)
     if (std::find(std::begin(kGrayModes), std::end(kGrayModes), mode) != std::end(kGrayModes) &&
         !isMarked(ppd, kGray, "True")) {
         addByName(job, ppd, kGray, "True");
-        // Grays have nothing to separate; the dialog sees to that where the user chooses them there.
+        // A gray job has no colors to separate. The dialog has the same rule.
         addByName(job, ppd, kSeparation, "False");
     }
 

@@ -1,4 +1,4 @@
-// From a job's options to the printer settings that they mean.
+// Converts a job's options to printer settings.
 #pragma once
 
 #include "filter/Setting.h"
@@ -11,21 +11,19 @@ namespace bv {
 
 struct JobSettings
 {
-    // What has to stand in each document, whatever else it says about these options.
+    // The settings to put into each document. They replace the document's own settings of the same options.
     Settings settings;
-    // Sentences about options that could not be taken as they are; the PPD's choice stands in their place.
+    // Sentences about options that could not be used. The PPD's choice is used instead.
     std::vector<std::string> warnings;
 };
 
-// The settings of a job with these options, as a filter gets them in its fifth argument. Options that say nothing are
-// at the PPD's defaults.
-//
-// A Quick Color that stands for a preset decides about all settings of images, text, graphics and simulation, Economy
-// Print included. The free one leaves them to the job: there, an option whose companion KEYWORDCustom is true and whose
-// companion KEYWORDCustomFilename names a profile on the printer becomes that profile. A job that asks for gray by
-// print-color-mode is made gray by the printer's own option.
-//
-// Marks the choices in the PPD, which is borrowed.
+// Returns the settings of a job. `options` has the format of a filter's fifth argument. Options that are missing have
+// the PPD's default.
+// A Quick Color that is a preset sets all options of images, text, graphics and simulation, including Economy Print.
+// With the manual Quick Color, the job's own choices stay. If an option's companion KEYWORDCustom is true and
+// KEYWORDCustomFilename names a profile on the printer, the option is set to this profile. If print-color-mode asks for
+// gray, the printer's own gray option is turned on.
+// Marks the choices in the PPD. The PPD is borrowed.
 JobSettings jobSettings(ppd_file_t *ppd, const char *options);
 
 } // namespace bv

@@ -1,4 +1,4 @@
-// One printer setting as it stands in a document.
+// One printer setting, as it is written to a document.
 #pragma once
 
 #include <string>
@@ -6,7 +6,7 @@
 
 namespace bv {
 
-// A PPD option, the choice to be named beside it, and the PostScript code that makes it so.
+// `option` and `choice` are PPD keywords. `code` is the PostScript code that makes the setting.
 struct Setting
 {
     std::string option;

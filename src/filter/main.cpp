@@ -1,4 +1,4 @@
-// bvql70: the filter of the print chain that makes a job's color options take effect in its documents.
+// bvql70: the print server's filter that writes a job's color options into its documents.
 #include "filter/DocumentRewriter.h"
 #include "filter/JobSettings.h"
 
@@ -13,7 +13,8 @@
 
 namespace {
 
-// One line of the job's log, in the print server's words (filter(7)): "ERROR: ...", "WARNING: ...", "INFO: ...".
+// Writes one line to the job's log. The print server knows the levels "ERROR", "WARNING", "INFO" and "PAGE"
+// (filter(7)).
 void say(const char *level, const std::string &sentence)
 {
     std::fprintf(stderr, "%s: %s\n", level, sentence.c_str());
@@ -54,7 +55,8 @@ int main(int argc, char **argv)
         say("ERROR", "usage: bvql70 job-id user title copies options [file]");
         return 1;
     }
-    // A cancelled job ends the filter at once; a reader that is gone is an error to be told.
+    // Canceling a job (SIGTERM) ends the filter at once. A closed output must be reported as an error, so SIGPIPE is
+    // ignored.
     std::signal(SIGTERM, SIG_DFL);
     std::signal(SIGPIPE, SIG_IGN);
 
@@ -69,7 +71,7 @@ int main(int argc, char **argv)
     for (const std::string &warning : job.warnings)
         say("WARNING", warning);
     bv::DocumentRewriter rewriter(std::move(job.settings),
-                                  // None of the filters before this one counts the pages for the server's page log.
+                                  // The server's page log needs these lines; no earlier filter writes them.
                                   [](int page, int copies) {
                                       say("PAGE", std::to_string(page) + " " + std::to_string(copies));
                                       say("INFO", "Printing page " + std::to_string(page) + ".");

@@ -1,4 +1,4 @@
-// Who asks, and whose list a path, a URL or a login name of the request stands for.
+// Finds the list that a path, URL or login name stands for.
 #include "helper/Caller.h"
 
 #include "platform/FileDescriptor.h"
@@ -17,7 +17,7 @@ namespace bv {
 namespace {
 
 constexpr std::string_view kUrlBegin = "file://";
-constexpr std::string_view kMarkLogin = "x"; // a login name that only serves to see what stands around it
+constexpr std::string_view kMarkLogin = "x"; // placeholder that shows what comes before and after the login name
 constexpr size_t kStartTimeField = 22;       // in /proc/PID/stat, counted from 1
 
 std::string fileName(const std::string &path)
@@ -25,8 +25,8 @@ std::string fileName(const std::string &path)
     return path.substr(path.rfind('/') + 1);
 }
 
-// The login name that a path carries between what profilePathsFor puts around every name; empty when it is not such a
-// path. The caller compares the path of that name with the text, so this may be generous.
+// Extracts the login name from a path. Empty when the path does not have the form of profilePathsFor. May return too
+// much: the caller compares the path of the returned name with the whole text.
 std::string_view loginInPath(std::string_view path, std::string ProfilePaths::*which)
 {
     const std::string model = profilePathsFor(kMarkLogin).*which;
@@ -55,7 +55,7 @@ std::optional<ProcessIdentity> identifyProcess(pid_t id)
     std::string stat;
     if (!file || !readToEnd(file.get(), &stat))
         return std::nullopt;
-    // The second field is the program's name in parentheses and may hold anything, so the count starts behind it.
+    // The second field is the program's name in parentheses. It may hold anything, so fields are counted after its end.
     std::string_view rest(stat);
     const size_t name = rest.rfind(')');
     if (name == std::string_view::npos)
@@ -101,7 +101,7 @@ std::optional<ListTarget> Caller::listOfLogin(std::string_view login) const
     }
     if (login.empty() || login.find('/') != std::string_view::npos)
         return std::nullopt;
-    // Some databases find a name whatever its case; only the very name will do.
+    // Some databases ignore case. Only the exact name counts here.
     const passwd *entry = getpwnam(std::string(login).c_str());
     if (!entry || !entry->pw_name || login != entry->pw_name)
         return std::nullopt;

@@ -1,4 +1,4 @@
-// Who asks, and whose list a path, a URL or a login name of the request stands for.
+// The calling user, and the list that a path, URL or login name in a request stands for.
 #pragma once
 
 #include <cstdint>
@@ -9,17 +9,18 @@
 
 namespace bv {
 
-// One process, told apart from a later one with the same id by its start time.
+// Identifies one process. The start time tells it apart from a later process with the same id.
 struct ProcessIdentity
 {
     pid_t id = 0;
-    uint64_t startTime = 0; // clock ticks since the machine started, see proc(5), /proc/PID/stat
+    uint64_t startTime = 0; // clock ticks since boot, see /proc/PID/stat in proc(5)
 };
 
-// The identity of a running process; nothing when /proc does not tell it.
+// Identity of a running process. Nothing when /proc does not show it.
 std::optional<ProcessIdentity> identifyProcess(pid_t id);
 
-// A user's list: his entry in the password database, the logical paths, and the file names in the lists' folder.
+// The list of one user: the user's entry in the password database, and the logical paths of the two files.
+// currentName() and previousName() are the file names in the folder of the lists.
 struct ListTarget
 {
     std::string login;
@@ -31,27 +32,27 @@ struct ListTarget
     std::string previousName() const;
 };
 
-// The calling user, by the real user id of this process.
+// The calling user, identified by the real user id of this process.
 class Caller
 {
 public:
-    // `sequenceProcess` is the process that the pieces of a write sequence belong to.
+    // `sequenceProcess` is the process that owns the write sequence of this caller.
     explicit Caller(pid_t sequenceProcess);
 
     uid_t user() const { return m_user; }
     bool isRoot() const { return m_user == 0; }
-    // Looked up anew at each call; nothing when that process cannot be told apart from others.
+    // Looked up at each call. Nothing when the process cannot be identified.
     std::optional<ProcessIdentity> sequenceOwner() const { return identifyProcess(m_sequenceProcess); }
 
-    // The list that the caller may touch under that name: his own, or for root that of any user in the password
-    // database. Nothing for every other text; compared byte for byte.
+    // The list with this name that the caller may change: the caller's own, or for root that of any user in the
+    // password database. Nothing for all other texts. The comparison is byte by byte.
     std::optional<ListTarget> listOfLogin(std::string_view login) const;
     std::optional<ListTarget> listOfCurrentPath(std::string_view path) const;
     std::optional<ListTarget> listOfPreviousPath(std::string_view path) const;
-    // By the URL that the plug-in forms of the current path.
+    // By the file URL of the current path, as the plug-in writes it.
     std::optional<ListTarget> listOfUrl(std::string_view url) const;
 
-    // Whether a file of that owner may be taken for a list or staging file of the target.
+    // True if a file of this owner may be a list or staging file of the target.
     bool acceptsOwner(uid_t owner, const ListTarget &target) const;
 
 private:

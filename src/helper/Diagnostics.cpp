@@ -14,7 +14,7 @@ void complain(std::string_view what, int error)
     if (error != 0)
         line.append(": ").append(std::strerror(error));
     line += '\n';
-    // Nobody is left to tell when standard error cannot be written.
+    // An error here is ignored: there is no other place to report it.
     [[maybe_unused]] const ssize_t written = ::write(STDERR_FILENO, line.data(), line.size());
 }
 

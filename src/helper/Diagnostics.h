@@ -5,8 +5,8 @@
 
 namespace bv {
 
-// Writes "QL70Helper: WHAT" to standard error, with ": REASON" (strerror(3) of an errno value) behind it if that is
-// not 0. No text of a request is ever passed here, so a line cannot be forged.
+// Writes "QL70Helper: WHAT" to standard error. If `error` is an errno value and not 0, ": " and its strerror(3) text
+// follow. Never pass text from a request: it could forge a line.
 void complain(std::string_view what, int error = 0);
 
 } // namespace bv

@@ -1,4 +1,4 @@
-// What a text must be to become a list file.
+// Checks the text of a list with one pass of Expat.
 #include "helper/ListCheck.h"
 
 #include <algorithm>
@@ -30,7 +30,7 @@ struct ElementRow
     Kind kind;
 };
 
-// The elements of a property list. What stands inside a date, a real number or data is left to whoever reads it.
+// The elements of a property list. The contents of dates, real numbers and data are not checked.
 // clang-format off
 constexpr ElementRow kElements[] = {
     {"plist",   Kind::Plist},
@@ -60,25 +60,25 @@ bool isInteger(std::string_view text)
     return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
-// Follows the events of the parser; the first fault stops it.
+// Handles the parser's events. The first fault stops the parser.
 class ListReader
 {
 public:
     explicit ListReader(XML_Parser parser) : m_parser(parser)
     {
         XML_SetUserData(parser, this);
-        // The parser reads UTF-8 whatever the text declares; a reader of the file would believe the declaration.
+        // The parser always reads UTF-8, but later readers of the file would believe another declared encoding.
         XML_SetXmlDeclHandler(parser, [](void *self, const XML_Char *, const XML_Char *encoding, int) {
             if (encoding && strcasecmp(encoding, "UTF-8") != 0)
                 reader(self).stop("the list is not declared as UTF-8");
         });
-        // Without an internal subset no entity can be declared, so none can expand or name a file.
+        // Without an internal subset there are no entity declarations, so no entity can expand or name a file.
         XML_SetStartDoctypeDeclHandler(
             parser, [](void *self, const XML_Char *, const XML_Char *, const XML_Char *, int hasInternalSubset) {
                 if (hasInternalSubset)
                     reader(self).stop("the list brings declarations of its own");
             });
-        // With an external subset an undeclared entity is no error of the document, see section 4.1 of XML 1.0.
+        // With an external subset, an undeclared entity is not an error of the document (XML 1.0, section 4.1).
         XML_SetSkippedEntityHandler(parser, [](void *self, const XML_Char *, int) {
             reader(self).stop("the list uses an entity that is not declared");
         });
@@ -92,7 +92,7 @@ public:
 
     const std::optional<std::string> &fault() const { return m_fault; }
 
-    // Whether all that must be there was there, once the parser has come to the end.
+    // True if all required dictionaries were present. Valid after the end of the text.
     bool isComplete() const
     {
         return std::all_of(m_fields.begin(), m_fields.end(),
@@ -103,7 +103,7 @@ private:
     struct Element
     {
         Kind kind;
-        bool keyPending = false; // a dictionary's key that waits for its value
+        bool keyPending = false; // a key of this dictionary has no value yet
         size_t values = 0;       // values inside a plist
     };
 
@@ -130,7 +130,7 @@ private:
         m_text.clear();
     }
 
-    // Whether an element of that kind may begin inside the innermost open one; a dictionary's key gets its value.
+    // True if an element of this kind may begin here. Inside a dictionary it becomes the value of the last key.
     bool mayStandHere(Kind kind)
     {
         if (m_open.empty())
@@ -151,7 +151,7 @@ private:
         }
     }
 
-    // Marks a required dictionary that begins as the value of the last key.
+    // Records a required dictionary that begins as the value of the last key.
     void noteDictionary(Kind kind)
     {
         if (kind != Kind::Dict || m_open.empty() || m_open.back().kind != Kind::Dict)
@@ -192,7 +192,7 @@ private:
         m_text.clear();
     }
 
-    // A required key twice would leave open which value a reader takes.
+    // With a required key twice, readers could take either value.
     void noteKey()
     {
         if (m_open.back().kind != Kind::Dict)
@@ -222,9 +222,9 @@ private:
     XML_Parser m_parser;
     std::optional<std::string> m_fault;
     std::vector<Element> m_open;
-    std::string m_text;                                // of the open key or integer
+    std::string m_text;                                // text of the open key or integer
     std::string m_key;                                 // the last key
-    int m_class = -1;                                  // the class dictionary that is open, or -1
+    int m_class = -1;                                  // index of the open class dictionary, or -1
     std::array<uint8_t, kClassKeys.size()> m_fields{}; // one bit for each field dictionary of a class
     uint32_t m_seenKeys = 0;                           // one bit for each required key
 };

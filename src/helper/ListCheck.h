@@ -1,4 +1,4 @@
-// What a text must be to become a list file.
+// Checks whether a text may become a list file.
 #pragma once
 
 #include <optional>
@@ -7,9 +7,9 @@
 
 namespace bv {
 
-// Checks that the text is one well-formed XML document in UTF-8 without entities of its own, and a property list whose
-// root holds the three class dictionaries, each with its six field dictionaries; other keys may stand beside them.
-// Nesting is bounded. Nothing when it is; else a sentence for the diagnostics.
+// Checks that the text is a well-formed XML document in UTF-8 without entity declarations, and a property list. Its
+// root must hold the three class dictionaries, each with its six field dictionaries; other keys are allowed. Nesting is
+// limited. Returns nothing for a valid text, else a sentence for the diagnostics.
 std::optional<std::string> faultOfListText(std::string_view text);
 
 } // namespace bv

@@ -1,4 +1,4 @@
-// The folder of the list files, held open: everything is done relative to its descriptor.
+// Opens, creates and replaces files relative to the folder's descriptor.
 #include "helper/ListFolder.h"
 
 #include "helper/Diagnostics.h"
@@ -61,7 +61,7 @@ bool ListFolder::lock()
 FoundFile ListFolder::find(const std::string &name, int access, const Caller &caller, const ListTarget &target) const
 {
     FoundFile found;
-    // A path descriptor opens nothing: a FIFO wakes nobody and a device starts nothing before it has been judged.
+    // O_PATH opens nothing for reading, so a FIFO or a device has no effect before it is checked.
     found.file = FileDescriptor(openat(m_folder.get(), name.c_str(), O_PATH | O_NOFOLLOW | O_CLOEXEC));
     if (!found.file) {
         found.standing = errno == ENOENT ? Standing::Missing : Standing::Foreign;
@@ -133,7 +133,7 @@ bool ListFolder::replace(const std::string &name, const FileDescriptor &file, co
         complain("cannot rename the new list over the old one", errno);
         return false;
     }
-    // Only someone who may rename here can have put another file under the name meanwhile; he gets no TRUE for it.
+    // Only a user who may rename files here can have replaced the file meanwhile. The request then fails.
     if (!stillNamed(target, file)) {
         complain("another file took the place of the new list");
         return false;
@@ -143,7 +143,7 @@ bool ListFolder::replace(const std::string &name, const FileDescriptor &file, co
 
 bool ListFolder::flush() const
 {
-    // Some file systems have nothing to flush for a folder and say EINVAL, see fsync(2).
+    // Some file systems cannot flush a folder and return EINVAL, see fsync(2).
     if (fsync(m_folder.get()) != 0 && errno != EINVAL) {
         complain("cannot flush the folder of the lists to disk", errno);
         return false;

@@ -1,4 +1,4 @@
-// The folder of the list files, held open: everything is done relative to its descriptor.
+// The folder of the list files. It is held open, and all operations are relative to its descriptor.
 #pragma once
 
 #include "helper/Caller.h"
@@ -10,7 +10,7 @@
 
 namespace bv {
 
-// What stands at a name: nothing, a file that may be used, or something that is to be left alone.
+// What exists under a name: nothing, a file that may be used, or something that must not be touched.
 enum class Standing { Missing, Usable, Foreign };
 
 struct FoundFile
@@ -23,29 +23,30 @@ struct FoundFile
 class ListFolder
 {
 public:
-    // Opens the folder under the root; nothing when it is not there or cannot be read.
+    // Opens the folder below the root (BVCO_ROOT). Nothing when it does not exist or cannot be read.
     static std::optional<ListFolder> open();
 
-    // Whether the real user may make and remove files here: the one question that decides who manages profiles.
+    // True if the real user may create and remove files here. This alone decides who may manage profiles.
     bool writableByCaller() const;
-    // Keeps other writers out until this object goes. False when another one has it for longer than the limit, or on
-    // a file system without locks.
+    // Locks out other writers until this object is destroyed. Waits up to 10 seconds for another writer. False after
+    // that, or when the file system has no locks.
     bool lock();
 
-    // Opens what stands at a name and judges the open descriptor: a regular file with one link, of an owner that the
-    // caller accepts for the target. Links are not followed, and nothing but such a file is opened for its contents.
-    // `access` is O_PATH, O_RDONLY or O_RDWR.
+    // Opens a file by name. It is usable when it is a regular file with one link and an owner that the caller accepts
+    // for the target. Does not follow links, and never opens any other kind of file for its contents. `access` is
+    // O_PATH, O_RDONLY or O_RDWR.
     FoundFile find(const std::string &name, int access, const Caller &caller, const ListTarget &target) const;
 
-    // Makes a new file of mode 0644 whatever the umask, open for reading and writing, which the target's user owns
-    // when root is the caller. Fails when the name is taken. The reason of a failure goes to standard error.
+    // Creates a file with mode 0644, whatever the umask, and opens it for reading and writing. When root is the caller,
+    // the target's user becomes the owner. Fails when the name exists. Writes the reason of a failure to standard
+    // error.
     FileDescriptor create(const std::string &name, const Caller &caller, const ListTarget &target) const;
-    // Whether the name still stands for the open file.
+    // True if the name still refers to the open file.
     bool stillNamed(const std::string &name, const FileDescriptor &file) const;
-    // Removes the name if it still stands for the open file.
+    // Removes the name if it still refers to the open file. False when it does not, or on a failure.
     bool removeIfNamed(const std::string &name, const FileDescriptor &file) const;
-    // Flushes the file, renames it over another name and flushes the folder. False with the reason on standard error
-    // when a step fails; the other name then stands for its old or its new file, whole.
+    // Flushes the file, renames it to `target`, and flushes the folder. On a failure returns false and writes the
+    // reason to standard error; `target` is then the whole old file or the whole new file.
     bool replace(const std::string &name, const FileDescriptor &file, const std::string &target) const;
     // Flushes the folder's entries to disk.
     bool flush() const;

@@ -17,7 +17,7 @@ namespace {
 
 constexpr size_t kCopyBytes = size_t{64} << 10;
 
-// The folder, locked, for a caller who may manage profiles.
+// Opens and locks the folder. Nothing when the caller may not manage profiles.
 std::optional<ListFolder> openForWriting()
 {
     auto folder = ListFolder::open();
@@ -50,7 +50,8 @@ bool copyBytes(const FileDescriptor &from, const FileDescriptor &to)
     return got == 0;
 }
 
-// Makes the second file a byte copy of the first, by a new file of a name that only copies use and only under the lock.
+// Copies one file over another. The copy is first written to a temporary file; only copies use its name, and only under
+// the lock.
 bool copyOver(const ListFolder &folder, const Caller &caller, const ListTarget &target, const std::string &from,
               const std::string &to)
 {
@@ -58,7 +59,7 @@ bool copyOver(const ListFolder &folder, const Caller &caller, const ListTarget &
     if (source.standing != Standing::Usable || folder.find(to, O_PATH, caller, target).standing == Standing::Foreign)
         return false;
     const std::string copyName = to + ".copy";
-    const FoundFile left = folder.find(copyName, O_PATH, caller, target); // by a copy that was killed
+    const FoundFile left = folder.find(copyName, O_PATH, caller, target); // left by a killed copy
     if (left.standing == Standing::Foreign ||
         (left.standing == Standing::Usable && !folder.removeIfNamed(copyName, left.file)))
         return false;
@@ -110,7 +111,7 @@ Outcome answerRemove(const Caller &caller, RequestArguments arguments)
     const FoundFile found = folder->find(name, O_PATH, caller, *target);
     if (found.standing != Standing::Usable || !folder->removeIfNamed(name, found.file))
         return outcomeOf(false);
-    folder->flush(); // the file is gone, whether or not the disk knows it yet
+    folder->flush(); // a failed flush does not matter: the file is removed
     return outcomeOf(true);
 }
 

@@ -5,8 +5,9 @@
 
 namespace bv {
 
-// Each takes its arguments in the request's fixed order; their number has been checked. Whoever is not named by a path
-// or URL of his own, and whoever may not write the folder (but for "exist"), gets FALSE and nothing is touched.
+// Each function takes its arguments in the request's fixed order; their number was checked before. Returns FALSE and
+// changes nothing when a path or URL does not name a list of the caller, or when the caller may not write the folder
+// ("exist" does not need this right).
 Outcome answerIsAdmin(const Caller &caller, RequestArguments arguments); // current path
 Outcome answerExist(const Caller &caller, RequestArguments arguments);   // current path
 Outcome answerRemove(const Caller &caller, RequestArguments arguments);  // current or previous path

@@ -1,4 +1,4 @@
-// What the helper does to its own process before it looks at a request.
+// Prepares standard descriptors, signals and ids.
 #include "helper/ProcessStart.h"
 
 #include "helper/Diagnostics.h"
@@ -32,7 +32,7 @@ bool prepareProcess()
     std::signal(SIGXFSZ, SIG_IGN);
 
     const bool idsDiffer = getuid() != geteuid() || getgid() != getegid();
-    // AT_SECURE: the kernel's own word for "started with more rights than the caller's", see getauxval(3).
+    // The kernel sets AT_SECURE when a program starts with more rights than its caller has, see getauxval(3).
     if (!idsDiffer && getauxval(AT_SECURE) == 0)
         return true;
     clearenv();

@@ -1,12 +1,12 @@
-// What the helper does to its own process before it looks at a request.
+// Prepares the helper's own process before a request is read.
 #pragma once
 
 namespace bv {
 
-// Opens /dev/null in the place of missing standard descriptors, so that no list file becomes one of them; ignores
-// SIGPIPE and SIGXFSZ, so that a lost reader or a file size limit is an error and no sudden end. Where real and
-// effective ids differ, empties the environment and gives the effective ids up for good: what a caller may do is
-// what the folder grants to him. False when that fails; then nothing may be done.
+// Opens /dev/null for missing standard descriptors, so that no list file gets their numbers. Ignores SIGPIPE and
+// SIGXFSZ, so that a closed output or a file size limit is an error and does not kill the process. If real and
+// effective ids differ, clears the environment and drops the effective ids for good; then only the rights of the real
+// user count. False on a failure; the process must then do nothing.
 bool prepareProcess();
 
 } // namespace bv

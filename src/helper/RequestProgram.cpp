@@ -1,4 +1,4 @@
-// From a command line to a line of verdict.
+// Runs one request from the command line.
 #include "helper/RequestProgram.h"
 
 #include "helper/Diagnostics.h"

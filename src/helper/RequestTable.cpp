@@ -1,4 +1,4 @@
-// The requests that the helper knows, and how one is answered.
+// The table of requests.
 #include "helper/RequestTable.h"
 
 #include "discovery/WalkWords.h"

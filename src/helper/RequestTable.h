@@ -1,4 +1,4 @@
-// The requests that the helper knows, and how one is answered.
+// The table of the helper's requests, and how a request is answered.
 #pragma once
 
 #include "helper/Caller.h"
@@ -9,30 +9,30 @@
 
 namespace bv {
 
-// What one request comes to: the text behind "NAME=" and the exit status of the process.
+// The result of a request: the text after "NAME=" and the exit status of the process.
 struct Outcome
 {
     std::string verdict;
     int exitStatus;
 };
 
-inline constexpr int kExitDone = 0;    // TRUE, and a walk that ran
+inline constexpr int kExitDone = 0;    // TRUE, or a walk that ran
 inline constexpr int kExitRefused = 1; // FALSE
 inline constexpr int kExitUnknown = 2; // no request of that name and number of arguments
 
-// TRUE or FALSE with its exit status.
+// TRUE or FALSE, with the matching exit status.
 Outcome outcomeOf(bool done);
-// FALSE for what is no request at all.
+// FALSE, for a request that does not exist.
 Outcome unknownRequest();
 
 using RequestArguments = std::span<const std::string_view>;
 
-// Finds the request in the table and carries it out; what is not there, or has another number of arguments, is refused
-// before anything is touched.
+// Looks the request up in the table and runs it. An unknown name or a wrong number of arguments is refused before
+// anything is changed.
 Outcome answerRequest(std::string_view name, RequestArguments arguments, const Caller &caller);
 
-// The line that answers a request: "NAME=VERDICT" and a line end. Control characters in the name are replaced, so that
-// a name that is no request cannot make a second line.
+// The answer line "NAME=VERDICT" with a line end. Replaces control characters in the name, so that an unknown name
+// cannot add a second line.
 std::string answerLine(std::string_view name, const Outcome &outcome);
 
 } // namespace bv

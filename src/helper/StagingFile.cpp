@@ -1,4 +1,4 @@
-// The one file that gathers the pieces of a list until they are committed.
+// Writes pieces and their note, and commits the text.
 #include "helper/StagingFile.h"
 
 #include "helper/Diagnostics.h"
@@ -21,7 +21,7 @@ constexpr std::string_view kFirstPieceBegin = "<?xml";
 constexpr std::string_view kNoteBegin{"\0bvco-sequence ", 15};
 constexpr size_t kNoteBytes = 96;
 
-// The note behind a text of that length: process id, its start time, and the length, padded with line ends.
+// The note after a text of this length: process id, its start time, the length, and line ends as padding.
 std::string noteOf(const ProcessIdentity &owner, size_t textBytes)
 {
     std::array<char, kNoteBytes> numbers = {};
@@ -80,7 +80,7 @@ bool StagingFile::start(std::string_view piece)
     const Staged old = open();
     if (old.sequence == Sequence::Unusable)
         return false;
-    // A new file, so that nobody who had the old one open can go on writing into it.
+    // Creates a new file, so that a process that still has the old one open cannot write into it.
     if (old.sequence != Sequence::None && !m_folder.removeIfNamed(m_name, old.file))
         return false;
     const FileDescriptor file = m_folder.create(m_name, m_caller, m_target);

@@ -1,4 +1,4 @@
-// The one file that gathers the pieces of a list until they are committed.
+// The file that collects the pieces of a list until they are committed.
 #pragma once
 
 #include "helper/Caller.h"
@@ -9,23 +9,23 @@
 
 namespace bv {
 
-// The staging file of one user's list, in a locked folder. Behind its text stands a note of fixed size that says which
-// process the sequence belongs to; it begins with a NUL, which no argument of a process can hold, so no piece can be
-// taken for a note. A file without a whole note is the wreck of a request that was killed, and nobody's.
+// The staging file of one user's list, in a locked folder. After the text comes a note of fixed size that names the
+// process that owns the write sequence. The note begins with a NUL. No process argument can hold a NUL, so no piece can
+// pass for a note. A file without a complete note was left by a killed request and belongs to no process.
 class StagingFile
 {
 public:
-    // The longest text that is gathered, in bytes; a full list has about 518,000.
+    // The size limit of the text in bytes. A full list has about 518,000.
     static constexpr size_t kTextLimit = size_t{4} << 20;
 
-    // Borrows all three for its lifetime.
+    // Borrows all three; they must outlive this object.
     StagingFile(const ListFolder &folder, const Caller &caller, const ListTarget &target);
 
-    // Takes one piece: one that begins with "<?xml" starts the text anew for the caller's sequence, any other is put
-    // behind the text of his own sequence. When a piece cannot be written, the sequence ends and the file goes.
+    // Adds one piece. A piece that begins with "<?xml" starts a new text and sequence; any other is appended to the
+    // text of the caller's own sequence. If it cannot be written, the sequence ends and the file is removed.
     bool add(std::string_view piece);
-    // Checks the text of the caller's own sequence and makes it the current list. The staging file of his sequence, or
-    // a wreck, is gone afterwards in either case; another process's stays.
+    // Checks the text of the caller's own sequence and makes it the current list. In any case removes the staging file
+    // of this sequence, or one without an owner. Keeps the file of another process.
     bool commit();
 
 private:
@@ -45,7 +45,7 @@ private:
     const ListFolder &m_folder;
     const Caller &m_caller;
     const ListTarget &m_target;
-    std::optional<ProcessIdentity> m_owner; // of the caller's sequences
+    std::optional<ProcessIdentity> m_owner; // owner of the caller's sequences
     std::string m_name;
 };
 

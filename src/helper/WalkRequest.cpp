@@ -1,5 +1,5 @@
-// The request to walk the printer's profile table. Only this one of the seven requests needs the SNMP library, whose
-// cryptography would more than double the start of the others; so the walk is a program of its own.
+// The request to walk the printer's profile table. It is a program of its own, because only this one of the seven
+// requests needs the SNMP library. That library would more than double the start time of the others.
 #include "helper/WalkRequest.h"
 
 #include "discovery/WalkWords.h"
@@ -34,8 +34,8 @@ bool isWalk(RequestArguments arguments)
     return true;
 }
 
-// The path of QL70Walk in the folder of this program, by the kernel's word (proc(5), /proc/PID/exe) and no other;
-// empty when it cannot be had.
+// Path of QL70Walk in the folder of this program, taken only from the kernel (/proc/PID/exe, see proc(5)). Empty when
+// it is not available.
 std::string programBeside()
 {
     std::array<char, PATH_MAX> path;

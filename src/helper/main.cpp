@@ -1,4 +1,4 @@
-// QL70Helper: carries out one request of the print dialog and prints one line of verdict.
+// QL70Helper: runs one request of the print dialog and prints a one-line verdict.
 #include "helper/RequestProgram.h"
 
 #include <unistd.h>

@@ -1,4 +1,4 @@
-// Puts the cells of the profile table on the network by the agent library.
+// Serves the cells of the profile table with the agent library.
 #include "simulator/Agent.h"
 
 #include "simulator/Wire.h"
@@ -45,7 +45,7 @@ std::span<const oid> requestedName(const netsnmp_request_info *request)
     return {request->requestvb->name, request->requestvb->name_length};
 }
 
-// The port that a socket is bound to; 0 when it cannot be told.
+// The port that a socket is bound to, or 0 on a failure.
 int boundPort(int socket)
 {
     sockaddr_storage address{};
@@ -61,16 +61,16 @@ int boundPort(int socket)
 Agent::Agent(const Fault *fault) : m_fault(fault)
 {
     theAgent = this;
-    // No MIB files, and none of the library's folders looked through for them; nothing kept in its persistent folder.
+    // Loads no MIB files, searches none of the library's folders, and writes nothing to its persistent folder.
     for (const char *variable : {"MIBS", "MIBDIRS"})
         setenv(variable, "", 1);
     setenv("SNMP_PERSISTENT_DIR", "/dev/null", 1);
     for (const int flag : {NETSNMP_DS_LIB_DONT_READ_CONFIGS, NETSNMP_DS_LIB_DISABLE_PERSISTENT_LOAD,
                            NETSNMP_DS_LIB_DISABLE_PERSISTENT_SAVE})
         netsnmp_ds_set_boolean(NETSNMP_DS_LIBRARY_ID, flag, 1);
-    netsnmp_ds_set_boolean(NETSNMP_DS_APPLICATION_ID, NETSNMP_DS_AGENT_ROLE, 0); // a master, nobody's subagent
+    netsnmp_ds_set_boolean(NETSNMP_DS_APPLICATION_ID, NETSNMP_DS_AGENT_ROLE, 0); // master agent, not a subagent
     netsnmp_ds_set_boolean(NETSNMP_DS_APPLICATION_ID, NETSNMP_DS_AGENT_DONT_LOG_TCPWRAPPERS_CONNECTS, 1);
-    // Access control is the only module wanted: the others would open ports of their own.
+    // Only the access control module is needed. Other modules would open ports of their own.
     static char module[] = "vacm_conf";
     add_to_init_list(module);
     init_agent(kProgram);
@@ -101,7 +101,8 @@ bool Agent::listen(const std::string &address, int port, std::string *problem)
         *problem = "cannot listen on " + place;
         return false;
     }
-    // The library reads and writes through these two: there requests are counted and answers changed.
+    // The library reads and writes datagrams through these functions. They are replaced to count requests and to change
+    // answers.
     m_libraryReceive = transport->f_recv;
     m_librarySend = transport->f_send;
     transport->f_recv = receive;
@@ -195,9 +196,9 @@ void Agent::answerGetNext(netsnmp_agent_request_info *info, netsnmp_request_info
         netsnmp_set_request_error(info, request, SNMP_ERR_GENERR);
         break;
     case Step::Die:
-        std::_Exit(0); // without a word to whoever waits for the answer
+        std::_Exit(0); // ends without an answer
     case Step::End:
-        break; // left as it is: the library goes on to the end of what it serves, noSuchName in version 1
+        break; // unchanged: the library then answers noSuchName, as version 1 wants
     }
 }
 

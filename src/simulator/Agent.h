@@ -1,4 +1,5 @@
-// The SNMP agent of the simulated printer on the agent library. The library is global, so one agent a process.
+// The SNMP agent of the simulated printer, built on the Net-SNMP agent library. The library has global state, so a
+// process can have only one agent.
 #pragma once
 
 #include "simulator/Fault.h"
@@ -15,28 +16,29 @@ namespace sim {
 class Agent
 {
 public:
-    // Borrows the fault's row; null: the printer behaves.
+    // Borrows the fault's row. Null for a printer without a fault.
     explicit Agent(const Fault *fault);
     ~Agent();
     Agent(const Agent &) = delete;
     Agent &operator=(const Agent &) = delete;
 
-    // Opens the UDP port (0: a free one) on an IPv4 or IPv6 address. False, with a sentence, when it cannot.
+    // Opens a UDP port on an IPv4 or IPv6 address; port 0 means any free port. On a failure returns false and sets
+    // *problem to a sentence.
     bool listen(const std::string &address, int port, std::string *problem);
-    // The port that is open.
+    // The open port.
     int port() const { return m_port; }
 
-    // Serves these rows from now on.
+    // Replaces the rows that are served.
     void serve(std::span<const ProfileRow> rows);
 
-    // Calls back when the descriptor can be read, from inside run.
+    // Calls `readable` from inside run() whenever the descriptor can be read.
     void watch(int descriptor, std::function<void()> readable);
 
-    // Answers requests until stop is called, from a call-back of watch, or the fault ends it.
+    // Answers requests until stop() is called from a callback of watch(), or until the fault ends the program.
     void run();
     void stop() { m_stopped = true; }
 
-    // Datagrams that came in so far.
+    // Number of datagrams received.
     long requests() const { return m_requests; }
 
 private:

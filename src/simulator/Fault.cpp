@@ -1,4 +1,4 @@
-// The table of faults, and what each does to the cells and to a step through them.
+// The table of faults, and how each changes the cells or the order of answers.
 #include "simulator/Fault.h"
 
 #include <algorithm>
@@ -39,7 +39,7 @@ void fiveHundredRows(Cells *cells)
     *cells = cellsOf(plainRows(500));
 }
 
-// Leaves every third row out, and the file name of every fifth.
+// Removes every third row, and the file name of every fifth row.
 void withGaps(Cells *cells)
 {
     std::erase_if(*cells, [](const Cell &cell) {
@@ -47,7 +47,7 @@ void withGaps(Cells *cells)
     });
 }
 
-// In every second row numbers are texts and texts are numbers.
+// In every second row, sends texts as numbers and numbers as texts.
 void wrongTypes(Cells *cells)
 {
     for (Cell &cell : *cells) {
@@ -70,7 +70,7 @@ void rowsOutOfRange(Cells *cells)
     sortCells(cells);
 }
 
-// Adds to every column an instance with one index and one with three.
+// Adds to every column one instance with one index and one with three.
 void oddInstances(Cells *cells)
 {
     Cells extra;
@@ -108,7 +108,7 @@ void oddTexts(Cells *cells)
     *cells = cellsOf(rows);
 }
 
-// Another object of the printer behind the table.
+// Adds another object of the printer after the table.
 void withNeighbour(Cells *cells)
 {
     Identifier name(printerRoot().begin(), printerRoot().end());
@@ -149,7 +149,7 @@ bool isNamed(const Cell &cell, std::span<const oid> name)
     return std::equal(cell.name.begin(), cell.name.end(), name.begin(), name.end());
 }
 
-// The step behind the middle cell for the faults that work there.
+// The answer after the middle cell, for faults that change it.
 std::optional<Step> faultyStep(const Cells &cells, size_t middle, Misbehaviour misbehaviour)
 {
     switch (misbehaviour) {
@@ -168,7 +168,7 @@ std::optional<Step> faultyStep(const Cells &cells, size_t middle, Misbehaviour m
     }
 }
 
-// Column 1 goes on for ever: the cell of the next row, made up where the table has none.
+// Makes column 1 endless: invents the cell of the next row where the table has none.
 Step endlessStep(const Cell *next, std::span<const oid> name)
 {
     const Identifier first = cellName(kColumnIndex, 1);

@@ -1,4 +1,4 @@
-// The named ways in which the simulated printer can fail.
+// The faults that the simulated printer can have.
 #pragma once
 
 #include "simulator/ProfileTable.h"
@@ -7,18 +7,18 @@
 
 namespace sim {
 
-// Where a fault works, when it is not in the table's cells.
+// What a fault does apart from changing cells. The "middle" cell is the one after the first half of all cells.
 enum class Misbehaviour {
     None,
-    Silent,       // no request is answered
-    Slow,         // each answer comes late
-    GeneralError, // the cell behind the middle one is an error
-    SameAgain,    // behind the middle cell comes that cell again
-    Decreasing,   // behind the middle cell comes the one before it
-    Cycle,        // behind the last cell comes the first
-    NoVariables,  // behind the middle cell comes an answer without any variable
-    Endless,      // behind the last row of column 1 comes always another
-    Dies,         // the program ends at the middle cell
+    Silent,       // answers no request
+    Slow,         // answers late
+    GeneralError, // an error instead of the cell after the middle one
+    SameAgain,    // the middle cell follows itself
+    Decreasing,   // the cell before the middle one follows it
+    Cycle,        // the first cell follows the last one
+    NoVariables,  // an answer without variables instead of the cell after the middle one
+    Endless,      // column 1 never ends
+    Dies,         // the program exits at the middle cell
 };
 
 struct Fault
@@ -26,15 +26,15 @@ struct Fault
     const char *name;
     const char *description;
     Misbehaviour misbehaviour;
-    void (*alter)(Cells *); // changes the cells; null: leaves them
+    void (*alter)(Cells *); // changes the cells; null when the fault changes none
 };
 
 // All faults, in the order of the help text.
 std::span<const Fault> faults();
-// The fault of a name, or null.
+// The fault with this name, or null.
 const Fault *findFault(std::string_view name);
 
-// What a GETNEXT for a name brings.
+// The answer to a GETNEXT for a name.
 struct Step
 {
     enum Kind { Found, End, Error, Empty, Die } kind = End;

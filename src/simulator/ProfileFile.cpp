@@ -1,4 +1,4 @@
-// Reads the readable list of profiles.
+// Parses the text file with the profiles.
 #include "simulator/ProfileFile.h"
 
 #include <algorithm>
@@ -35,8 +35,8 @@ bool isBlank(char c)
     return c == ' ' || c == '\t' || c == '\r';
 }
 
-// Takes a quoted text off the front of `line`, behind its opening quote; nothing when it does not end or an escape is
-// none of \" \\ \xHH.
+// Removes a quoted text from the front of `line`; the opening quote is already gone. Nothing when the closing quote is
+// missing or an escape is not one of \" \\ \xHH.
 std::optional<std::string> takeQuoted(std::string_view *line)
 {
     std::string text;
@@ -67,7 +67,7 @@ std::optional<std::string> takeQuoted(std::string_view *line)
     return std::nullopt;
 }
 
-// The words of a line up to a "#" that begins one; nothing when a quoted text is broken.
+// Splits a line into words, up to a "#" at the beginning of a word. Nothing when a quoted text is malformed.
 std::optional<std::vector<Word>> words(std::string_view line)
 {
     std::vector<Word> found;
@@ -127,7 +127,7 @@ void takeText(const Word &word, std::optional<std::string> *field)
 class Reader
 {
 public:
-    // One line; an empty text, or what is wrong with it.
+    // Reads one line. Returns an empty text, or a description of the mistake.
     std::string take(std::string_view line)
     {
         const std::optional<std::vector<Word>> found = words(line);
@@ -208,7 +208,7 @@ ProfileFile readProfiles(const std::string &path)
 {
     std::ifstream file(path, std::ios::binary);
     std::ostringstream text;
-    // A folder opens like a file and fails at the first read.
+    // A folder can be opened like a file, but the first read fails.
     if (!file || (file.peek() != std::ifstream::traits_type::eof() && !(text << file.rdbuf())) || file.bad())
         return {{}, "it cannot be read"};
     return parseProfiles(text.str());

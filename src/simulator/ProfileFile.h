@@ -1,4 +1,4 @@
-// The readable list of profiles that the simulated printer serves: one row of the table a line.
+// The text file with the profiles of the simulated printer. Each line is one row of the table.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,7 @@
 
 namespace sim {
 
-// One row of the printer's table; a field without a value is a cell that the table lacks.
+// One row of the printer's table. A field without a value means that the table lacks this cell.
 struct ProfileRow
 {
     uint32_t number = 0; // the row's number in the table, from 1
@@ -24,16 +24,16 @@ struct ProfileRow
 struct ProfileFile
 {
     std::vector<ProfileRow> rows; // by ascending number
-    std::string error;            // a sentence with the line's number; empty when the text was read
+    std::string error;            // a sentence with the line number; empty on success
 };
 
-// Reads the text of a list. Its form is described in README.md.
+// Parses the text of a list. README.md describes the format.
 ProfileFile parseProfiles(std::string_view text);
 
-// Reads a list from a file; one that cannot be read is an error too.
+// Reads a list from a file. A file that cannot be read gives an error too.
 ProfileFile readProfiles(const std::string &path);
 
-// The list of a printer for which no file was given.
+// The built-in list, used when no file is given.
 std::vector<ProfileRow> defaultProfiles();
 
 } // namespace sim

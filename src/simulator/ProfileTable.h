@@ -1,4 +1,4 @@
-// The printer's profile table as SNMP sees it: cells in the order of their identifiers.
+// The printer's profile table as SNMP cells, sorted by identifier.
 #pragma once
 
 #include "simulator/ProfileFile.h"
@@ -34,20 +34,20 @@ enum Column : oid {
     kColumnAvailability = 7,
 };
 
-// What the printer answers for: the folder of its tables.
+// The prefix of all identifiers that the printer serves.
 std::span<const oid> printerRoot();
 
-// The identifier of a cell: entry, column, first index (always 1), row number.
+// Identifier of a cell: table entry, column, first index (always 1), row number.
 Identifier cellName(oid column, oid row);
 
-// The cells of some rows, sorted.
+// The sorted cells of these rows.
 Cells cellsOf(std::span<const ProfileRow> rows);
 
 void sortCells(Cells *cells);
 
-// The cell of exactly this name, or null.
+// The cell with exactly this name, or null.
 const Cell *findCell(const Cells &cells, std::span<const oid> name);
-// The first cell behind a name, or null.
+// The first cell after a name, or null.
 const Cell *nextCell(const Cells &cells, std::span<const oid> name);
 
 } // namespace sim

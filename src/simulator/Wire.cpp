@@ -1,4 +1,4 @@
-// Takes an SNMP message apart by the Basic Encoding Rules (X.690) and puts it together again.
+// Decodes an SNMP message by the Basic Encoding Rules (X.690) and encodes it again.
 #include "simulator/Wire.h"
 
 #include <optional>
@@ -12,7 +12,7 @@ constexpr u_char kGetResponse = 0xa2;
 
 using Bytes = std::span<const u_char>;
 
-// One element at the front of some bytes: header and contents.
+// The element at the front of some bytes: header and contents.
 struct Element
 {
     Bytes whole;
@@ -39,7 +39,7 @@ std::optional<Element> firstElement(Bytes bytes)
     return Element{bytes.first(header + length), bytes.subspan(header, length)};
 }
 
-// The first `count` elements as one run of bytes.
+// The bytes of the first `count` elements.
 std::optional<Bytes> firstElements(Bytes bytes, int count)
 {
     size_t size = 0;
@@ -52,7 +52,7 @@ std::optional<Bytes> firstElements(Bytes bytes, int count)
     return bytes.first(size);
 }
 
-// An element of fewer than 128 bytes of contents.
+// Encodes an element with fewer than 128 bytes of contents.
 std::vector<u_char> element(u_char tag, Bytes first, Bytes second)
 {
     std::vector<u_char> bytes = {tag, static_cast<u_char>(first.size() + second.size())};

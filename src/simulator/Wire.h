@@ -1,4 +1,4 @@
-// Changes to SNMP messages on their way out, for answers that the agent library cannot be made to give.
+// Changes outgoing SNMP messages, for answers that the agent library cannot produce.
 #pragma once
 
 #include <span>
@@ -8,7 +8,7 @@
 
 namespace sim {
 
-// An SNMPv1 answer (RFC 1157, 4) with its list of variables emptied; an empty vector when the message is no answer.
+// Returns the SNMPv1 answer (RFC 1157, 4) without its variables. An empty vector when the message is not an answer.
 std::vector<u_char> withoutVariables(std::span<const u_char> message);
 
 } // namespace sim

@@ -1,4 +1,4 @@
-// ql70sim: the simulated printer, serving its table of colour profiles over SNMP version 1.
+// ql70sim: the simulated printer. Serves its table of color profiles over SNMP version 1.
 #include "simulator/Agent.h"
 
 #include <array>
@@ -99,7 +99,7 @@ Options parseArguments(int argc, char **argv)
             printHelp();
             std::exit(0);
         default:
-            std::exit(kExitUsage); // getopt_long(3) has said what is wrong
+            std::exit(kExitUsage); // getopt_long(3) has printed a message
         }
     }
     if (optind < argc)
@@ -115,14 +115,14 @@ sim::ProfileFile profilesFor(const Options &options)
                                     : sim::readProfiles(options.profiles);
 }
 
-// Signals become bytes in a pipe that the agent's loop watches, so none is lost between two rounds of it.
+// Signals are written as bytes into a pipe that the agent's loop watches, so none is lost.
 int signalPipe[2];
 
 void noteSignal(int number)
 {
     const auto byte = static_cast<unsigned char>(number);
     if (write(signalPipe[1], &byte, 1) != 1)
-        return; // the pipe is full of signals that are yet to be seen
+        return; // the pipe is full of unread signals
 }
 
 bool catchSignals()
@@ -136,7 +136,7 @@ bool catchSignals()
     return true;
 }
 
-// A list that cannot be read leaves the printer with the one that it has.
+// Reads the list again. If it has a mistake, the printer keeps its old list.
 void reload(const Options &options, sim::Agent *agent)
 {
     const sim::ProfileFile file = profilesFor(options);

@@ -1,4 +1,4 @@
-// Answers the list requests of code that runs inside the helper, without a further process.
+// Passes list requests to the helper's request table.
 #include "walker/DirectTransport.h"
 
 #include "helper/RequestTable.h"

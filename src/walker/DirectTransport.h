@@ -1,4 +1,4 @@
-// Answers the list requests of code that runs inside the helper, without a further process.
+// Answers list requests inside the helper's own process, without starting another one.
 #pragma once
 
 #include "helper/Caller.h"
@@ -12,7 +12,7 @@ public:
     explicit DirectTransport(const Caller &caller);
 
     bool available() override;
-    // The answer line to a list request; the walk is refused, since it is what runs.
+    // Returns the answer line of a list request. Refuses a walk, since one is running already.
     std::optional<std::string> run(std::string_view request, std::span<const std::string> arguments) override;
 
 private:

@@ -1,4 +1,4 @@
-// Carries out a walk request.
+// Runs a walk request.
 #include "walker/Walk.h"
 
 #include "discovery/ProfileWalk.h"
@@ -36,7 +36,7 @@ Outcome runWalk(std::string_view name, RequestArguments arguments, const Caller 
     const int32_t status = mib_walk(static_cast<int32_t>(words.size()), vector.data());
 
     setHelperTransport(before);
-    // What the walk printed stands before the verdict.
+    // The output of the walk must come before the verdict.
     std::fflush(stdout);
     return {std::string(kWalkMark) + std::to_string(status), kExitDone};
 }

@@ -1,5 +1,5 @@
-// QL70Walk: the walk of the printer's profile table. QL70Helper becomes this program for that one request, so whoever
-// asked goes on reading the same process; nobody else calls it.
+// QL70Walk: walks the printer's profile table. QL70Helper replaces itself by this program for a walk request, so the
+// caller keeps reading from the same process. Nothing else starts it.
 #include "helper/RequestProgram.h"
 #include "walker/Walk.h"
 
@@ -7,6 +7,6 @@
 
 int main(int argc, char **argv)
 {
-    // The pieces that the walk writes are its own sequence and not its parent's.
+    // The pieces that the walk writes belong to this process, not to its parent.
     return bv::runRequestProgram(argc, argv, getpid(), bv::runWalk);
 }
