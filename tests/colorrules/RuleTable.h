@@ -1,4 +1,4 @@
-// A control table with every control that the rules name, built in the test: no interface file, no PPD.
+// A control table with all controls that the rules name. It needs no interface file and no PPD.
 #pragma once
 
 #include "colorrules/OptionConstraints.h"

@@ -1,4 +1,4 @@
-// What a greyed-out control says, and that it stops saying it.
+// Reasons shown for greyed-out controls, and their removal.
 #include "RuleTable.h"
 #include "colorrules/GreyedReasons.h"
 
@@ -6,7 +6,7 @@
 
 namespace {
 
-TEST(GreyedReasons, NameTheConditionThatHoldsAndGoAway)
+TEST(GreyedReasons, NameTheCurrentConditionAndDisappearWithIt)
 {
     bvtest::RuleTable t;
     t.box("ColorAsGrayCheckBox")->setChecked(true);

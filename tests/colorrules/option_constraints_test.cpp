@@ -1,4 +1,4 @@
-// The rules on live controls, and the evaluator on expressions that the table does not use.
+// The rules applied to live controls, and the evaluator on expressions that the rule table does not contain.
 #include "RuleTable.h"
 
 #include <gtest/gtest.h>
@@ -7,7 +7,7 @@ using bvtest::RuleTable;
 
 namespace {
 
-TEST(Rules, GrayAndSeparationBothOnEndWithGray)
+TEST(Rules, GrayWinsWhenGrayAndSeparationAreBothOn)
 {
     RuleTable t;
     t.box("ColorAsGrayCheckBox")->setChecked(true);
@@ -25,7 +25,7 @@ TEST(Rules, GrayAndSeparationBothOnEndWithGray)
     EXPECT_TRUE(t.enabled("ColorSeparationCheckBox"));
 }
 
-TEST(Rules, GrayGreysOutAllColourMenusAndLeavesTheirValues)
+TEST(Rules, GrayGreysOutAllColorMenusAndKeepsTheirValues)
 {
     RuleTable t;
     t.menu("ImageRGBSourcePopup")->setCurrentIndex(2);
@@ -63,7 +63,7 @@ TEST(Rules, AFirstItemGreysOutWhatDependsOnIt)
     EXPECT_TRUE(t.enabled("SimulationRenderIntentPopup"));
 }
 
-TEST(Rules, EconomySparesTextEdges)
+TEST(Rules, EconomyDoesNotGreyOutTextEdges)
 {
     RuleTable t;
     t.menu("EdgeTypePopup")->setCurrentIndex(1);
@@ -77,14 +77,14 @@ TEST(Rules, EconomySparesTextEdges)
     EXPECT_FALSE(t.enabled("TextEdgeEnhancePopup"));
 }
 
-TEST(Rules, TablesThatLackRowsOrAreEmpty)
+TEST(Rules, EmptyTablesAndMissingRowsAreHarmless)
 {
     PDEControlItem empty[] = {endControlItem()};
     vColorPresetConstraints(empty);
     vColorPresetConstraints(nullptr);
     EXPECT_EQ(bMatchCondition(0, empty), 0);
 
-    // A target without the control of its condition: the condition is false, so the target is enabled.
+    // The table has the target but not the control of the condition. The condition is false, so the target is enabled.
     QPushButton button;
     button.setEnabled(false);
     PDEControlItem lone[] = {
@@ -93,7 +93,7 @@ TEST(Rules, TablesThatLackRowsOrAreEmpty)
     EXPECT_TRUE(button.isEnabled());
 }
 
-// Conditions on a check box that is on (value 1) and on a menu at its third item (value 3).
+// Conditions on a check box that is on (value 1) and a menu with the third item selected (value 3).
 TEST(Evaluator, OperatorsAndExpressions)
 {
     RuleTable t;
@@ -116,7 +116,7 @@ TEST(Evaluator, OperatorsAndExpressions)
     EXPECT_FALSE(bv::conditionHolds({"edgetypepopup", 3, kCSTEqual}, t.table()));
 
     const CSTCondition trueFalse[] = {{"EconoModeCheckBox", 1, kCSTEqual}, {"EconoModeCheckBox", 0, kCSTEqual}};
-    std::vector<int32_t> long41(40, 1); // no end token among forty: the or behind them is not read
+    std::vector<int32_t> long41(40, 1); // the first 40 tokens have no end token: the "or" after them is not read
     long41.insert(long41.end(), {kCSTOr, kCSTEnd});
     const CSTCondition falseTrue[] = {{"EconoModeCheckBox", 0, kCSTEqual}, {"EconoModeCheckBox", 1, kCSTEqual}};
     struct
@@ -132,7 +132,7 @@ TEST(Evaluator, OperatorsAndExpressions)
         {falseTrue, 2, {kCSTOpen, 0, 1, kCSTClose, kCSTOr, kCSTEnd}, 1},
         {falseTrue, 1, {0, 1, kCSTOr, kCSTEnd}, 0}, // a condition beyond the count is false
         {falseTrue, 0, {kCSTEnd}, 0},
-        {trueFalse, 2, {kCSTAnd, kCSTEnd}, 0}, // an operator without an operand takes false
+        {trueFalse, 2, {kCSTAnd, kCSTEnd}, 0}, // a missing operand counts as false
         {falseTrue, 2, {999, kCSTOr, 1, kCSTOr, kCSTEnd}, 1},
         {falseTrue, 2, long41, 0},
     };

@@ -1,5 +1,5 @@
-// The world of the dialog's tests: a folder of its own, PPD files, a source of queues that can fail, and a panel that
-// is not ours.
+// Fixture of the dialog's tests: a scratch folder, PPD files, a source of queues that can fail, and a panel that is not
+// ours.
 #pragma once
 
 #include "dialog/PrintDialog.h"
@@ -15,7 +15,7 @@
 
 namespace bvtest {
 
-// A PPD with the foreign panel's option, paper, two-sided printing and two rules of what does not go together.
+// A PPD with the foreign panel's option, paper sizes, two-sided printing and two constraints.
 inline QByteArray panelPpd()
 {
     return R"ppd(*PPD-Adobe: "4.3"
@@ -44,13 +44,13 @@ inline QByteArray panelPpd()
 )ppd";
 }
 
-// The same without anything that the panel is for.
+// The same without the panel's options.
 inline QByteArray plainPpd()
 {
     return panelPpd().replace("TPToner", "XXToner");
 }
 
-// Takes jobs and keeps them, or refuses them.
+// Keeps the jobs it gets, or refuses them.
 class RecordingSink final : public bv::JobSink
 {
 public:
@@ -66,7 +66,7 @@ public:
     std::vector<bv::JobRequest> jobs;
 };
 
-// Queues by name with the PPD file of each; a queue with an empty path has none.
+// Queues by name, with the path of each PPD file. An empty path means that the queue has no PPD.
 class FakeSource final : public bv::QueueSource
 {
 public:
@@ -96,7 +96,7 @@ public:
     QString failure;
     std::vector<bv::PrintQueue> listed;
     QMap<QString, QString> ppdPaths;
-    mutable QSemaphore asked; // one for each PPD that was asked for
+    mutable QSemaphore asked; // released once for each requested PPD
 };
 
 class DialogTest : public ::testing::Test

@@ -1,5 +1,5 @@
-// The keyboard alone: tabs through the whole dialog, with a foreign pane and with ours, and fails on a control that is
-// not reached or that nobody can name.
+// Keyboard access: tabs through the whole dialog, with a foreign pane and with ours. Every control must be reached and
+// must have an accessible name.
 #include "DialogWorld.h"
 
 #include <QAbstractButton>
@@ -23,9 +23,8 @@ struct TestedPane
 {
     const char *name;
     QString plugin;
-    QString ppd; // empty: the foreign panel's own
-    // A pop-up whose last choice enables a button, and the button, which brings other controls into sight; may be
-    // empty.
+    QString ppd; // empty: the PPD of the foreign panel
+    // `popUp`: its last choice enables the button `turning`, which shows other controls. Both may be empty.
     QString popUp;
     QString turning;
 };
@@ -44,7 +43,7 @@ class Keyboard : public bvtest::DialogTest, public ::testing::WithParamInterface
 protected:
     void SetUp() override
     {
-        // Whatever the pane would open of the system, it finds none of it here.
+        // The pane must find none of the machine's own files.
         qputenv("BVCO_ROOT", folder.path().toUtf8());
         DialogTest::SetUp();
         loadPlugin(GetParam().plugin);
@@ -61,7 +60,7 @@ protected:
         qunsetenv("BVCO_ROOT");
     }
 
-    // The controls in sight that the keyboard is to reach.
+    // The visible controls that the keyboard must reach.
     QList<QWidget *> controls()
     {
         QList<QWidget *> found;
@@ -75,7 +74,7 @@ protected:
         return found;
     }
 
-    // Presses Tab until the focus comes round; the widgets that had it, in order.
+    // Presses the key until a widget gets the focus again. Returns the focused widgets in order.
     QList<QWidget *> tabRound(Qt::Key key)
     {
         QList<QWidget *> reached;
@@ -89,7 +88,7 @@ protected:
         return reached;
     }
 
-    // Arrow keys go through a group of radio buttons, so one of them is enough.
+    // Arrow keys move through a group of radio buttons, so Tab needs to reach only one of them.
     static bool reachedByArrows(QWidget *widget, const QList<QWidget *> &reached)
     {
         if (!qobject_cast<QRadioButton *>(widget))
@@ -99,7 +98,7 @@ protected:
         });
     }
 
-    // A name that does not change with the value: a combo box without one would answer its current text.
+    // True if the widget has a fixed name. A combo box without one would be read out by its current text.
     bool hasName(const QWidget *widget)
     {
         if (!widget->accessibleName().isEmpty() || qobject_cast<const QTabBar *>(widget))
@@ -161,7 +160,7 @@ TEST_P(Keyboard, ReachesEveryControlAndEachHasAName)
     expectAllPagesReached(GetParam().name + std::string(" after ") + GetParam().turning.toStdString());
 }
 
-TEST_P(Keyboard, GoesThroughTheWindowFromTopToBottomHoweverWideItIs)
+TEST_P(Keyboard, FollowsTheLayoutFromTopToBottomAtAnyWidth)
 {
     for (const int width : {1024, 1500, 1000}) {
         dialog->resize(width, 600);

@@ -1,4 +1,4 @@
-// The dialog's parts by themselves: summary, watcher, documents, the survey of other queues, rows.
+// The parts of the dialog by themselves: summary, change watcher, document list, survey of queues, option rows.
 #include "DialogWorld.h"
 
 #include "dialog/PaneSurvey.h"
@@ -21,7 +21,7 @@ using namespace bv;
 
 namespace {
 
-TEST(Summary, FollowsTheOrderArrayAndPassesOverWhatHasNoText)
+TEST(Summary, FollowsTheOrderArrayAndSkipsValuesWithoutText)
 {
     PrintDictionary summary;
     summary.setValue("B", "two");
@@ -44,7 +44,7 @@ TEST(Summary, ShowsMarkupAsText)
     EXPECT_TRUE(view.toPlainText().contains("1 < 2 & 3"));
 }
 
-TEST(ChangeWatcherTest, TellsManyChangesOfOneTurnOnce)
+TEST(ChangeWatcherTest, ReportsSeveralChangesOfOneTurnOnce)
 {
     QWidget root;
     auto *combo = new QComboBox(&root);
@@ -60,7 +60,7 @@ TEST(ChangeWatcherTest, TellsManyChangesOfOneTurnOnce)
     EXPECT_EQ(changed.count(), 1);
 }
 
-TEST(ChangeWatcherTest, FollowsControlsThatAreMadeLater)
+TEST(ChangeWatcherTest, WatchesControlsThatAreAddedLater)
 {
     QWidget root;
     root.show();
@@ -80,7 +80,7 @@ TEST(ChangeWatcherTest, FollowsControlsThatAreMadeLater)
 
 using DialogParts = bvtest::DialogTest;
 
-TEST_F(DialogParts, TakesFilesOnceAndSaysWhatItLeavesOut)
+TEST_F(DialogParts, AddsEachFileOnceAndReportsUnreadableOnes)
 {
     DocumentList documents;
     QSignalSpy refused(&documents, &DocumentList::refused);
@@ -92,7 +92,7 @@ TEST_F(DialogParts, TakesFilesOnceAndSaysWhatItLeavesOut)
     EXPECT_EQ(refused[0][0].toString().count('\n'), 1);
 }
 
-TEST_F(DialogParts, TakesDroppedFilesOfThisMachineOnly)
+TEST_F(DialogParts, AcceptsOnlyLocalFilesFromADrop)
 {
     DocumentList documents;
     QSignalSpy refused(&documents, &DocumentList::refused);
@@ -104,7 +104,7 @@ TEST_F(DialogParts, TakesDroppedFilesOfThisMachineOnly)
     EXPECT_EQ(refused.count(), 1);
 }
 
-TEST_F(DialogParts, LookThroughTheOtherQueuesOnlyOnceSomebodyListens)
+TEST_F(DialogParts, SurveyTheQueuesOnlyAfterStart)
 {
     PaneSurvey survey(source, {"Plain", "Second", "Bare"}, {"TPStamp", "TPToner"});
     EXPECT_FALSE(source.asked.tryAcquire(1, 50));
@@ -116,7 +116,7 @@ TEST_F(DialogParts, LookThroughTheOtherQueuesOnlyOnceSomebodyListens)
     EXPECT_TRUE(found[1][1].toString().contains("driver"));
 }
 
-TEST_F(DialogParts, HoldTheTicketsChoicesAndTakeDefaultsForUnknownOnes)
+TEST_F(DialogParts, ShowTheTicketsChoicesAndDefaultsForUnknownOnes)
 {
     Result<PpdFile> ppd = source.ppd("Paper");
     ASSERT_TRUE(ppd);

@@ -1,4 +1,4 @@
-// Tests of the dialog as its user meets it, on a panel that is not ours: opening, changing, switching, printing.
+// The dialog from the user's side, with a panel that is not ours: opening, changing, switching, printing.
 #include "DialogWorld.h"
 
 #include "widgets/MessageBar.h"
@@ -29,7 +29,7 @@ protected:
     QString place() { return dialog->parts().placeText(); }
     QComboBox *toner() { return visibleControl<QComboBox>("tonerMenu"); }
 
-    // The control of that name in sight; another queue's pane may have one as well.
+    // The visible control of that name. Other queues' panes may have hidden ones.
     template <typename Widget> Widget *visibleControl(const char *name)
     {
         for (Widget *widget : dialog->findChildren<Widget *>(QLatin1String(name))) {
@@ -50,7 +50,7 @@ protected:
         }
     }
 
-    // Presses Print; true when the dialog closed with the job sent.
+    // Presses Print. True when the job was sent and the dialog closed.
     bool print()
     {
         QSignalSpy printed(dialog.get(), &PrintDialog::printed);
@@ -61,7 +61,7 @@ protected:
     }
 };
 
-TEST_F(Dialog, PaintsAndSaysThatItPreparesBeforeAnythingCanWait)
+TEST_F(Dialog, PaintsAndShowsThatItIsBusyBeforeAnyWait)
 {
     make({QString(), std::nullopt, {document}});
     EXPECT_NE(QGuiApplication::overrideCursor(), nullptr);
@@ -79,7 +79,7 @@ TEST_F(Dialog, PaintsAndSaysThatItPreparesBeforeAnythingCanWait)
     EXPECT_EQ(find<QLabel>("paneTitle")->text(), "Paper Stamp");
 }
 
-TEST_F(Dialog, RestoreDefaultsTakesPaneAndRowsBackButLeavesTheJobAlone)
+TEST_F(Dialog, RestoreDefaultsResetsPaneAndRowsButNotTheJobsOwnRows)
 {
     PrintDictionary ticket;
     ticket.setValue("TPToner", "Rich");
@@ -121,7 +121,7 @@ TEST_F(Dialog, SendsWhatItShows)
     EXPECT_EQ(dialog->result(), QDialog::Accepted);
 }
 
-TEST_F(Dialog, RemembersAQueuesChoicesOnceTheJobIsSentAndNothingOnCancel)
+TEST_F(Dialog, RemembersChoicesWhenTheJobIsSentButNotOnCancel)
 {
     open();
     QTest::keyClick(toner(), Qt::Key_Down);
@@ -144,7 +144,7 @@ TEST_F(Dialog, RemembersAQueuesChoicesOnceTheJobIsSentAndNothingOnCancel)
     EXPECT_FALSE(remembered->load("Second"));
 }
 
-TEST_F(Dialog, SwitchingQueuesSwapsTheValuesAndKeepsEachPane)
+TEST_F(Dialog, SwitchingQueuesKeepsThePaneAndValuesOfEach)
 {
     open();
     QComboBox *first = toner();
@@ -161,7 +161,7 @@ TEST_F(Dialog, SwitchingQueuesSwapsTheValuesAndKeepsEachPane)
     EXPECT_EQ(firstOfSummary(), "Toner: Save");
 }
 
-TEST_F(Dialog, SaysWhyAQueueHasNoPaneAndPrintsToItAllTheSame)
+TEST_F(Dialog, ExplainsAMissingPaneAndPrintsWithoutIt)
 {
     open({"Plain", std::nullopt, {document}});
     EXPECT_TRUE(place().contains("Plain"));
@@ -170,7 +170,7 @@ TEST_F(Dialog, SaysWhyAQueueHasNoPaneAndPrintsToItAllTheSame)
     EXPECT_EQ(sink.jobs[0].options.at("PageSize"), "A4");
 }
 
-TEST_F(Dialog, TakesTheDefaultQueueAndSaysWhatStateItIsIn)
+TEST_F(Dialog, ChoosesTheDefaultQueueAndShowsItsState)
 {
     source.listed[0].isDefault = false;
     source.listed[1].isDefault = true;
@@ -190,7 +190,7 @@ TEST_F(Dialog, TakesTheDefaultQueueAndSaysWhatStateItIsIn)
     EXPECT_EQ(sink.jobs.size(), 1U);
 }
 
-TEST_F(Dialog, FindsTheQueuesWithoutPaneInTheBackground)
+TEST_F(Dialog, MarksQueuesWithoutPaneInTheBackground)
 {
     open();
     auto *printers = find<QComboBox>("printer");
@@ -202,7 +202,7 @@ TEST_F(Dialog, FindsTheQueuesWithoutPaneInTheBackground)
     EXPECT_FALSE(marked("Second"));
 }
 
-TEST_F(Dialog, ShowsAQueueWithoutDriverAsUnusableOffersToTryAgainAndKeepsItsTicket)
+TEST_F(Dialog, AQueueWithoutDriverCannotPrintOffersARetryAndKeepsItsTicket)
 {
     PrintDictionary ticket;
     for (const char *key : {"copies", "page-ranges"})
@@ -227,7 +227,7 @@ TEST_F(Dialog, ShowsAQueueWithoutDriverAsUnusableOffersToTryAgainAndKeepsItsTick
         << "the dialog's own rows say these";
 }
 
-TEST_F(Dialog, SurvivesAPrintServerThatIsNotThereAndLooksAgain)
+TEST_F(Dialog, ReportsAMissingPrintServerAndCanTryAgain)
 {
     source.failure = "The print server cannot be reached. Start it and try again.";
     open();
@@ -240,7 +240,7 @@ TEST_F(Dialog, SurvivesAPrintServerThatIsNotThereAndLooksAgain)
     EXPECT_TRUE(find<QPushButton>("print")->isEnabled());
 }
 
-TEST_F(Dialog, AFailedJobIsSaidAndLosesNoChoice)
+TEST_F(Dialog, AFailedJobIsReportedAndKeepsAllChoices)
 {
     open();
     QTest::keyClick(toner(), Qt::Key_Down);
@@ -257,7 +257,7 @@ TEST_F(Dialog, AFailedJobIsSaidAndLosesNoChoice)
     EXPECT_EQ(sink.jobs[0].options.at("TPToner"), "Save");
 }
 
-TEST_F(Dialog, APanelThatRefusesStopsTheJobAndIsNotLeft)
+TEST_F(Dialog, ARefusingPanelStopsTheJobAndTheSwitchOfQueues)
 {
     for (const char *word : {"refuse", "hold"}) {
         open();
@@ -274,7 +274,7 @@ TEST_F(Dialog, APanelThatRefusesStopsTheJobAndIsNotLeft)
     EXPECT_EQ(dialog->messageText(), "The stamp is not to be used.");
 }
 
-TEST_F(Dialog, SaysWhatAPanelDidNotTakeOfATicket)
+TEST_F(Dialog, ReportsTicketValuesThatThePanelRefused)
 {
     PrintDictionary ticket;
     ticket.setValue("TPStamp", "odd");
@@ -335,7 +335,7 @@ TEST_F(Dialog, EnterPrintsAndEscapeCancels)
     EXPECT_EQ(dialog->result(), QDialog::Rejected);
 }
 
-TEST_F(Dialog, NothingStopsOrChangesAJobThatIsBeingSent)
+TEST_F(Dialog, AJobBeingSentCannotBeStoppedOrChanged)
 {
     open();
     QSignalSpy printed(dialog.get(), &PrintDialog::printed);
@@ -349,7 +349,7 @@ TEST_F(Dialog, NothingStopsOrChangesAJobThatIsBeingSent)
     EXPECT_EQ(sink.jobs.at(0).queue, "Paper");
 }
 
-TEST_F(Dialog, DrivesThePanelInOrderAndLetsItGoBeforeThePlugIn)
+TEST_F(Dialog, CallsThePanelInOrderAndDeletesItBeforeThePlugIn)
 {
     const QString log = folder.filePath("calls");
     qputenv("TESTPANEL_LOG", log.toUtf8());
@@ -377,7 +377,7 @@ TEST_F(Dialog, DrivesThePanelInOrderAndLetsItGoBeforeThePlugIn)
     for (const char *once : {"made", "panelView", "restoreValues", "terminate",
                              "PPDOptionKeyValueDidChange PageSize A6", "PPDOptionKeyValueDidChange PageSize A4"})
         EXPECT_EQ(order.count(once), 1) << once;
-    // The refused job is left and entered again.
+    // The refused job caused a second round of these calls.
     for (const char *twice : {"willShow", "shouldHide", "shouldPrint"})
         EXPECT_EQ(order.count(twice), 2) << twice;
 }

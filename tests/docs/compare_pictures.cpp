@@ -1,7 +1,6 @@
-// compare_pictures WANTED FOUND: whether every picture of the folder WANTED looks the same in the folder FOUND.
-// Compared are the colors and the edges of cells of about 16 by 16 pixels. Letters that are drawn a little darker or
-// half a pixel aside change either by little. A control that is gone changes its edges, one that is greyed out its
-// colors.
+// compare_pictures WANTED FOUND: checks that every picture in the folder WANTED looks the same in the folder FOUND.
+// Compares colors and edges in cells of about 16 by 16 pixels. Letters drawn a little darker or half a pixel off make a
+// small difference. A missing control changes the edges, a greyed one the colors.
 #include <QDir>
 #include <QFontInfo>
 #include <QGuiApplication>
@@ -14,13 +13,13 @@ namespace {
 
 constexpr int kCell = 16;         // pixels
 constexpr int kSizeTolerance = 6; // pixels, in each direction
-// Levels of 255 in the worst channel of the worst cell. Another hinting of the letters gives 15 and 32; a greyed button
-// that is gone gives 9 and 63.
+// Largest allowed difference in the worst channel of the worst cell, from 0 to 255. Another hinting of letters gives 15
+// (colors) and 32 (edges); a missing greyed button gives 9 and 63.
 constexpr int kColorTolerance = 22;
 constexpr int kEdgeTolerance = 46;
 constexpr int kSkipped = 77;
 
-// White where a pixel differs from its left or upper neighbor, however little that is seen.
+// White where a pixel differs at all from its left or upper neighbor.
 QImage edges(const QImage &picture)
 {
     constexpr int kStep = 6;

@@ -1,4 +1,4 @@
-// Settings in PostScript documents of every shape that a print chain makes.
+// Settings added to the kinds of PostScript documents that a print chain produces.
 #include "filter/DocumentRewriter.h"
 
 #include <gmock/gmock.h>
@@ -12,7 +12,7 @@ namespace {
 using bv::DocumentRewriter;
 using bv::Settings;
 
-// In expected texts: the settings as features, with line ends of the document's kind.
+// Stands for the settings in expected texts. Their line ends are those of the document.
 constexpr char kFeatures[] = "<settings>";
 
 const Settings kSettings = {{"BVA", "x", "/a"}, {"BVB", "y", "/b"}};
@@ -33,7 +33,7 @@ std::string replaced(std::string text, const std::string &from, const std::strin
     return text;
 }
 
-// What comes out, with the input arriving in pieces of some bytes.
+// The rewritten document. The input arrives in pieces of `pieceBytes`.
 std::string rewritten(const std::string &document, size_t pieceBytes, const Settings &settings = kSettings,
                       int *sheets = nullptr)
 {
@@ -120,7 +120,7 @@ TEST(DocumentRewriter, PutsTheSettingsIntoEachDocumentOnce)
 {
     for (const Document &document : documents()) {
         for (const char *lineEnd : {"\n", "\r", "\r\n"}) {
-            // Sections of counted bytes would not keep their length.
+            // The byte counts of binary sections would be wrong after the conversion to CR LF.
             if (std::string(lineEnd) == "\r\n" && document.input.find("Binary") != std::string::npos)
                 continue;
             const std::string input = replaced(document.input, "\n", lineEnd);
@@ -133,9 +133,9 @@ TEST(DocumentRewriter, PutsTheSettingsIntoEachDocumentOnce)
     }
 }
 
-TEST(DocumentRewriter, KeepsBytesOfAnySizeAndKindAsTheyAre)
+TEST(DocumentRewriter, CopiesAllOtherBytesUnchanged)
 {
-    // Bytes that look like comments but begin no line, lines longer than any buffer, and the buffer's end everywhere.
+    // Text that looks like comments inside a line, lines longer than any buffer, and buffer ends at every position.
     std::string body;
     for (unsigned i = 0; i < 1000000; ++i)
         body += char((i * 2654435761U) >> 24) == '\n' || char((i * 2654435761U) >> 24) == '\r'

@@ -1,4 +1,4 @@
-// What a job's options mean for its documents.
+// Settings that result from a job's options.
 #include "filter/JobSettings.h"
 
 #include "profiles/DevicePath.h"
@@ -25,7 +25,7 @@ protected:
 
     bv::JobSettings of(const std::string &options) { return bv::jobSettings(m_ppd.get(), options.c_str()); }
 
-    // Choices by option; no option twice.
+    // The resulting choices by option. Fails if an option appears twice.
     std::map<std::string, std::string> choices(const std::string &options)
     {
         std::map<std::string, std::string> found;
@@ -42,7 +42,7 @@ std::string profile(const std::string &option, const std::string &path, const st
     return " " + option + "Custom" + flag + " " + option + "CustomFilename=" + bv::encodeDevicePath(path);
 }
 
-TEST_F(JobSettings, APresetDecidesAboutAllItsOptionsWhateverElseTheJobSays)
+TEST_F(JobSettings, APresetOverridesTheJobsOwnChoices)
 {
     const auto photo = choices("BVQuickColor=Photo BVImageRenderIntent=Saturation BVTextHalftone=Detail" +
                                profile("BVImageRGBSource", "/ata1a/data/USfiles/Profiles/a.icc"));
@@ -55,7 +55,7 @@ TEST_F(JobSettings, APresetDecidesAboutAllItsOptionsWhateverElseTheJobSays)
     EXPECT_EQ(choices("").at("BVTextRenderIntent"), "Saturation");
 }
 
-TEST_F(JobSettings, EconomyPrintTakesEdgesFromSomeObjectsOfAPreset)
+TEST_F(JobSettings, EconomyPrintTurnsOffSomeEdgesOfAPreset)
 {
     const auto edges = [this](const std::string &options) {
         const auto found = choices(options);
@@ -67,7 +67,7 @@ TEST_F(JobSettings, EconomyPrintTakesEdgesFromSomeObjectsOfAPreset)
     EXPECT_EQ(edges("BVQuickColor=Presentation BVEconoMode"), "OffOnOff");
 }
 
-TEST_F(JobSettings, TheFreeQuickColorLeavesTheJobsOwnAndTakesProfilesOfThePrinter)
+TEST_F(JobSettings, ManualKeepsTheJobsOwnChoicesAndUsesPrinterProfiles)
 {
     EXPECT_THAT(choices("BVQuickColor=Manual BVImageRenderIntent=Saturation BVEconoMode=True"), IsEmpty());
     const bv::JobSettings job =
@@ -80,7 +80,7 @@ TEST_F(JobSettings, TheFreeQuickColorLeavesTheJobsOwnAndTakesProfilesOfThePrinte
     EXPECT_EQ(job.settings[1].option, "BVSimSource");
 }
 
-TEST_F(JobSettings, WhatIsNoProfileOfThePrinterLeavesTheChoiceAndAWarning)
+TEST_F(JobSettings, AnInvalidProfileKeepsTheChoiceAndGivesAWarning)
 {
     const std::string disk = "/ata1a/data/USfiles/Profiles/";
     for (const std::string &path :
@@ -90,27 +90,27 @@ TEST_F(JobSettings, WhatIsNoProfileOfThePrinterLeavesTheChoiceAndAWarning)
         EXPECT_THAT(job.settings, IsEmpty()) << path;
         EXPECT_THAT(job.warnings, ElementsAre(HasSubstr("BVTextRGBSource"))) << path;
     }
-    // A text that is not encoded as a ticket does it, one with half a byte at its end, and no text at all.
+    // Encoded wrongly, with half a byte at the end, and not encoded at all.
     const std::string good = bv::encodeDevicePath(disk + "a.icc");
     for (const std::string &text : {"@" + good.substr(1), good + "4", std::string("zz")})
         EXPECT_THAT(of("BVQuickColor=Manual BVTextRGBSourceCustom BVTextRGBSourceCustomFilename=" + text).warnings,
                     SizeIs(1))
             << text;
     EXPECT_THAT(of("BVQuickColor=Manual BVTextRGBSourceCustom").warnings, SizeIs(1));
-    // No flag, another option's flag: nothing is asked for.
+    // Without the flag, or with a flag that belongs to another option, there is no profile and no warning.
     EXPECT_THAT(of("BVQuickColor=Manual" + profile("BVTextRGBSource", disk + "a.icc", "=False")).settings, IsEmpty());
     EXPECT_THAT(of("BVQuickColor=Manual" + profile("BVTextHalftone", disk + "a.icc")).settings, IsEmpty());
 }
 
-TEST_F(JobSettings, GrayInTheStandardWayIsGrayByThePrintersOwnOption)
+TEST_F(JobSettings, PrintColorModeGrayTurnsOnThePrintersGrayOption)
 {
     EXPECT_THAT(choices("BVQuickColor=Manual print-color-mode=monochrome BVColorAsGray=False BVColorSeparation=True"),
                 UnorderedElementsAre(Pair("BVColorAsGray", "True"), Pair("BVColorSeparation", "False")));
-    // The print server adds the other mode to every job by itself.
+    // The print server adds "color" to every job that lacks the attribute, so it must not turn gray off.
     EXPECT_THAT(choices("BVQuickColor=Manual print-color-mode=color BVColorAsGray=True"), IsEmpty());
 }
 
-TEST_F(JobSettings, APpdWithFewerChoicesKeepsTheJobsOwn)
+TEST_F(JobSettings, APresetKeepsTheJobsChoiceWhenThePpdLacksItsOwn)
 {
     ppd_option_t *halftone = ppdFindOption(m_ppd.get(), "BVTextHalftone");
     halftone->num_choices = 1;

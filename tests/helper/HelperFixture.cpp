@@ -1,4 +1,4 @@
-// Runs the built helper as a child of the test, in a root of its own.
+// Runs the built helper as a child of the test, in a scratch root.
 #include "helper/HelperFixture.h"
 
 #include <algorithm>
@@ -25,7 +25,7 @@ namespace {
 
 constexpr char kFolder[] = "/Library/Printers/BREVANE/Preferences/vnd.brevane.printers.QL70";
 constexpr char kHelper[] = BV_BUILD_DIR "/bin/QL70Helper";
-constexpr gid_t kSharedGroup = 60007; // of the folder, and of every user that a test becomes
+constexpr gid_t kSharedGroup = 60007; // group of the folder and of every user that a test runs as
 
 std::string ownLogin()
 {
@@ -64,7 +64,7 @@ std::string ownLogin()
     _exit(98);
 }
 
-// What the child wrote.
+// Reads everything that the child wrote.
 std::string readBack(int descriptor)
 {
     std::string text(static_cast<size_t>(lseek(descriptor, 0, SEEK_END)), '\0');
@@ -84,7 +84,7 @@ HelperTest::HelperTest() : m_isRoot(getuid() == 0), m_login(ownLogin())
     chmod(m_root.c_str(), 0755);
     if (m_isRoot && chown(folder().c_str(), 0, kSharedGroup) == 0)
         chmod(folder().c_str(), 03775);
-    // ld.so(8) takes a blank for the end of a path, and the build folder's may have some.
+    // ld.so(8) splits LD_PRELOAD at blanks, and the build folder's path may contain some.
     std::filesystem::create_symlink(BV_BUILD_DIR "/tests/bvfault.so", m_root + "/bvfault.so");
     EXPECT_NE(m_login, "") << "the user who runs the tests needs an entry in the password database";
 }

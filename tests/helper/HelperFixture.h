@@ -1,4 +1,4 @@
-// Runs the built helper as a child of the test, in a root of its own.
+// Runs the built helper as a child of the test, in a scratch root.
 #pragma once
 
 #include <functional>
@@ -19,15 +19,15 @@ inline constexpr char kSwap[] = "bvPListSwapProfile_XPC";
 inline constexpr char kPiece[] = "writeDataToPlistFile_XPC";
 inline constexpr char kCommit[] = "writeDataToPlistFileRename_XPC";
 
-// What a child is given besides its arguments.
+// Settings for a child besides its arguments.
 struct RunOptions
 {
-    std::map<std::string, std::string> environment; // beside BVCO_ROOT
+    std::map<std::string, std::string> environment; // in addition to BVCO_ROOT
     std::optional<uid_t> user;                      // another real user (root only), in the fixture's group
-    std::string program;                            // another one than the built helper
+    std::string program;                            // runs this instead of the built helper
     std::optional<size_t> fileSizeLimit;            // in bytes, see setrlimit(2)
-    bool withoutReaders = false;                    // of standard output and error
-    bool withoutStandardStreams = false;            // descriptors 0 to 2 are closed, so no output is seen
+    bool withoutReaders = false;                    // standard output and error are pipes without a reader
+    bool withoutStandardStreams = false;            // descriptors 0 to 2 are closed, so there is no output
 };
 
 struct RunResult
@@ -43,20 +43,22 @@ protected:
     HelperTest();
     ~HelperTest() override;
 
-    // One request, asked by this process.
+    // Runs one request, with this process as parent.
     RunResult run(const std::vector<std::string> &arguments, const RunOptions &options = {}) const;
-    // Expects one line "NAME=TRUE" and exit status 0, or "NAME=FALSE" and 1.
+    // Expects the line "NAME=TRUE" and exit status 0, or "NAME=FALSE" and 1.
     ::testing::AssertionResult answers(bool expected, const std::vector<std::string> &arguments,
                                        const RunOptions &options = {}) const;
-    // The same question, asked by another process that is gone afterwards.
+    // The same for a request whose parent is another process, which ends afterwards.
     bool answersElsewhere(bool expected, const std::vector<std::string> &arguments) const;
-    // What the fault library and the sanitizers need to get along; see FaultInjection.cpp for the words of a fault.
+    // Options that preload the fault library, and settings that the sanitizers need with it. FaultInjection.cpp
+    // describes `fault`.
     RunOptions with(const std::string &fault) const;
-    // The request for a walk, and the SNMP library's settings for it: a host that needs no network does not resolve.
+    // The request for a walk, and the SNMP library's settings for it. The default host is too long to resolve, so no
+    // network is needed.
     std::vector<std::string> walkRequest(const std::string &host = std::string(80, 'h')) const;
     RunOptions walkSettings() const;
 
-    // Sends the text in pieces and commits it; true when every answer was TRUE.
+    // Sends the text in pieces and commits it. True if every answer was TRUE.
     bool writeList(const std::string &text, const RunOptions &options = {}, size_t pieceBytes = 90000) const;
 
     std::string currentPath(const std::string &login) const; // logical
@@ -70,10 +72,10 @@ protected:
     // The real path of a logical one.
     std::string real(const std::string &logical) const { return m_root + logical; }
     std::string folder() const;
-    // The contents of a logical path; nothing when no such file is there.
+    // Contents of the file at a logical path. Nothing when there is no file.
     std::optional<std::string> contents(const std::string &logical) const;
     void put(const std::string &logical, std::string_view contents) const;
-    // The names in the lists' folder, sorted and joined by blanks.
+    // File names in the folder of the lists, sorted and separated by blanks.
     std::string names() const;
 
     const bool m_isRoot;
@@ -81,13 +83,13 @@ protected:
     std::string m_root;
 };
 
-// A complete list text; `mark` tells texts apart, `entries` makes them longer (each adds some 1,200 bytes).
+// A complete list. `mark` tells lists apart. Each of the `entries` adds about 1,200 bytes.
 std::string listText(std::string_view mark, int entries = 1);
 
-// Runs a function in a child process; its result.
+// Runs a function in a child process and returns its result.
 bool inAnotherProcess(const std::function<bool()> &function);
 
-// The same in a process whose children obey permissions like anybody else, even where root runs the tests.
+// The same, but the child's own children have no root privileges over files, even when root runs the tests.
 bool underPermissions(const std::function<bool()> &function);
 
 } // namespace bvtest

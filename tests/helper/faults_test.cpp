@@ -1,4 +1,5 @@
-// Whatever stops the helper or the disk, the list is the whole old or the whole new one, and the next sequence works.
+// The helper is killed or the disk fails at every step. Afterwards the list is the whole old or the whole new one, and
+// the next write sequence works.
 #include "helper/HelperFixture.h"
 
 #include <algorithm>
@@ -28,7 +29,7 @@ protected:
         return requests;
     }
 
-    // The calls of a request that can be made to fail, each with a blank behind it.
+    // Names of the calls of a request that can be made to fail, each followed by a blank.
     std::string callsOf(const Arguments &request) const
     {
         RunOptions options = with("none:0:NONE");
@@ -40,13 +41,13 @@ protected:
         return calls;
     }
 
-    // Puts the old list there, sends the requests with a fault in one of them, and looks at what is left.
+    // Starts with the old list, sends the requests with a fault in one of them, and checks what is left.
     void stopIn(const std::vector<Arguments> &requests, size_t faulty, const RunOptions &fault)
     {
         ASSERT_TRUE(writeList(m_old));
         for (size_t i = 0; i < requests.size(); ++i) {
             const RunResult result = run(requests[i], i == faulty ? fault : RunOptions());
-            // A client that gets no TRUE for a piece sends nothing more; the sequence is then given up.
+            // A client stops at the first answer that is not TRUE, and gives the sequence up.
             if (result.output != requests[i][0] + "=TRUE\n")
                 break;
         }
@@ -62,7 +63,7 @@ protected:
     const std::string m_next = listText("next", 4);
 };
 
-TEST_F(Faults, KilledBeforeAnyCallOfAWriteSequence)
+TEST_F(Faults, AKillBeforeAnyCallLeavesAWholeList)
 {
     const auto requests = requestsFor(m_new);
     ASSERT_TRUE(writeList(m_old));
@@ -82,7 +83,7 @@ TEST_F(Faults, KilledBeforeAnyCallOfAWriteSequence)
     }
 }
 
-TEST_F(Faults, EveryChangeIsOnTheDiskBeforeItIsSaid)
+TEST_F(Faults, EveryChangeIsFlushedBeforeItIsReported)
 {
     ASSERT_TRUE(answers(true, {kPiece, url(), m_old}));
     EXPECT_EQ(callsOf({kCommit, url()}), "flock ftruncate fsync rename fsync-folder ");
@@ -93,7 +94,7 @@ TEST_F(Faults, EveryChangeIsOnTheDiskBeforeItIsSaid)
     EXPECT_EQ(contents(current()), m_new);
 }
 
-TEST_F(Faults, AFileSizeLimitIsAnErrorAndNoSuddenEnd)
+TEST_F(Faults, AFileSizeLimitIsAnErrorAndDoesNotKill)
 {
     RunOptions options;
     options.fileSizeLimit = 1000;
@@ -101,7 +102,7 @@ TEST_F(Faults, AFileSizeLimitIsAnErrorAndNoSuddenEnd)
     EXPECT_EQ(names(), "");
 }
 
-TEST_F(Faults, LostReadersStopNoRequestHalfway)
+TEST_F(Faults, ClosedOutputsDoNotStopARequestHalfway)
 {
     ASSERT_TRUE(answers(true, {kPiece, url(), "<?xml"}));
     RunOptions options;
@@ -110,7 +111,7 @@ TEST_F(Faults, LostReadersStopNoRequestHalfway)
     EXPECT_EQ(names(), "");
 }
 
-TEST_F(Faults, AFullDiskEndsTheSequenceAndIsFreed)
+TEST_F(Faults, AFullDiskEndsTheSequenceAndFreesItsSpace)
 {
     const auto requests = requestsFor(m_new);
     ASSERT_TRUE(writeList(m_old));
@@ -134,7 +135,7 @@ TEST_F(Faults, AFailedFlushOrRenameLeavesTheOldList)
     }
 }
 
-TEST_F(Faults, KilledSwapsLeaveWholeFiles)
+TEST_F(Faults, AKilledSwapLeavesWholeFiles)
 {
     put(current(), m_new);
     put(previous(), m_old);
@@ -151,7 +152,7 @@ TEST_F(Faults, KilledSwapsLeaveWholeFiles)
     }
 }
 
-TEST_F(Faults, ANameSwappedBeforeTheRenameLeadsNowhere)
+TEST_F(Faults, AFileSwappedBeforeTheRenameIsNotFollowed)
 {
     for (const std::string &swapped : {staging(), current()}) {
         ASSERT_TRUE(writeList(m_old));
@@ -164,7 +165,7 @@ TEST_F(Faults, ANameSwappedBeforeTheRenameLeadsNowhere)
         EXPECT_EQ(contents("/victim"), "untouched");
         unlink(real(current()).c_str());
     }
-    // Swapped a little earlier, the old list is not given up for it either.
+    // Also when the file is swapped before the check, the old list stays.
     ASSERT_TRUE(writeList(m_old));
     ASSERT_TRUE(answers(true, {kPiece, url(), m_new}));
     RunOptions options = with("fsync:1:SWAP");
@@ -174,7 +175,7 @@ TEST_F(Faults, ANameSwappedBeforeTheRenameLeadsNowhere)
     EXPECT_EQ(contents(current()), m_old);
 }
 
-TEST_F(Faults, AFileThatIsExchangedBetweenLookAndOpenIsNotRead)
+TEST_F(Faults, AFileReplacedBetweenCheckAndOpenIsNotRead)
 {
     for (const char *action : {"open:2:SWAP", "open:2:MOVE"}) {
         put(current(), "judged");
@@ -188,7 +189,7 @@ TEST_F(Faults, AFileThatIsExchangedBetweenLookAndOpenIsNotRead)
     }
 }
 
-TEST_F(Faults, AFolderThatCannotBeWrittenMakesNoAdministrator)
+TEST_F(Faults, WithoutWriteAccessToTheFolderNobodyIsAdministrator)
 {
     ASSERT_TRUE(writeList(m_old));
     ASSERT_EQ(chmod(folder().c_str(), 0555), 0);

@@ -1,4 +1,4 @@
-// Which texts may become a list file.
+// Texts that may and may not become a list file.
 #include "helper/HelperFixture.h"
 #include "helper/ListCheck.h"
 
@@ -8,7 +8,7 @@ namespace bvtest {
 
 namespace {
 
-// A complete list, or the given text, with the first occurrence of a text replaced.
+// A complete list, or the given text, with the first occurrence of `from` replaced by `to`.
 std::string changed(std::string_view from, std::string_view to, std::string text = listText("name"))
 {
     const size_t place = text.find(from);
@@ -35,7 +35,7 @@ struct TextRow
 
 } // namespace
 
-TEST(ListCheck, TakesCompleteListsOnly)
+TEST(ListCheck, AcceptsOnlyCompleteLists)
 {
     const std::string open = "<plist version=\"1.0\">\n";
     const std::string close = "</dict>\n</plist>";
@@ -82,7 +82,7 @@ TEST(ListCheck, TakesCompleteListsOnly)
         EXPECT_EQ(!bv::faultOfListText(row.text).has_value(), row.accepted) << row.what;
 }
 
-TEST(ListCheck, RefusesEveryListThatIsCutOff)
+TEST(ListCheck, RefusesTruncatedLists)
 {
     const std::string text = listText("name");
     const size_t end = text.rfind('>') + 1;

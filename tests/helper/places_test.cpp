@@ -1,4 +1,4 @@
-// What stands in the place of a list, its copy or the staging file is used only if it is the user's plain file.
+// The helper uses an existing list, copy or staging file only if it is a plain file of the user.
 #include "helper/HelperFixture.h"
 
 #include <filesystem>
@@ -8,7 +8,7 @@ namespace bvtest {
 
 namespace {
 
-constexpr char kVictim[] = "/victim"; // logical: beside the folder, in the same file system
+constexpr char kVictim[] = "/victim"; // logical path, outside the folder but in the same file system
 constexpr char kVictimText[] = "must stay as it is";
 
 using Path = const std::string &;
@@ -37,7 +37,7 @@ class Places : public HelperTest, public ::testing::WithParamInterface<ThingRow>
 protected:
     Places() { put(kVictim, kVictimText); }
 
-    // Puts the thing at a logical path.
+    // Creates the thing at a logical path.
     void place(const std::string &logical)
     {
         std::filesystem::remove_all(real(logical));
@@ -47,7 +47,7 @@ protected:
         m_inode = now.st_ino;
     }
 
-    // Whether the same thing is still there and what it may lead to is untouched.
+    // True if the thing is still there and the file that it may refer to is unchanged.
     bool stands(const std::string &logical) const
     {
         struct stat now = {};
@@ -59,7 +59,7 @@ private:
     ino_t m_inode = 0;
 };
 
-TEST_P(Places, OfTheCurrentList)
+TEST_P(Places, TheCurrentListMustBeAPlainFile)
 {
     place(current());
     EXPECT_TRUE(answers(false, {kExist, current()}));
@@ -73,7 +73,7 @@ TEST_P(Places, OfTheCurrentList)
     EXPECT_TRUE(answers(true, {kAdmin, current()}));
 }
 
-TEST_P(Places, OfThePreviousList)
+TEST_P(Places, ThePreviousListMustBeAPlainFile)
 {
     put(current(), "old");
     place(previous());
@@ -84,7 +84,7 @@ TEST_P(Places, OfThePreviousList)
     EXPECT_EQ(contents(current()), "old");
 }
 
-TEST_P(Places, OfTheStagingFileAndTheCopy)
+TEST_P(Places, StagingFileAndCopyMustBePlainFiles)
 {
     put(current(), "old");
     place(staging());

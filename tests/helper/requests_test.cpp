@@ -1,4 +1,4 @@
-// What each request answers, and what it leaves in the folder.
+// The answer to each request, and its effect on the folder.
 #include "helper/HelperFixture.h"
 
 #include <algorithm>
@@ -29,7 +29,7 @@ TEST_F(Requests, WritesTheListInPiecesAndCommitsIt)
     EXPECT_EQ(contents(current()), listText("second"));
 }
 
-TEST_F(Requests, ExistAndRemoveAnswerForTheFileThatIsNamed)
+TEST_F(Requests, ExistAndRemoveActOnTheNamedFile)
 {
     EXPECT_TRUE(answers(true, {kAdmin, current()}));
     EXPECT_TRUE(answers(false, {kExist, current()}));
@@ -64,7 +64,7 @@ TEST_F(Requests, SwapCopiesOneFileOverTheOther)
     EXPECT_EQ(names(), m_login + "-QL70-profile.plist " + m_login + "-QL70-profile.prev.plist");
 }
 
-TEST_F(Requests, OnlyTheExactPathOfAListIsTaken)
+TEST_F(Requests, OnlyTheExactPathOfAListIsAccepted)
 {
     put(current(), "old");
     const std::string folder = current().substr(0, current().rfind('/'));
@@ -91,7 +91,7 @@ TEST_F(Requests, OnlyTheExactPathOfAListIsTaken)
     EXPECT_EQ(names(), file);
 }
 
-TEST_F(Requests, OnlyTheExactUrlOfAListIsTaken)
+TEST_F(Requests, OnlyTheExactUrlOfAListIsAccepted)
 {
     const std::string escaped = url().substr(0, url().rfind('/') + 1) + "%" + "0123456789ABCDEF"[m_login[0] >> 4] +
                                 "0123456789ABCDEF"[m_login[0] & 15] + url().substr(url().rfind('/') + 2);
@@ -114,7 +114,7 @@ TEST_F(Requests, OnlyTheExactUrlOfAListIsTaken)
     EXPECT_EQ(names(), "");
 }
 
-TEST_F(Requests, WhatIsNoRequestPrintsFalseInOneLineAndTouchesNothing)
+TEST_F(Requests, UnknownRequestsPrintOneFalseAndChangeNothing)
 {
     put(current(), "old");
     const RunResult nothing = run({});
@@ -153,7 +153,7 @@ TEST_F(Requests, WhatIsNoRequestPrintsFalseInOneLineAndTouchesNothing)
     EXPECT_EQ(names(), m_login + "-QL70-profile.plist");
 }
 
-TEST_F(Requests, AListThatIsTooLongIsNotGathered)
+TEST_F(Requests, AListAboveTheSizeLimitIsRefused)
 {
     ASSERT_TRUE(answers(true, {kPiece, url(), "<?xml version=\"1.0\"?><!--"}));
     const std::string piece(120000, 'x');

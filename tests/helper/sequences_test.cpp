@@ -1,4 +1,4 @@
-// To whom a sequence of pieces belongs, and what becomes of one that was given up.
+// The owner of a write sequence, and what happens to a sequence that was given up.
 #include "helper/Caller.h"
 #include "helper/HelperFixture.h"
 
@@ -12,7 +12,7 @@ namespace bvtest {
 
 using Sequences = HelperTest;
 
-TEST_F(Sequences, AnotherProcessCanOnlyTakeOver)
+TEST_F(Sequences, AnotherProcessCanOnlyStartItsOwnSequence)
 {
     const std::string text = listText("ours");
     ASSERT_TRUE(answers(true, {kPiece, url(), text.substr(0, 500)}));
@@ -27,7 +27,7 @@ TEST_F(Sequences, AnotherProcessCanOnlyTakeOver)
     EXPECT_EQ(contents(current()), text);
 }
 
-TEST_F(Sequences, AnotherProcessOfTheSameIdIsNotTheOwner)
+TEST_F(Sequences, ALaterProcessWithTheSameIdIsNotTheOwner)
 {
     ASSERT_TRUE(answers(true, {kPiece, url(), "<?xml"}));
     std::string staged = contents(staging()).value_or("");
@@ -39,9 +39,9 @@ TEST_F(Sequences, AnotherProcessOfTheSameIdIsNotTheOwner)
     EXPECT_TRUE(answers(false, {kCommit, url()}));
 }
 
-TEST_F(Sequences, AProcessIsKnownByTheTimeOfItsStartWhateverItsName)
+TEST_F(Sequences, AProcessIsIdentifiedByStartTimeWhateverItsName)
 {
-    usleep(20000); // two ticks of the clock that start times are counted in
+    usleep(20000); // two clock ticks, the unit of start times
     EXPECT_TRUE(inAnotherProcess(
         [parent = bv::identifyProcess(getppid())->startTime, own = bv::identifyProcess(getpid())->startTime] {
             prctl(PR_SET_NAME, "a) b (c 1 2 3");
@@ -51,20 +51,20 @@ TEST_F(Sequences, AProcessIsKnownByTheTimeOfItsStartWhateverItsName)
     EXPECT_FALSE(bv::identifyProcess(0));
 }
 
-TEST_F(Sequences, ALineOfDiagnosticsNeverGetsIntoAText)
+TEST_F(Sequences, DiagnosticsNeverEndUpInTheList)
 {
     const std::string text = listText("ours");
     ASSERT_TRUE(answers(true, {kPiece, url(), text}));
     EXPECT_TRUE(inAnotherProcess([&] {
         RunOptions options;
         options.withoutStandardStreams = true;
-        return run({kCommit, url()}, options).exitCode == 1; // and says why, to whoever has descriptor 2
+        return run({kCommit, url()}, options).exitCode == 1; // writes the reason to descriptor 2
     }));
     EXPECT_TRUE(answers(true, {kCommit, url()}));
     EXPECT_EQ(contents(current()), text);
 }
 
-TEST_F(Sequences, AFileThatNoRequestLeftIsNobodysSequence)
+TEST_F(Sequences, AForeignStagingFileBelongsToNoSequence)
 {
     put(staging(), listText("planted"));
     EXPECT_TRUE(answers(false, {kPiece, url(), " "}));
@@ -75,7 +75,7 @@ TEST_F(Sequences, AFileThatNoRequestLeftIsNobodysSequence)
     EXPECT_EQ(contents(current()), listText("new"));
 }
 
-TEST_F(Sequences, AWriterWaitsUntilTheOtherOneIsDone)
+TEST_F(Sequences, AWriterWaitsForAnotherOne)
 {
     const int lock = open(folder().c_str(), O_RDONLY | O_CLOEXEC);
     ASSERT_EQ(flock(lock, LOCK_EX), 0);
@@ -88,7 +88,7 @@ TEST_F(Sequences, AWriterWaitsUntilTheOtherOneIsDone)
     EXPECT_EQ(contents(current()), listText("waiting"));
 }
 
-TEST_F(Sequences, NobodyWaitsLongerThanTenSeconds)
+TEST_F(Sequences, AWriterGivesUpAfterTenSeconds)
 {
     const int lock = open(folder().c_str(), O_RDONLY | O_CLOEXEC);
     ASSERT_EQ(flock(lock, LOCK_EX), 0);
@@ -97,7 +97,7 @@ TEST_F(Sequences, NobodyWaitsLongerThanTenSeconds)
     options.environment["FAULT_LOG"] = real("/calls");
     EXPECT_TRUE(answers(false, {kPiece, url(), listText("late")}, options));
     close(lock);
-    // Each try is one line "flock", and 5 ms on the clock of the waiting process.
+    // Each attempt adds a line "flock" to the log and 5 ms to the waiting process's clock.
     const size_t tries = contents("/calls").value_or("").size() / 6;
     EXPECT_LE(tries, 2001U);
     EXPECT_GE(tries, 1500U);

@@ -1,4 +1,4 @@
-// Two real users of one group, and root, in one folder. Needs root: only root can become another user.
+// Two users of one group, and root, in one folder. Needs root, because only root can act as other users.
 #include "helper/HelperFixture.h"
 
 #include <filesystem>
@@ -11,11 +11,11 @@ namespace bvtest {
 
 namespace {
 
-constexpr uid_t kNamelessUser = 60011; // in no password database
+constexpr uid_t kNamelessUser = 60011; // not in the password database
 
 } // namespace
 
-// Alice and Bob are accounts that every Debian system has.
+// Alice and Bob stand for two accounts that every Debian system has.
 class Users : public HelperTest
 {
 protected:
@@ -27,7 +27,7 @@ protected:
             const passwd *entry = getpwnam(user->login.c_str());
             ASSERT_TRUE(entry) << user->login;
             user->as.user = entry->pw_uid;
-            // The build folder need not be open to everybody.
+            // Other users may have no access to the build folder.
             user->as.program = m_root + "/QL70Helper";
         }
         placeHelper(m_alice.as.program, 0755);
@@ -61,7 +61,7 @@ protected:
     const User m_superuser{"root", {}};
 };
 
-TEST_F(Users, EachOfOneGroupWritesHisOwnListOnly)
+TEST_F(Users, GroupMembersWriteOnlyTheirOwnLists)
 {
     ASSERT_TRUE(writes(m_alice, m_alice.login, listText("alice")));
     ASSERT_TRUE(writes(m_bob, m_bob.login, listText("bob")));
@@ -80,7 +80,7 @@ TEST_F(Users, EachOfOneGroupWritesHisOwnListOnly)
     EXPECT_EQ(contents(currentPath(m_bob.login)), listText("bob"));
 }
 
-TEST_F(Users, AFileThatAnotherUserPutInTheWayStays)
+TEST_F(Users, AnotherUsersFileInTheWayIsNotTouched)
 {
     for (const std::string &path : {currentPath(m_alice.login), currentPath(m_alice.login) + ".part",
                                     previousPath(m_alice.login), previousPath(m_alice.login) + ".copy"}) {
@@ -104,7 +104,7 @@ TEST_F(Users, AFileThatAnotherUserPutInTheWayStays)
     }
 }
 
-TEST_F(Users, RootWritesForAnyUserOfThePasswordDatabase)
+TEST_F(Users, RootWritesForAnyUserInThePasswordDatabase)
 {
     ASSERT_TRUE(writes(m_superuser, m_alice.login, listText("by root")));
     EXPECT_EQ(ownerOf(currentPath(m_alice.login)), *m_alice.as.user);
@@ -113,7 +113,7 @@ TEST_F(Users, RootWritesForAnyUserOfThePasswordDatabase)
     EXPECT_EQ(ownerOf(previousPath(m_alice.login)), *m_alice.as.user);
     EXPECT_TRUE(answers(false, {kSwap, "2", currentPath(m_alice.login), previousPath(m_bob.login)}));
 
-    // What root began and gave up does not stand in her way.
+    // A sequence that root gave up does not block the user's own.
     ASSERT_TRUE(answers(true, {kPiece, url(m_alice.login), "<?xml"}));
     EXPECT_TRUE(writes(m_alice, m_alice.login, listText("again")));
     EXPECT_TRUE(answers(true, {kRemove, currentPath(m_alice.login)}));
@@ -125,7 +125,7 @@ TEST_F(Users, RootWritesForAnyUserOfThePasswordDatabase)
     EXPECT_TRUE(answers(false, {kRemove, currentPath(m_alice.login)}));
 }
 
-TEST_F(Users, OnlyTheVeryLoginNameStandsForAUser)
+TEST_F(Users, LoginNamesMustMatchExactly)
 {
     RunOptions anyCase = with("none:0:NONE");
     anyCase.environment["FAULT_LOGINS"] = "1";
@@ -143,7 +143,7 @@ TEST_F(Users, OnlyTheVeryLoginNameStandsForAUser)
     }
 }
 
-TEST_F(Users, WhoIsNotOfTheGroupOrHasNoNameMayNotWrite)
+TEST_F(Users, UsersOutsideTheGroupOrWithoutANameMayNotWrite)
 {
     ASSERT_TRUE(writes(m_superuser, m_alice.login, listText("by root")));
     ASSERT_EQ(chown(folder().c_str(), 0, 0), 0);
@@ -161,7 +161,7 @@ TEST_F(Users, WhoIsNotOfTheGroupOrHasNoNameMayNotWrite)
     }
 }
 
-TEST_F(Users, ASetIdHelperActsWithItsCallersRightsAndWithoutHisEnvironment)
+TEST_F(Users, ASetIdHelperUsesOnlyItsCallersRightsAndNoEnvironment)
 {
     RunOptions options = m_alice.as;
     options.program = m_root + "/set-id";
@@ -169,11 +169,11 @@ TEST_F(Users, ASetIdHelperActsWithItsCallersRightsAndWithoutHisEnvironment)
     if (statvfs(m_root.c_str(), &mounted) == 0 && (mounted.f_flag & ST_NOSUID))
         GTEST_SKIP() << "needs a folder for temporary files where set-id programs work";
     placeHelper(options.program, 06755);
-    // Without BVCO_ROOT the system's own folder is meant, in which this user may not write.
+    // Without BVCO_ROOT the helper uses the system's own folder, and this user may not write there.
     EXPECT_TRUE(answers(false, {kAdmin, currentPath(m_alice.login)}, options));
     EXPECT_TRUE(answers(false, {kPiece, url(m_alice.login), listText("x")}, options));
     EXPECT_EQ(names(), "");
-    // What it becomes for a walk has no other rights either.
+    // The program that runs the walk has no additional rights either.
     put("/QL70Walk", "#!/usr/bin/python3\nimport os\n"
                      "print({*os.getresuid()} == {os.getuid()}, {*os.getresgid()} == {os.getgid()}, os.getuid() != 0, "
                      "'BVCO_ROOT' in os.environ)\n");

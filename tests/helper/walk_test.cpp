@@ -1,4 +1,4 @@
-// The walk request: its words, its login name, and what it writes without a printer.
+// The walk request: its words, its login name, and the list it writes when no printer answers.
 #include "helper/HelperFixture.h"
 
 #include <filesystem>
@@ -17,7 +17,7 @@ constexpr size_t kHost = 9;
 
 using WalkRequest = HelperTest;
 
-TEST_F(WalkRequest, OtherWordsAreNoRequest)
+TEST_F(WalkRequest, OtherWordsAreAnUnknownRequest)
 {
     const Arguments right = walkRequest("127.0.0.1");
     std::vector<Arguments> wrong;
@@ -52,17 +52,17 @@ TEST_F(WalkRequest, AnotherLoginNameIsRefused)
     EXPECT_EQ(names(), "");
 }
 
-TEST_F(WalkRequest, AHostThatDoesNotResolveIsAWalkThatRan)
+TEST_F(WalkRequest, AnUnknownHostCountsAsAWalkThatRan)
 {
     const RunResult result = run(walkRequest(), walkSettings());
     EXPECT_EQ(result.output, "mibwalk_XPC=iRet=1\n");
     EXPECT_EQ(result.exitCode, 0);
-    // The reconciliation wrote an empty list through the same commit.
+    // The reconciliation wrote an empty list through the usual commit.
     EXPECT_EQ(names(), m_login + "-QL70-profile.plist");
     EXPECT_TRUE(contents(current()).value_or("").starts_with("<?xml"));
 }
 
-TEST_F(WalkRequest, TheSequenceOfAWalkIsNotItsParents)
+TEST_F(WalkRequest, TheParentDoesNotOwnTheSequenceOfAWalk)
 {
     RunOptions options = walkSettings();
     options.environment.merge(with("ftruncate:1:KILL").environment); // between the last piece and the commit
@@ -82,7 +82,7 @@ TEST_F(WalkRequest, RootWalksForAnotherUser)
     EXPECT_EQ(names(), "daemon-QL70-profile.plist");
 }
 
-TEST_F(WalkRequest, TheWalkIsTheProgramBesideTheHelperAndNoOther)
+TEST_F(WalkRequest, RunsOnlyTheProgramBesideTheHelper)
 {
     const std::filesystem::path folder = real("/helpers");
     const std::filesystem::path elsewhere = real("/elsewhere");
@@ -101,7 +101,7 @@ TEST_F(WalkRequest, TheWalkIsTheProgramBesideTheHelperAndNoOther)
     EXPECT_EQ(run(walkRequest(), options).output, "mibwalk_XPC=iRet=1\n");
 }
 
-TEST_F(WalkRequest, TheWalkItselfKnowsNoOtherRequestAndNoOtherWords)
+TEST_F(WalkRequest, TheWalkProgramRefusesOtherRequestsAndWords)
 {
     RunOptions options = walkSettings();
     options.program = BV_BUILD_DIR "/bin/QL70Walk";

@@ -1,4 +1,4 @@
-// What becomes of a ticket: the options of a job, page ranges, and the sink that keeps jobs in a folder.
+// From tickets to jobs: the options of a job, page ranges, and the sink that stores jobs in a folder.
 #include "jobs/FolderSink.h"
 #include "jobs/PageRange.h"
 #include "jobs/PrintJob.h"
@@ -20,21 +20,21 @@ using bv::ticketFromJson;
 using ::testing::Pair;
 using ::testing::UnorderedElementsAre;
 
-TEST(JobOptions, AreTheTopLevelStringsAndIntegersAndNothingElse)
+TEST(JobOptions, AreTheTopLevelStringsAndIntegers)
 {
     const auto ticket = ticketFromJson(R"({"a":":;<=>?","b":"","n":-42,"r":1.5,"t":true,"l":["x"],"d":{"x":"y"}})");
     EXPECT_THAT(bv::ticketOptions(ticket.value()),
                 UnorderedElementsAre(Pair("a", ":;<=>?"), Pair("b", ""), Pair("n", "-42")));
 }
 
-TEST(JobOptions, OfTheDialogBeatTheTicketsAndTheRestIsKept)
+TEST(JobOptions, ExtraOptionsOverrideTheTicket)
 {
     const auto ticket = ticketFromJson(R"({"copies":5,"page-ranges":"1","x":"y"})");
     EXPECT_THAT(bv::jobOptions(ticket.value(), nullptr, {{"copies", "2"}, {"page-ranges", "3-4"}}),
                 UnorderedElementsAre(Pair("copies", "2"), Pair("page-ranges", "3-4"), Pair("x", "y")));
 }
 
-TEST(JobOptions, SayTheColorModeThatTheChoiceMeans)
+TEST(JobOptions, IncludeTheColorModeOfTheChoice)
 {
     const std::pair<JobOptions, QString> rows[] = {
         {{}, ""},
@@ -49,7 +49,7 @@ TEST(JobOptions, SayTheColorModeThatTheChoiceMeans)
     }
 }
 
-TEST(ColorModeOfAPpd, IsThatOfADefaultWhichTheOptionHas)
+TEST(JobOptions, IncludeTheColorModeOfAValidDefault)
 {
     const QTemporaryDir folder;
     for (const char *choices : {"", "*BVColorAsGray True: \"\"\n"}) {
@@ -67,7 +67,7 @@ TEST(ColorModeOfAPpd, IsThatOfADefaultWhichTheOptionHas)
     }
 }
 
-TEST(FolderSink, KeepsTheOptionsAndTheDocumentsOfOneNameApart)
+TEST(FolderSink, StoresOptionsAndDocumentsWithEqualNames)
 {
     const QTemporaryDir folder;
     QDir(folder.path()).mkpath("x");
@@ -93,8 +93,8 @@ TEST(FolderSink, KeepsTheOptionsAndTheDocumentsOfOneNameApart)
     qunsetenv("BVPRINT_OUTPUT");
 }
 
-// The option that comes of a text; none: refused.
-TEST(PageRanges, AreReadAsPeopleWriteThem)
+// Each text with the resulting option; an empty option means that the text is refused.
+TEST(PageRanges, AcceptTheUsualSpellings)
 {
     // clang-format off
     const std::pair<const char *, const char *> rows[] = {

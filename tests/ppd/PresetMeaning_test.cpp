@@ -1,4 +1,5 @@
-// What the printer's PPD must offer so that Quick Color, which picks choices by position, means what its names say.
+// Quick Color selects choices by position. These tests check that the choices at these positions in the PPD fit the
+// names of the presets.
 #include "profiles/QuickColorPresets.h"
 
 #include <cups/ppd.h>
@@ -88,7 +89,7 @@ TEST_P(Presets, MeanWhatTheirNameSaysAndConflictWithNothing)
     }
     EXPECT_EQ(ppdConflicts(ppd.get()), 0);
 
-    // Economy takes some menus to their first choice: that must be the one that saves toner.
+    // Economy selects the first choice of some menus. That choice must be the one that saves toner.
     ppdMarkOption(ppd.get(), "BVEconoMode", "True");
     for (const PresetRow *row : economyRows(static_cast<int16_t>(preset))) {
         const ppd_option_t *option = ppdFindOption(ppd.get(), kMeanings[row - indexes.data()].option);
@@ -113,7 +114,7 @@ TEST(Defaults, AreTheGeneralPresetAndConflictWithNothing)
     }
 }
 
-// Greying out goes by position as well: a first choice that switches something off must be the one that does.
+// Some rules look at the first choice of a menu. It must be the choice that makes other settings meaningless.
 TEST(FirstChoices, AreTheOnesThatMakeOthersMeaningless)
 {
     const Ppd ppd = openPpd();
@@ -137,7 +138,7 @@ TEST(FirstChoices, AreTheOnesThatMakeOthersMeaningless)
     }
 }
 
-// A choice that rules out another says so from both sides, and the way out is a choice that exists.
+// A constraint must work from both sides, and a choice without conflict must exist.
 TEST(Constraints, WorkFromBothSides)
 {
     const struct

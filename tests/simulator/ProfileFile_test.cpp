@@ -1,4 +1,4 @@
-// The readable list of profiles and its mistakes.
+// The text file with the profiles, and mistakes in it.
 #include "simulator/ProfileFile.h"
 
 #include <gmock/gmock.h>

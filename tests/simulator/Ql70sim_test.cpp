@@ -1,4 +1,4 @@
-// The program from outside: its arguments, its list that changes while it runs, and what a stock client sees.
+// The program from outside: its arguments, reloading its list, and the answers that a standard client gets.
 #include "support/ProgramUnderTest.h"
 
 #include <gmock/gmock.h>
@@ -42,7 +42,7 @@ protected:
     {
         std::vector<std::string> command = {tool, "-v1", "-On", "-c", community};
         if (community != "mirror")
-            command.insert(command.end(), {"-t", "0.2", "-r", "0"}); // nobody will answer
+            command.insert(command.end(), {"-t", "0.2", "-r", "0"}); // no answer is expected
         command.push_back("127.0.0.1:" + std::to_string(printer.numberBehind(" port ")));
         command.insert(command.end(), words.begin(), words.end());
         return run(command);
@@ -92,7 +92,7 @@ TEST_F(Ql70sim, DecreasingStepsBackFromTheMiddleCell)
     EXPECT_THAT(client("snmpgetnext", printer, "mirror", {cell(".4.1.3")}).output, HasSubstr(cell(".4.1.4 = ")));
 }
 
-TEST_F(Ql70sim, ReadsItsListAgainWhileItRuns)
+TEST_F(Ql70sim, ReloadsItsListWhileItRuns)
 {
     const std::string list = m_folder.write("list", "1 disk A.ICC Alpha 1 1\n2 disk B.ICC Beta 1 1\n");
     ProgramUnderTest printer({kSimulator, "--port", "0", "--profiles", list});
@@ -112,7 +112,7 @@ TEST_F(Ql70sim, ReadsItsListAgainWhileItRuns)
     EXPECT_EQ(printer.stop(), 0);
 }
 
-TEST_F(Ql70sim, AnswersOnlyItsCommunityAndTakesNoChanges)
+TEST_F(Ql70sim, AnswersOnlyItsCommunityAndRefusesChanges)
 {
     ProgramUnderTest printer({kSimulator, "--port", "0"});
     ASSERT_TRUE(printer.waitFor("ready on"));

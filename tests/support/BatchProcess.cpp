@@ -1,4 +1,4 @@
-// Runs bvprint as a child.
+// Runs bvprint as a child process.
 #include "support/BatchProcess.h"
 
 #include <QJsonDocument>
@@ -7,7 +7,7 @@ namespace bvtest {
 
 namespace {
 
-// Long enough for a machine under load; a test that waits this long has failed.
+// Milliseconds. Long enough for a busy machine; a test that waits this long has failed.
 constexpr int kPatience = 30000;
 
 } // namespace

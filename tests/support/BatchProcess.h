@@ -1,4 +1,4 @@
-// A bvprint that runs a batch for a test: commands go in one by one, and each answer is read back.
+// Runs bvprint in batch mode for a test: sends commands one by one and reads each answer.
 #pragma once
 
 #include <QJsonObject>
@@ -7,7 +7,7 @@
 
 namespace bvtest {
 
-// Runs in a home of its own, with the locale C, without a display, and with no print server unless a test names one.
+// Uses a home folder of its own, the locale C, no display, and no print server unless the test names one.
 class BatchProcess
 {
 public:
@@ -16,25 +16,25 @@ public:
     BatchProcess(const BatchProcess &) = delete;
     BatchProcess &operator=(const BatchProcess &) = delete;
 
-    // To be called before start.
+    // Sets an environment variable. Call it before start().
     void setVariable(const QString &name, const QString &value) { m_environment.insert(name, value); }
 
-    // Starts with the arguments and "--batch -" behind them.
+    // Starts bvprint with these arguments and "--batch -" after them.
     void start(QStringList arguments);
-    // Runs to the end with the arguments alone.
+    // Runs bvprint with these arguments only, and waits for its end.
     void runToEnd(const QStringList &arguments);
 
-    // The answer to one command; an empty object when none came.
+    // Sends a command. Returns its answer, or an empty object when there is none.
     QJsonObject send(const QString &command);
-    // The result in it; undefined when the answer is an error.
+    // Sends a command. Returns the result in its answer; undefined when the answer is an error.
     QJsonValue result(const QString &command) { return send(command).value(QStringLiteral("result")); }
-    // The sentence in it; empty when the command did not fail.
+    // Sends a command. Returns the error in its answer; empty when the command succeeded.
     QString error(const QString &command) { return send(command).value(QStringLiteral("error")).toString(); }
 
-    // Closes the input, waits for the end, and gives the exit status; -1 when it did not end by itself.
+    // Closes the input and waits for the end. Returns the exit status, or -1 when bvprint crashed or did not end.
     int finish();
 
-    // What is left after finish: lines that nobody asked for, and standard error.
+    // Valid after finish(): output that no send() has read, and standard error.
     QByteArray restOfOutput() { return m_process.readAllStandardOutput(); }
     QByteArray standardError() { return m_process.readAllStandardError(); }
 

@@ -1,19 +1,19 @@
-// Preloaded into a program under test: makes one of its calls on files fail, fall short or never happen.
+// Preloaded into a program under test: makes a file operation fail, write less, or end the process.
 //
-// FAULT=CALL:N:ACTION   the N-th call (counted from 1) of that name; CALL "any" counts all of them
-//   ACTION  ENOSPC, EIO, EROFS   the call fails with that error
-//           SHORT                a write takes only half of its bytes
-//           KILL                 the process dies by SIGKILL before the call
-//           TORN                 a write takes half of its bytes, then the process dies
+// FAULT=CALL:N:ACTION   applies to the N-th call (from 1) of CALL; "any" counts all calls
+//   ACTION  ENOSPC, EIO, EROFS   the call fails with this error
+//           SHORT                a write writes only half of its bytes
+//           KILL                 the process is killed (SIGKILL) before the call
+//           TORN                 a write writes half of its bytes, then the process is killed
 //           SWAP                 before the call, the name in FAULT_NAME becomes a symbolic link to FAULT_TARGET
 //           MOVE                 before the call, FAULT_TARGET is renamed to the name in FAULT_NAME
-// FAULT_LOG=FILE        each call's name is appended to the file, one a line
-// FAULT_CLOCK=1         the process sleeps for no time at all, but its clock goes forward by what it wanted to sleep
-// FAULT_LOGINS=1        the password database finds login names in any case, as some do
+// FAULT_LOG=FILE        appends the name of each call to the file, one per line
+// FAULT_CLOCK=1         the process does not sleep; its clock is moved forward instead
+// FAULT_LOGINS=1        the password database ignores the case of login names, as some databases do
 //
-// write and pwrite count as "write", fsync and fdatasync as "fsync" ("fsync-folder" for a folder), rename and renameat
-// as "rename", openat as "open", which is neither logged nor one of "any". Calls on descriptors up to 2 are left alone
-// and not counted.
+// Names of calls: write and pwrite are "write", fsync and fdatasync are "fsync" ("fsync-folder" for a folder), rename
+// and renameat are "rename", openat is "open". "open" is not logged and not part of "any". Calls on descriptors 0 to 2
+// are left alone and not counted.
 #include <algorithm>
 #include <cctype>
 #include <cerrno>
@@ -77,7 +77,7 @@ bool isFolder(int descriptor)
     return fstat(descriptor, &status) == 0 && S_ISDIR(status.st_mode);
 }
 
-timespec slept = {}; // with FAULT_CLOCK
+timespec slept = {}; // sum of all sleeps with FAULT_CLOCK
 
 void advance(timespec *time, const timespec &by)
 {
@@ -87,7 +87,7 @@ void advance(timespec *time, const timespec &by)
 
 enum class Fate { Normal, Fail, Short, Torn };
 
-// What is to become of this call; dies or sets errno where that is the fault.
+// Decides what happens to this call. Sets errno or ends the process when the fault says so.
 Fate fateOf(std::string_view call)
 {
     static int calls = 0;
@@ -117,7 +117,7 @@ Fate fateOf(std::string_view call)
     return action == "SHORT" ? Fate::Short : action == "TORN" ? Fate::Torn : Fate::Normal;
 }
 
-// A write of that many bytes, done by `write` for as many as the fault leaves.
+// Runs `write` for as many of the `size` bytes as the fault allows.
 template <typename Write> ssize_t faultyWrite(int descriptor, size_t size, Write write)
 {
     if (descriptor <= STDERR_FILENO)

@@ -1,4 +1,4 @@
-// A scratch root with the real helper in its place.
+// A scratch root with the built helper installed in it.
 #pragma once
 
 #include "support/TestRoot.h"
@@ -10,16 +10,16 @@ class ListRoot : public TestRoot
 public:
     ListRoot()
     {
-        installHelper({}); // makes the folder
+        installHelper({}); // creates the folder
         const std::filesystem::path helper = bv::mapRootPath(kHelperPath);
         std::filesystem::remove(helper);
         std::filesystem::create_symlink(BV_BUILD_DIR "/bin/QL70Helper", helper);
     }
 
-    // The path of a file in the root's folder.
+    // Path of a file in the root's folder.
     std::string file(std::string_view name) const { return (folder() / name).string(); }
 
-    // Writes one and yields its path.
+    // Writes such a file and returns its path.
     std::string write(std::string_view name, std::string_view text) const
     {
         const std::filesystem::path path = file(name);

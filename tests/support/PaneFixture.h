@@ -1,5 +1,5 @@
-// What a pane needs around it in a test: a PPD from text or from the project's own file, a ticket, a session and the
-// dialog's callback, all as plain values.
+// The environment of a pane in a test: a PPD (from text or the project's own), a ticket, a session, and the dialog's
+// callback.
 #pragma once
 
 #include "platform/HostProtocol.h"
@@ -10,13 +10,13 @@
 
 namespace bvtest {
 
-// An open PPD with its defaults marked. Its texts stay as the file has them.
+// An open PPD with its defaults marked. It is not localized.
 class TestPpd
 {
 public:
-    // The project's own PPD.
+    // Opens the project's own PPD.
     TestPpd() : m_file(ppdOpenFile(BV_SOURCE_DIR "/resources/QL70.ppd")) { ppdMarkDefaults(m_file); }
-    // A PPD made of a head and the given option lines; `languageEncoding` is the field's value, null for none.
+    // Opens a PPD with the given option lines. `languageEncoding` is the field's value; null for none.
     TestPpd(const QByteArray &lines, char *languageEncoding)
     {
         QFile file(m_dir.filePath(QStringLiteral("test.ppd")));
@@ -46,7 +46,7 @@ public:
     bv::PrintValue value(const QString &key) const override { return top.value(key); }
     void setValue(const QString &key, const bv::PrintValue &value) override { top.setValue(key, value); }
 
-    // A string of the queue's dictionary, or "-" when it has none.
+    // A string in the queue's dictionary, or "-" when it is missing.
     QString inQueue(const QString &key, const QString &queue = QStringLiteral("Lab")) const
     {
         const auto product = top.value(QStringLiteral("QL70")).dictionary();
@@ -54,13 +54,13 @@ public:
         const bv::PrintValue found = entries ? entries->value(key) : bv::PrintValue();
         return found.string() ? *found.string() : QStringLiteral("-");
     }
-    // A string at the top level, or "-".
+    // A string at the ticket's top level, or "-" when it is missing.
     QString atTop(const QString &key) const
     {
         const bv::PrintValue found = top.value(key);
         return found.string() ? *found.string() : QStringLiteral("-");
     }
-    // Puts a value into the queue's dictionary.
+    // Sets a value in the queue's dictionary.
     void putInQueue(const QString &key, const bv::PrintValue &value)
     {
         const QString product = QStringLiteral("QL70");
@@ -101,7 +101,7 @@ public:
     ppd_file_t *ppd = nullptr;
 };
 
-// One option with these choices ("A B C"), the first the default unless another is named.
+// PPD lines of an option with these choices ("A B C"). The first one is the default unless another is given.
 inline QByteArray ppdOption(const QByteArray &keyword, const QByteArray &choices, const QByteArray &type = "PickOne",
                             const QByteArray &defaultChoice = {})
 {

@@ -1,4 +1,4 @@
-// Sets up and ends the private print server.
+// Starts and stops the private print server.
 #include "support/PrivateCupsd.h"
 
 #include <QDir>
@@ -20,9 +20,9 @@ namespace {
 
 constexpr char kStockFilters[] = "/usr/lib/cups/filter";
 
-constexpr int kPatience = 30000; // milliseconds; for a machine under load
+constexpr int kPatience = 30000; // milliseconds; enough for a busy machine
 
-// Keeps its arguments, NUL behind each, and what it is to print.
+// A backend that stores its arguments (each followed by a NUL) and its input.
 constexpr char kBackend[] = R"(#!/bin/sh
 [ $# = 0 ] && { echo 'direct rec:/x "Rec" "Rec"'; exit 0; }
 o=${DEVICE_URI#rec:}/job-$1; printf '%s\0' "$@" > "$o.argv"
@@ -86,7 +86,7 @@ QByteArray read(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-// Waits until the file is there.
+// Waits until the file exists.
 bool waitFor(const QString &path)
 {
     QElapsedTimer timer;
@@ -114,7 +114,7 @@ std::map<QString, QString> parseOptions(const QByteArray &text)
 
 PrivateCupsd::PrivateCupsd()
 {
-    // A socket's path must be short, and the server's own user must get into the folder.
+    // The path of a socket must be short, and the server's user must have access to the folder.
     char pattern[] = "/tmp/bvcups.XXXXXX";
     if (mkdtemp(pattern)) {
         m_folder = QString::fromLatin1(pattern);
@@ -144,14 +144,14 @@ bool PrivateCupsd::writeFiles()
     if (m_useFilters) {
         for (const QFileInfo &filter : QDir(QString::fromLatin1(kStockFilters)).entryInfoList(QDir::Files))
             QFile::link(filter.absoluteFilePath(), folder.filePath(QStringLiteral("bin/filter/") + filter.fileName()));
-        // A copy, since the server's own user need not get into the build folder.
+        // Copied, because the server's user may have no access to the build folder.
         const QString ours = folder.filePath(QStringLiteral("bin/filter/bvql70"));
         QFile::remove(ours);
         if (!QFile::copy(QStringLiteral(BV_BUILD_DIR "/bin/bvql70"), ours))
             return false;
         chmod(ours.toLocal8Bit().constData(), 0755);
     }
-    // A backend or folder that others may write is refused, whatever the test's umask is.
+    // cupsd refuses a backend or folder that others may write, so the modes must not depend on the umask.
     for (const char *name : {"bin", "bin/backend", "bin/backend/rec", "bin/filter", "bin/filter/copy"})
         chmod(folder.filePath(QLatin1String(name)).toLocal8Bit().constData(), 0755);
 
@@ -206,7 +206,7 @@ QString PrivateCupsd::start()
 {
     if (m_folder.isEmpty() || !writeFiles())
         return QStringLiteral("The folder %1 cannot be set up.").arg(m_folder);
-    // A copy: where the machine confines cupsd, the rules go by the path of the program.
+    // Copied, because a security policy for cupsd goes by the path of the program.
     const QString program = m_folder + QStringLiteral("/cupsd");
     if (!QFile::copy(QStringLiteral("/usr/sbin/cupsd"), program))
         return QStringLiteral("/usr/sbin/cupsd cannot be copied; is the package cups-daemon there?");
@@ -236,7 +236,7 @@ bool PrivateCupsd::administer(const QString &program, const QStringList &argumen
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("CUPS_SERVER"), address());
     environment.insert(QStringLiteral("HOME"), m_folder);
-    // Where these commands lie is not on every user's path.
+    // These commands may be in folders that are not in the user's PATH.
     environment.insert(QStringLiteral("PATH"), QStringLiteral("/usr/sbin:/usr/bin:/sbin:/bin"));
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral("/usr/bin/env"), QStringList{program} + arguments);

@@ -1,5 +1,5 @@
-// A print server of a test's own: a copy of cupsd on a socket in a scratch folder, with a backend that records the jobs
-// it gets. Works as root and as an ordinary user, and meets no print server of the machine.
+// A private print server for a test: a copy of cupsd on a socket in a scratch folder, with a backend that records its
+// jobs. Works as root and as an ordinary user. Does not touch the machine's own print server.
 #pragma once
 
 #include <QByteArrayList>
@@ -10,11 +10,11 @@
 
 namespace bvtest {
 
-// One job as the backend got it.
+// One job, as the backend got it.
 struct RecordedJob
 {
     QByteArrayList arguments;           // number, user, title, copies, options[, file] (cupsd's backend(7))
-    std::map<QString, QString> options; // the fifth of them as libcups parses it
+    std::map<QString, QString> options; // the fifth argument, parsed by libcups
     QByteArray data;
 };
 
@@ -26,48 +26,49 @@ public:
     PrivateCupsd(const PrivateCupsd &) = delete;
     PrivateCupsd &operator=(const PrivateCupsd &) = delete;
 
-    // Has it listen on a port of the loopback address as well, for programs that cannot reach a socket. Before start.
+    // Also listens on a port of 127.0.0.1, for programs that cannot use a socket. Call it before start().
     void listenOnPort();
-    // Gives it the machine's print filters and the built bvql70 beside its own. Before start. Whether they are there.
+    // Uses the machine's print filters and the built bvql70. Call it before start(). False when filters are missing.
     bool useFilters();
-    // Starts the server; a sentence when it does not come up, else empty.
+    // Starts the server. Returns an error text, or empty on success.
     QString start();
-    // Ends it; jobs can be sent no more.
+    // Stops the server.
     void stop();
 
-    // The value for CUPS_SERVER.
+    // The value of CUPS_SERVER for this server.
     QString address() const { return m_folder + QStringLiteral("/sock"); }
-    // The same for who cannot reach a socket.
+    // The same for programs that cannot use a socket.
     QString portAddress() const { return QStringLiteral("127.0.0.1:%1").arg(m_port); }
-    // Sends this process' own libcups calls to it, on behalf of a user with that home.
+    // Makes this process's own libcups calls use the server, with `home` as the user's home folder.
     void useHere(const QString &home) const;
-    // Adds a queue on the recording backend; without a PPD a raw one. Whether it worked.
+    // Adds a queue with the recording backend, a raw one when `ppd` is empty. False on a failure.
     bool addQueue(const QString &name, const QString &ppd = {});
-    // Runs one of the commands for administrators (cupsdisable, lpadmin …) on this server. Whether it worked.
+    // Runs an administration command (cupsdisable, lpadmin …) on this server. False on a failure.
     bool administer(const QString &program, const QStringList &arguments);
-    // A PPD with direct filter lines made of another, so that the server passes documents on as they are.
+    // Makes a copy of a PPD with direct filter lines and returns its path. The server then passes documents on
+    // unchanged.
     QString directPpd(const QString &ppd);
-    // The same with a filter that copies its input. A server hands only the first document of a job to a backend where
-    // no filter is in between; with one the backend gets them all, one behind the other.
+    // The same with a filter that copies its input. Without any filter, cupsd gives the backend only the first document
+    // of a job. With this one, the backend gets all documents, one after another.
     QString copyingPpd(const QString &ppd);
 
-    // What the backend got for the job; waits for it to arrive.
+    // Waits for the job and returns what the backend got.
     RecordedJob recorded(int job);
-    // For how many jobs the backend ran.
+    // Number of jobs that the backend got.
     qsizetype recordedCount() const;
-    // The jobs that the queue ever had, by number. After useHere.
+    // States of all jobs of the queue, by job number. Call useHere() before.
     static std::map<int, ipp_jstate_t> jobStates(const QString &queue);
 
 private:
     bool writeFiles();
 
     QString m_folder;
-    int m_port = 0; // 0: on the socket alone
+    int m_port = 0; // 0: listens on the socket only
     bool m_useFilters = false;
     QProcess m_server;
 };
 
-// A value as a print server carries it on: "True" and "False" lose their capitals.
+// Converts a value as the print server does: "True" and "False" become lower case.
 QString asCarried(const QString &value);
 
 } // namespace bvtest

@@ -1,4 +1,4 @@
-// Programs beside a test, by posix_spawn(3) and a pipe.
+// Starts programs with posix_spawn(3) and reads their output from a pipe.
 #include "support/ProgramUnderTest.h"
 
 #include <array>

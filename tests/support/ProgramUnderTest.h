@@ -1,4 +1,4 @@
-// A program that runs beside a test: an agent, a daemon, a publisher. It goes with the object.
+// A program that runs during a test, such as an agent or a daemon. The destructor stops it.
 #pragma once
 
 #include <chrono>
@@ -13,28 +13,29 @@ namespace bvtest {
 class ProgramUnderTest
 {
 public:
-    // Starts the program; its standard output and error come to this object.
+    // Starts the program and captures its standard output and error.
     explicit ProgramUnderTest(const std::vector<std::string> &command);
     ~ProgramUnderTest();
     ProgramUnderTest(const ProgramUnderTest &) = delete;
     ProgramUnderTest &operator=(const ProgramUnderTest &) = delete;
 
-    // Reads on until the output holds the text; false when the program ends or 20 s pass before that.
+    // Reads until the output contains the text. False when the program ends or 20 s pass before.
     bool waitFor(std::string_view text);
     // The output so far.
     const std::string &output() const { return m_output; }
-    // The number behind the last "mark" in the output; 0 when there is none.
+    // The number after the last occurrence of `mark` in the output. 0 when there is none.
     long numberBehind(std::string_view mark) const;
 
-    // How often the text stands in the output.
+    // Number of occurrences of the text in the output.
     int occurrences(std::string_view text) const;
 
     void signal(int number) const;
-    // Whether it still runs, asked without waiting.
+    // True if the program still runs. Does not wait.
     bool running();
-    // Waits for the end, reading all that is left of the output; the exit status, or -1 when a signal ended it.
+    // Reads the rest of the output and waits for the end. Returns the exit status, or -1 when a signal ended the
+    // program.
     int wait();
-    // Asks it to end (SIGTERM) and waits.
+    // Sends SIGTERM and waits like wait().
     int stop();
 
 private:
@@ -46,7 +47,7 @@ private:
     std::string m_output;
 };
 
-// A folder of a test's own, readable by all and removed with the object.
+// A scratch folder, readable by all and removed by the destructor.
 class ScratchFolder
 {
 public:
@@ -57,7 +58,7 @@ public:
 
     const std::string &path() const { return m_path; }
     std::string file(std::string_view name) const { return m_path + '/' + std::string(name); }
-    // Writes a file in it and yields its path.
+    // Writes a file in the folder and returns its path.
     std::string write(std::string_view name, std::string_view text) const;
 
 private:

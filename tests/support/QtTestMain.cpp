@@ -1,5 +1,6 @@
-// main() of the tests that need Qt: a home and a locale of their own, so that nothing of the developer's counts; an
-// application object on the platform that the environment names (offscreen when it names none); then GoogleTest.
+// main() of the tests that need Qt. Sets a private home folder and a fixed locale, so that the developer's settings
+// have no effect. Creates an application object (platform offscreen unless the environment names another), then runs
+// GoogleTest.
 #include <QApplication>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>

@@ -9,7 +9,7 @@
 
 namespace bvtest {
 
-// Three lists of one user, zeroed at first; too large for a small stack.
+// The three lists of one user, zero-initialized. Too large for a small stack.
 struct Lists
 {
     ProfileList rgb{}, sim{}, dst{};
@@ -33,13 +33,13 @@ inline ProfileRecord makeRecord(int32_t inMenu, std::string_view fileName, int32
     return record;
 }
 
-// Adds a record behind those that the count covers.
+// Appends a record to the list.
 inline void add(ProfileList &list, const ProfileRecord &record)
 {
     list.records[list.count++] = record;
 }
 
-// 500 records in use, each with its own name; `profileName` is what all of them show.
+// Fills the list with 500 records. Each has its own file name; all show `profileName`.
 inline void fill(ProfileList &list, std::string_view profileName = "A profile of the shop")
 {
     list = ProfileList{};

@@ -1,4 +1,4 @@
-// A scratch root for one test: a folder of its own that BVCO_ROOT names, removed with all that is in it at the end.
+// A scratch root for one test: a folder that BVCO_ROOT names, removed with its contents at the end.
 #pragma once
 
 #include "platform/RootPath.h"
@@ -35,7 +35,7 @@ public:
 
     const std::filesystem::path &folder() const { return m_folder; }
 
-    // The real path of the current list file of the user who runs the test.
+    // Real path of the current list file of the user who runs the test.
     static std::filesystem::path listFile() { return bv::mapRootPath(bv::profilePaths().current); }
 
     static void writeList(std::string_view text)
@@ -49,7 +49,7 @@ public:
         return {std::istreambuf_iterator<char>(in), {}};
     }
 
-    // Puts a shell script in the helper's place.
+    // Installs a shell script instead of the helper.
     static void installHelper(std::string_view script)
     {
         const std::filesystem::path path = bv::mapRootPath(kHelperPath);
@@ -62,7 +62,7 @@ private:
     std::filesystem::path m_folder;
 };
 
-// Lets this process work on the lists of a login name that needs no account, for the time of one test.
+// While it exists, this process works on the lists of a login name that needs no account.
 class NamedUser
 {
 public:

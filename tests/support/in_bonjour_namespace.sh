@@ -1,7 +1,7 @@
 #!/bin/sh
-# Runs a command in a network namespace of its own, with a D-Bus and an Avahi daemon of its own:
-#   in_bonjour_namespace.sh COMMAND [ARGUMENT...]
-# Inside, the machine's address is 10.99.0.1. Exit status: the command's; 77 where no such namespace can be made.
+# in_bonjour_namespace.sh COMMAND [ARGUMENT...]: runs a command in a new network namespace with its own D-Bus and Avahi
+# daemons. The machine's address inside is 10.99.0.1. Exit status: the command's, or 77 when no such namespace can be
+# created.
 set -u
 
 skip() {
@@ -30,7 +30,7 @@ fi
 
 folder=$2
 shift 2
-# The Avahi daemon insists on this folder, and on these accounts.
+# The Avahi daemon needs this folder and these accounts.
 mount -t tmpfs none /run || skip "no mount in a namespace"
 printf 'root:x:0:0::/:/bin/sh\navahi:x:0:0::/:/bin/sh\n' > "$folder/passwd"
 printf 'root:x:0:\navahi:x:0:\n' > "$folder/group"
@@ -49,7 +49,7 @@ END
 printf '%s\n' '[server]' host-name=testhost use-ipv4=yes use-ipv6=no allow-interfaces=v0 \
     '[wide-area]' enable-wide-area=no '[publish]' publish-workstation=no publish-hinfo=no > "$folder/avahi.conf"
 
-wait_for() { # FILE-TEST... ; 10 s at most
+wait_for() { # COMMAND...: repeats it until it succeeds, for 10 s at most
     tries=0
     until "$@" 2> /dev/null; do
         tries=$((tries + 1))

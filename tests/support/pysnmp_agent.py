@@ -1,8 +1,8 @@
 #!/usr/bin/python3
 """An SNMPv1 agent on pysnmp that serves a small profile table, and can send broken replies.
 
-Prints "ready PORT" when it listens on a free port of 127.0.0.1, and "asked COMMUNITY" at each request. The community
-says how it behaves: "plain", or broken in one of the ways below.
+Prints "ready PORT" when it listens on a free port of 127.0.0.1, and "asked COMMUNITY" for each request. The community
+selects the behavior: "plain", or one of the broken replies below.
 """
 from pyasn1.codec.ber import decoder, encoder
 from pysnmp.carrier.asyncore.dgram import udp
@@ -39,17 +39,17 @@ def bindings(request, mode):
         if name == asked and not following or name > asked and following:
             found = [(V1.ObjectIdentifier(name), as_value(value))]
             if mode == "extra-variables" and following and number + 1 < len(CELLS):
-                # Two cells in one answer, as if two had been asked for.
+                # Two cells in the answer to a request for one.
                 found.append((V1.ObjectIdentifier(CELLS[number + 1][0]), as_value(CELLS[number + 1][1])))
             if mode == "stray-variable" and number == MIDDLE:
-                # Something from elsewhere in front of the cell.
+                # A variable of another table before the cell.
                 found.insert(0, (V1.ObjectIdentifier((1, 3, 6, 1, 2, 1, 1, 1, 0)), V1.OctetString(b"stray")))
             return found, number
     return None, len(CELLS)
 
 
 def broken(message, number, mode):
-    """The bytes that go out for an answer, or None for silence."""
+    """The bytes to send for an answer."""
     if number < MIDDLE:
         return message
     if mode == "cut":

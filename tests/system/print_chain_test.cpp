@@ -1,5 +1,5 @@
-// The whole way to the printer: jobs from programs of other makers and from ours, through the print server's own
-// filters and bvql70, to a backend that records what the printer would get.
+// The whole print chain: jobs from other programs and from ours go through the print server's own filters and bvql70 to
+// a backend that records what the printer would get.
 #include "support/BatchProcess.h"
 #include "support/PrivateCupsd.h"
 
@@ -17,7 +17,7 @@ using bvtest::BatchProcess;
 using bvtest::PrivateCupsd;
 
 constexpr char kDocument[] = BV_SOURCE_DIR "/resources/demo/sample.pdf";
-constexpr int kColorOptions = 29; // all of the panes
+constexpr int kColorOptions = 29; // number of options in both panes
 
 class PrintChain : public ::testing::Test
 {
@@ -28,11 +28,11 @@ protected:
             GTEST_SKIP() << "needs the print server's filters (packages cups and cups-filters)";
         ASSERT_EQ(m_server.start().toStdString(), "");
         ASSERT_TRUE(m_server.addQueue("QL70", BV_SOURCE_DIR "/resources/QL70.ppd"));
-        // The renderer that keeps text as text.
+        // This renderer keeps text as text.
         ASSERT_TRUE(m_server.administer("lpadmin", {"-p", "QL70", "-o", "pdftops-renderer-default=pdftops"}));
     }
 
-    // The color settings of the document that the printer gets, by option; each stands there once.
+    // The color settings by option in the document that the printer gets. Fails if one appears twice.
     std::map<QString, QString> settingsOf(int job)
     {
         const QByteArray data = m_server.recorded(job).data;
@@ -49,7 +49,7 @@ protected:
         return settings;
     }
 
-    // Prints as other programs do, with options as lp(1) takes them.
+    // Prints like another program, with options as for lp(1). Returns the settings that the printer gets.
     std::map<QString, QString> printed(const QStringList &options)
     {
         QStringList arguments = {"-d", "QL70"};
@@ -63,7 +63,7 @@ protected:
     int m_job = 0;
 };
 
-TEST_F(PrintChain, AQuickColorOfAnotherProgramMeansItsPreset)
+TEST_F(PrintChain, AQuickColorFromAnotherProgramSetsItsPreset)
 {
     auto photo = printed({"BVQuickColor=Photo", "BVImageRenderIntent=Saturation"});
     EXPECT_EQ(photo["BVQuickColor"], "/Photo");
@@ -75,7 +75,7 @@ TEST_F(PrintChain, AQuickColorOfAnotherProgramMeansItsPreset)
     EXPECT_EQ(printed({})["BVColorAsGray"], "/False");
 }
 
-TEST_F(PrintChain, AProfileOfThePrinterReachesIt)
+TEST_F(PrintChain, ASelectedPrinterProfileReachesThePrinter)
 {
     const QString path = QString::fromStdString(bv::encodeDevicePath("/ata1a/data/USfiles/Profiles/A(1).icc"));
     auto settings =

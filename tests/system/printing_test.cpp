@@ -1,5 +1,5 @@
-// Printing for real: bvprint and its sink against a private print server, with our plug-in, our PPD and a backend that
-// records what it gets.
+// Real printing: bvprint and its sink with a private print server, our plug-in, our PPD, and a backend that records
+// what it gets.
 #include "support/BatchProcess.h"
 #include "support/PrivateCupsd.h"
 
@@ -23,7 +23,7 @@ using ::testing::AllOf;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-// Looks like no format that a print server knows, is longer than any buffer, and holds every byte.
+// A document of unknown format that holds every byte value and is longer than any buffer.
 QByteArray everyByte()
 {
     QByteArray bytes = "\x01\x02 not a document of any kind\n";
@@ -59,7 +59,7 @@ protected:
     QTemporaryDir m_folder;
 };
 
-TEST_F(Printing, OptionsAndDocumentReachTheBackendAsTheyAre)
+TEST_F(Printing, OptionsAndDocumentReachTheBackendUnchanged)
 {
     const QByteArray bytes = everyByte();
     const QString document = write("every byte", bytes);
@@ -84,7 +84,7 @@ TEST_F(Printing, OptionsAndDocumentReachTheBackendAsTheyAre)
     EXPECT_TRUE(got.data == bytes);
     for (auto option = options.begin(); option != options.end(); ++option) {
         const auto found = got.options.find(option.key());
-        // Copies have an argument of their own.
+        // The number of copies has an argument of its own.
         if (option.key() == "copies") {
             EXPECT_EQ(got.arguments[3], "2");
         } else if (found == got.options.end()) {
@@ -99,12 +99,12 @@ TEST_F(Printing, OptionsAndDocumentReachTheBackendAsTheyAre)
     EXPECT_EQ(m_server.recordedCount(), 1);
 }
 
-TEST_F(Printing, TheDefaultQueueIsTakenAndItsPpdLeavesNoFileBehind)
+TEST_F(Printing, TheDefaultQueueIsUsedAndLeavesNoPpdFileBehind)
 {
     ASSERT_TRUE(m_server.addQueue("Hall", m_server.directPpd(BV_SOURCE_DIR "/resources/QL70.ppd")));
     ASSERT_TRUE(m_server.administer("lpadmin", {"-d", "QL70"}));
     QDir(m_folder.path()).mkdir("tmp");
-    // The user's own default goes first, here an instance: a queue with a set of options.
+    // The user's own default has priority. Here it is an instance: a queue with a set of options.
     for (const char *queue : {"QL70", "Hall"}) {
         BatchProcess batch;
         batch.setVariable("CUPS_SERVER", m_server.address());
@@ -118,14 +118,14 @@ TEST_F(Printing, TheDefaultQueueIsTakenAndItsPpdLeavesNoFileBehind)
         batch.start({});
         EXPECT_EQ(batch.result("panelView"), "pdeMainView");
         EXPECT_EQ(batch.result("restoreValues"), true);
-        // The pane keeps its values under the queue's name.
+        // The pane stores its values under the queue's name.
         EXPECT_EQ(batch.result("saveValues"), true);
         EXPECT_EQ(batch.result("ticket").toObject()["QL70"].toObject().keys(), QStringList{queue});
     }
     EXPECT_EQ(QDir(m_folder.filePath("tmp")).entryList(QDir::Files), QStringList());
 }
 
-TEST_F(Printing, SeveralDocumentsAreOneJobAndOneRefusedMeansNoneIsPrinted)
+TEST_F(Printing, SeveralDocumentsAreOneJobAndOneRefusalCancelsIt)
 {
     useServerHere();
     ASSERT_TRUE(m_server.addQueue("QL70", m_server.copyingPpd(BV_SOURCE_DIR "/resources/QL70.ppd")));
@@ -148,7 +148,7 @@ TEST_F(Printing, SeveralDocumentsAreOneJobAndOneRefusedMeansNoneIsPrinted)
     EXPECT_EQ(states.begin()->second, IPP_JSTATE_CANCELED);
 }
 
-TEST_F(Printing, AnOptionThatWouldBeReadAsOthersIsRefusedAndOtherBracesPass)
+TEST_F(Printing, AnOptionThatWouldBeParsedAsSeveralIsRefused)
 {
     const QString text = write("a.txt", "text\n");
     start();
@@ -170,13 +170,13 @@ TEST_F(Printing, AnOptionThatWouldBeReadAsOthersIsRefusedAndOtherBracesPass)
     }
 }
 
-TEST_F(Printing, WhatTheServerRefusesIsSaidInPlainWordsAndLosesNoChoice)
+TEST_F(Printing, ServerRefusalsAreExplainedAndKeepAllChoices)
 {
     const QString text = write("a.txt", "text\n");
     start();
     EXPECT_TRUE(m_batch.result("setTicket {\"kept\":\"yes\"}").isNull());
     ASSERT_TRUE(m_server.administer("cupsdisable", {"QL70"}));
-    // A stopped queue keeps the job; one that takes no jobs refuses it, stopped or not.
+    // A stopped queue accepts the job. A queue that rejects jobs refuses it, stopped or not.
     const int kept = print(text)["result"].toObject()["job"].toInt();
     EXPECT_GT(kept, 0);
     EXPECT_EQ(m_server.recordedCount(), 0);
@@ -209,7 +209,7 @@ TEST_F(Printing, WithoutAUsableQueueTheProgramEndsWithStatus2)
     }
 }
 
-TEST_F(Printing, AQueueWhosePpdIsCutOffIsNamedWithTheReason)
+TEST_F(Printing, ATruncatedPpdIsReportedWithQueueAndReason)
 {
     useServerHere();
     QFile whole(BV_SOURCE_DIR "/resources/QL70.ppd");
@@ -221,7 +221,7 @@ TEST_F(Printing, AQueueWhosePpdIsCutOffIsNamedWithTheReason)
     EXPECT_THAT(ppd.error().toStdString(), AllOf(HasSubstr("of the queue CUT is cut off"), Not(HasSubstr("tmp"))));
 }
 
-TEST_F(Printing, QueuesAreListedWithWhatADialogShows)
+TEST_F(Printing, QueuesAreListedWithTheirDetails)
 {
     useServerHere();
     ASSERT_TRUE(m_server.addQueue("RAW"));

@@ -1,5 +1,5 @@
-// The dialog's window against a private print server: choices made with keys and mouse in our pane, and what becomes of
-// them in the server's job and in the next opening.
+// The dialog's window with a private print server. Keys and mouse make choices in our pane; the test checks the
+// server's job and the next opening.
 #include "support/PrivateCupsd.h"
 
 #include "dialog/PrintDialog.h"
@@ -80,7 +80,7 @@ protected:
     std::unique_ptr<PrintDialog> m_dialog;
 };
 
-TEST_F(WindowPrinting, WhatIsChosenIsPrintedAndFoundAgainTheNextTime)
+TEST_F(WindowPrinting, ChoicesArePrintedAndRestoredTheNextTime)
 {
     open({write("first ü.txt", "first\n\x01\xff bytes\n"), write("second.txt", "second\n")});
     EXPECT_EQ(quickColor()->currentText(), "General");
@@ -101,7 +101,7 @@ TEST_F(WindowPrinting, WhatIsChosenIsPrintedAndFoundAgainTheNextTime)
     EXPECT_EQ(m_server.recordedCount(), 1);
     EXPECT_EQ(got.data, "first\n\x01\xff bytes\nsecond\n");
     EXPECT_EQ(got.arguments[3], "2");
-    // The preset's meaning, and what the dialog's own rows say.
+    // The choices of the preset, and those of the dialog's own rows.
     for (const auto &[option, choice] : std::map<QString, const char *>{{"BVQuickColor", "Photo"},
                                                                         {"BVEconoMode", "true"},
                                                                         {"BVTextGrayTreatment", "FourColor"},
@@ -109,7 +109,7 @@ TEST_F(WindowPrinting, WhatIsChosenIsPrintedAndFoundAgainTheNextTime)
                                                                         {"page-ranges", "1-2"},
                                                                         {"print-color-mode", "color"}})
         EXPECT_EQ(got.options[option].toStdString(), choice) << option.toStdString();
-    // The ticket as it is kept is the ticket that was sent.
+    // The remembered ticket is the ticket that was sent.
     const auto ticket = m_remembered.load("QL70");
     ASSERT_TRUE(ticket);
     size_t compared = 0;

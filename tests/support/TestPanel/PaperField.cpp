@@ -1,4 +1,4 @@
-// The check of the small panel's text field.
+// Refuses digits in the test panel's text field.
 #include "PaperField.h"
 
 #include <QRegularExpression>

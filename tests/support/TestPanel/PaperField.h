@@ -1,4 +1,5 @@
-// The small panel's text field: no digits, neither typed nor pasted. Its class bears a suffix as plug-ins' do.
+// The test panel's text field. It accepts no digits, neither typed nor pasted. Like all classes of plug-ins, its class
+// has a suffix.
 #pragma once
 
 #include <QLineEdit>

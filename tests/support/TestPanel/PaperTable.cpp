@@ -1,4 +1,4 @@
-// The model of the small panel's table.
+// The model of the test panel's table.
 #include "PaperTable.h"
 
 #include "platform/HostProtocol.h"
@@ -51,6 +51,6 @@ QVariant PaperTable::headerData(int section, Qt::Orientation orientation, int ro
 Qt::ItemFlags PaperTable::flags(const QModelIndex &index) const
 {
     const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
-    // The last paper's mark cannot be taken away.
+    // The check mark of the last paper cannot be changed.
     return index.column() == 2 && index.row() != 2 ? flags | Qt::ItemIsUserCheckable : flags;
 }

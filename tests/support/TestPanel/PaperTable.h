@@ -1,4 +1,4 @@
-// The table of the small panel: three kinds of paper, one of them with an icon, each with a check mark.
+// The test panel's table: three kinds of paper with a check mark each, one of them with an icon.
 #pragma once
 
 #include <QAbstractTableModel>

@@ -1,4 +1,4 @@
-// The small panel: a combo box, a check box, two text fields, a spin box, a table and a modal window.
+// The test panel: a combo box, a check box, two text fields, a spin box, a table and a modal window.
 #include "TestPanel.h"
 
 #include "PaperField.h"
@@ -22,11 +22,11 @@
 
 namespace {
 
-// What the panel keeps in the ticket.
-const QString kTonerKey = QStringLiteral("TPToner");   // string, a choice below
+// The panel's keys in the ticket.
+const QString kTonerKey = QStringLiteral("TPToner");   // string, one of kToners
 const QString kStampKey = QStringLiteral("TPStamp");   // string
 const QString kSheetsKey = QStringLiteral("TPSheets"); // integer
-const QString kOwnKey = QStringLiteral("TestPanel");   // dictionary, for the panel alone
+const QString kOwnKey = QStringLiteral("TestPanel");   // dictionary, private to the panel
 
 const QStringList kToners = {QStringLiteral("Normal"), QStringLiteral("Save"), QStringLiteral("Rich")};
 
@@ -44,7 +44,7 @@ QTableView *makeTable(QWidget *parent)
     table->setObjectName(QStringLiteral("paperTable"));
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->setTabKeyNavigation(false); // Tab leaves the table, so that no key is caught in it
+    table->setTabKeyNavigation(false); // Tab must leave the table
     table->setModel(new PaperTable(table));
     table->setAccessibleName(QStringLiteral("Papers"));
     return table;
@@ -138,14 +138,14 @@ void TestPanel::buildView()
 void TestPanel::openEditor()
 {
     log(QStringLiteral("editor opens"));
-    // Closed, the window stays a child of the view.
+    // The window stays a child of the view after it is closed.
     QDialog &editor = *new QDialog(m_view);
     editor.setObjectName(QStringLiteral("editorWindow"));
     auto *form = new QFormLayout(&editor);
     auto *name = new QLineEdit;
     name->setObjectName(QStringLiteral("editName"));
     form->addRow(QStringLiteral("&Name:"), name);
-    // The same name as a control of the view: the modal window's goes first.
+    // Has the same name as a control of the view. Lookups must prefer the one in the modal window.
     auto *stamp = new QCheckBox(QStringLiteral("Stamp in the editor"));
     stamp->setObjectName(QStringLiteral("stampCheck"));
     form->addRow(stamp);
@@ -161,7 +161,7 @@ void TestPanel::openEditor()
                      });
     QObject::connect(editor.findChild<QPushButton *>(QStringLiteral("editOK")), &QPushButton::clicked, &editor,
                      [&editor] {
-                         QThread::msleep(100); // as a button that writes a file
+                         QThread::msleep(100); // like a button that writes a file
                          log(QStringLiteral("editor confirmed"));
                          editor.accept();
                      });

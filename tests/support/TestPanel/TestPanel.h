@@ -1,5 +1,5 @@
-// A small panel of another maker: it shares nothing with our plug-in but the host protocol, and shows that the dialog
-// works with any panel. What it is told to do is written to the file that TESTPANEL_LOG names, one call a line.
+// A panel of another maker. It has only the host protocol in common with our plug-in, and shows that the dialog works
+// with any panel. Each call is logged as a line in the file that TESTPANEL_LOG names.
 #pragma once
 
 #include "platform/HostProtocol.h"
@@ -23,12 +23,12 @@ public:
     QWidget *panelView() override;
     void willShow() override;
     bool shouldHide() override;
-    // Refuses a stamp of the text "odd".
+    // Fails when the stamp's text is "odd".
     bool restoreValuesAndReturnError(QString *error) override;
-    // Refuses while the stamp's text is "refuse".
+    // Fails while the stamp's text is "refuse".
     bool saveValuesAndReturnError(QString *error) override;
     bv::PrintDictionary summaryInfo() override;
-    // No while the stamp's text is "hold".
+    // False while the stamp's text is "hold".
     bool shouldPrint() override;
     void PPDOptionKeyValueDidChange(const QString &key, const QString &ppdChoice) override;
     void constraints() override;
@@ -53,9 +53,9 @@ class TestPanelFactory final : public QObject, public bv::PrintPanelFactory
     Q_INTERFACES(bv::PrintPanelFactory)
 
 public:
-    // Refuses to start while TESTPANEL_REFUSES_START is set.
+    // Fails while TESTPANEL_REFUSES_START is set.
     bool initWithBundle(const bv::PluginBundle &bundle) override;
-    // One panel for the printer module, two for the type "two", none for any other.
+    // One panel for the printer module, two for the type "two", none for other types.
     std::optional<std::vector<std::unique_ptr<bv::PrintPanel>>>
     PDEPanelsForType(const QString &type, bv::PrintPanelCallback *hostInfo) override;
 };
