@@ -1,4 +1,4 @@
-// What the benchmarks measure with: milliseconds of one step, and the median of several.
+// Measures the milliseconds of one step, and takes the median of several.
 #pragma once
 
 #include <algorithm>

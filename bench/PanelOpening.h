@@ -1,5 +1,5 @@
-// One opening of the pane through the host protocol, from loading the plug-in to the shown and restored view, with the
-// time of each step.
+// Opens the pane through the host protocol, from loading the plug-in to the shown and restored view, and measures each
+// step.
 #pragma once
 
 #include "Measure.h"
@@ -13,18 +13,18 @@
 
 namespace bvbench {
 
-// In milliseconds.
+// All times are in milliseconds.
 struct PanelOpening
 {
     double whole = 0;
     double load = 0;
-    double view = 0; // panelView alone: menus, and the refresh of the profiles from the printer
+    double view = 0; // panelView only: builds the menus and refreshes the profiles from the printer
     double restore = 0;
     double show = 0;
-    QStringList keys; // the PPD options that the panel is for
+    QStringList keys; // the PPD options that the panel serves
 };
 
-// The plug-in is gone again afterwards.
+// Opens the panel once. Afterwards the plug-in is unloaded again.
 inline PanelOpening openPanel(bv::PrintPanelCallback &callback)
 {
     PanelOpening opening;

@@ -1,6 +1,6 @@
-// Runs the helper as the dialog does and compares with /bin/true run the same way: one request that only answers, and
-// the requests that write a full list (3 x 500 records), these against as many runs of /bin/true and one fsync(2).
-// Prints medians in microseconds and ratios. The two take turns in one run, so the machine's load hits both alike.
+// Runs the helper as the dialog does, and /bin/true in the same way for comparison. Measures one request that changes
+// nothing, and the requests that write a full list (3 x 500 records) against as many runs of /bin/true and one
+// fsync(2). Prints medians in microseconds and ratios. Both take turns, so the machine's load affects both alike.
 #include "profiles/HelperRequest.h"
 #include "profiles/ProfileOperations.h"
 #include "profiles/ProfilePaths.h"
@@ -43,7 +43,7 @@ void require(bool holds, const char *what)
     std::exit(1);
 }
 
-// Passes requests to a program by a child process and notes how many there were and how long they took.
+// Runs a program for each request. Counts the requests and measures their time.
 class TimedTransport : public bv::HelperTransport
 {
 public:
@@ -67,7 +67,7 @@ private:
     double m_spent = 0;
 };
 
-// Puts a program in the helper's place.
+// Installs a program instead of the helper.
 void install(const std::filesystem::path &program)
 {
     const std::filesystem::path path = bv::mapRootPath(kHelperPath);

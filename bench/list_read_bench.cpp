@@ -1,5 +1,5 @@
-// Reads a full list file (3 x 500 records) and compares with a bare parse of the same text and with Python's plistlib.
-// Prints medians in microseconds and ratios. The three take turns in one run, so the machine's load hits all alike.
+// Reads a full list file (3 x 500 records). The yardsticks are a bare parse of the same text and Python's plistlib.
+// Prints medians in microseconds and ratios. The three take turns, so the machine's load affects all alike.
 #include "platform/FileContents.h"
 #include "platform/PlistGuard.h"
 #include "profiles/ProfileListFile.h"
@@ -31,7 +31,7 @@ double median(std::vector<double> values)
     return values[values.size() / 2];
 }
 
-// One timed read in Python, in microseconds; the start of the interpreter does not count.
+// One timed read in Python, in microseconds, without the start of the interpreter.
 double pythonRead(const std::string &path)
 {
     const std::string command = "python3 -c 'import plistlib,time,sys\n"

@@ -1,6 +1,6 @@
-// How long the pane takes from loading the plug-in to the shown and restored view, split by step: medians of 20
-// openings on the project's PPD, on one with ten times the options and on one with ten times the choices, one line
-// each. The marking of conflicts is libcups' own work; it is measured alone, so that it can be set apart.
+// Time from loading the plug-in to the shown and restored pane, by step. Prints medians of 20 openings for three PPDs:
+// the project's own, one with ten times the options, one with ten times the choices. Marking conflicts is done by
+// libcups and is also measured alone.
 #include "PanelOpening.h"
 #include "common/PDECommon.h"
 #include "support/PaneFixture.h"
@@ -19,7 +19,7 @@ using bvbench::milliseconds;
 
 constexpr int kRuns = 20;
 
-// The project's PPD, with options added that no pane knows and with choices added to the ones that it does.
+// The project's PPD with additional options, which no pane knows, and additional choices in known options.
 QByteArray grownPpd(int moreOptions, int moreChoices)
 {
     QFile file(QStringLiteral(BV_SOURCE_DIR "/resources/QL70.ppd"));
@@ -86,7 +86,7 @@ void report(const char *name, ppd_file_t *ppd)
         add("restore", opening.restore);
         add("show", opening.show);
 
-        // The view's own steps, with the classes linked in.
+        // The steps of the view alone, with its classes linked into this program.
         MainView view;
         Ui::PDEMain form;
         PainChangeController controller;

@@ -1,6 +1,6 @@
-// The pane beside what else opens the same PPD, medians of 20 in turns: `lpoptions -l` and Qt's own print dialog with
-// its page of options, both on a private print server; and the whole print dialog on that server. Prints milliseconds
-// and the ratio of each to the pane. The application object is there in all of them.
+// Compares the pane with other programs that open the same PPD: `lpoptions -l` and Qt's own print dialog with its page
+// of options, both on a private print server. Also measures the whole print dialog on that server. Prints medians of 20
+// rounds in milliseconds, and ratios to the pane. The start of the application object is not counted.
 #include "PanelOpening.h"
 #include "support/PaneFixture.h"
 #include "support/PrivateCupsd.h"
@@ -36,7 +36,7 @@ void require(bool holds, const char *what)
     std::exit(1);
 }
 
-// The command, from its start to its end; `lines` is how many options it lists.
+// Time of the command from start to end. `lines` is set to the number of options that it lists.
 double lpoptionsTime(int &lines)
 {
     QProcess process;
@@ -49,7 +49,8 @@ double lpoptionsTime(int &lines)
     return time;
 }
 
-// From the printer's name to the painted page of its options; `dialogOnly` is the time to the painted dialog.
+// Time from the printer's name to the painted page of its options. `dialogOnly` is set to the time until the dialog was
+// painted.
 double qtDialogTime(double &dialogOnly)
 {
     double time = 0;
@@ -66,7 +67,7 @@ double qtDialogTime(double &dialogOnly)
     dialogOnly = passed();
     auto *properties = dialog.findChild<QPushButton *>(QStringLiteral("properties"));
     require(properties != nullptr, "Qt's print dialog has no button for the properties");
-    // The button's window is modal and comes back when it closes.
+    // The button opens a modal window, and the click returns only when it is closed.
     QTimer::singleShot(0, &dialog, [&] {
         QWidget *window = QApplication::activeModalWidget();
         auto *pages = window ? window->findChild<QTabWidget *>() : nullptr;
@@ -80,8 +81,8 @@ double qtDialogTime(double &dialogOnly)
     return time;
 }
 
-// The print dialog of this project, from nothing to the pane in the painted window: it asks the server for the queues
-// and for the PPD, and paints before each.
+// Time of this project's print dialog until the pane is painted in its window. It asks the server for the queues and
+// the PPD, and paints the window before each request.
 double ownDialogTime(bv::QueueSource &source, bv::PanelLoader &loader, bv::RememberedTickets &remembered)
 {
     return milliseconds([&] {
@@ -127,11 +128,11 @@ int main(int argc, char **argv)
     std::vector<double> qtPage;
     std::vector<double> ownDialog;
     int options = 0;
-    // The first round warms caches and does not count.
+    // The first round warms the caches and does not count.
     for (int run = 0; run <= kRuns; ++run) {
         double dialogOnly = 0;
         const double times[] = {bvbench::openPanel(callback).whole, lpoptionsTime(options), qtDialogTime(dialogOnly)};
-        // The dialog's plug-in stays loaded until the loader goes.
+        // The plug-in stays loaded until the loader is destroyed.
         bv::PanelLoader loader;
         require(bool(loader.load(QStringLiteral(BV_PLUGIN), {})), "the plug-in cannot be loaded");
         const double own = ownDialogTime(*source, sink, loader, const_cast<bv::RememberedTickets &>(remembered));

@@ -1,6 +1,5 @@
-// The profile management window with three full lists against the same window with empty ones, and the change of its
-// class menu with 500 rows. Prints medians and ratios; full and empty take turns, so the machine's load hits both
-// alike.
+// Opens the profile management window with three full lists and with empty ones, and changes its class menu with 500
+// rows. Prints medians and ratios. Full and empty lists take turns, so the machine's load affects both alike.
 #include "profileui/ManagementWindow.h"
 #include "profileui/ProfileControl.h"
 #include "profiles/ProfileListFile.h"
@@ -31,7 +30,7 @@ double median(std::vector<double> values)
     return values[values.size() / 2];
 }
 
-// From the press of the button to the first painted window. `inWindow` runs in it before it is closed again.
+// Time from pressing the button to the first painted window. `inWindow` runs in the window before it is closed.
 template <typename Steps> double openingTime(Steps inWindow)
 {
     ProfileControl control;
@@ -48,7 +47,7 @@ template <typename Steps> double openingTime(Steps inWindow)
     return opened;
 }
 
-// From the choice in the class menu to the painted table.
+// Time from choosing a class in the menu to the painted table.
 double classChangeTime(const Ui::ProfileManagement &controls, int item)
 {
     const auto start = Clock::now();

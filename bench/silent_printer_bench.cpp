@@ -1,7 +1,7 @@
-// What a printer's silence costs the dialog: the time of panelView, where the refresh of the profiles happens, for a
-// queue without an address, a printer that answers, one that is silent (with the SNMP library's own time-outs and with
-// one second and no retry), and Bonjour names that do not resolve. Prints medians, what each adds to the answering
-// printer, and the requests that the printer saw in all runs.
+// Measures how long a silent printer delays the dialog: the time of panelView, which refreshes the profiles. The cases
+// are a queue without an address, a printer that answers, a silent printer (with the SNMP library's default time-outs,
+// and with one second and no retry), and Bonjour names that do not resolve. Prints medians, differences from the
+// answering printer, and the number of requests in all runs.
 #include "PanelOpening.h"
 #include "support/ListRoot.h"
 #include "support/PaneFixture.h"
@@ -18,8 +18,8 @@ constexpr char kNoService[] = "dnssd://Nobody%20here._pdl-datastream._tcp.local.
 struct Case
 {
     const char *name;
-    const char *uri;   // null: the queue has none
-    const char *fault; // of the simulated printer; null: there is none
+    const char *uri;   // null: the queue has no address
+    const char *fault; // fault of the simulated printer; null: there is no printer
     const char *limits;
     int runs;
 };
@@ -33,7 +33,7 @@ constexpr Case kCases[] = {
 };
 constexpr Case kUnknownName = {"Bonjour name that is not there", kNoService, nullptr, "", 5};
 
-// The median time of panelView for a queue with that URI.
+// Median time of panelView for this case.
 double viewTime(const Case &one)
 {
     const bvtest::TestPpd ppd;
@@ -46,7 +46,7 @@ double viewTime(const Case &one)
     callback.session = &session;
     callback.ppd = ppd.get();
     std::vector<double> times;
-    // The first one warms caches; a whole one on a silent printer would only take time.
+    // A first opening warms the caches. It is skipped for slow cases, where it would only cost time.
     if (one.runs > 5)
         bvbench::openPanel(callback);
     for (int run = 0; run < one.runs; ++run)
@@ -95,11 +95,12 @@ int main(int argc, char **argv)
         report(kUnknownName, answering);
         return 0;
     }
-    // Whatever runs on this machine is not asked.
+    // Keeps the machine's own daemons out of the measurement.
     setenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nonexistent/bus", 1);
     for (const Case &one : kCases)
         report(one, answering);
-    // A name is unknown only where a daemon can be asked: in a network of its own, where the machine allows one.
+    // A name can only be unknown if a daemon answers. So this case runs in a network namespace, where the machine
+    // allows one.
     unsetenv("DBUS_SYSTEM_BUS_ADDRESS");
     std::printf("in a network of its own:\n");
     std::fflush(stdout);

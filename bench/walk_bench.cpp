@@ -1,6 +1,6 @@
-// The walk against the stock snmpwalk command: a table of 500 rows and 7 columns from the same simulated printer, in
-// paired runs. Prints the medians of wall and CPU time, their ratios, and the number of requests of each. QL70Helper
-// reads, reconciles and writes the stored lists as well.
+// Compares the walk with the standard snmpwalk command: a table of 500 rows and 7 columns from the same simulated
+// printer, in paired runs. Prints medians of wall and CPU time, their ratios, and the number of requests. QL70Helper
+// also reads, reconciles and writes the stored lists.
 // Usage: walk_bench [PAIRS]
 #include "support/ListRoot.h"
 #include "support/ProgramUnderTest.h"
@@ -28,7 +28,7 @@ namespace {
 
 constexpr char kRoot[] = "1.3.6.1.4.1.39847.1.1.1.1.6.13.1.1";
 
-// Without a helper the reconciliation reads no file that is there and writes none.
+// There is no helper, so the reconciliation reads and writes no list.
 class NoHelper : public bv::HelperTransport
 {
 public:
@@ -39,7 +39,7 @@ public:
     }
 };
 
-// The walk alone, in this process and without the stored list, which QL70Helper reads and writes as well.
+// Only the walk, in this process and without the stored list.
 int walkHere(const char *host)
 {
     const bvtest::TestRoot empty;
@@ -59,7 +59,7 @@ struct Sample
     double cpu = 0;  // milliseconds, user and system
 };
 
-// One run of a program with its output thrown away.
+// Runs a program once and discards its output.
 Sample timed(const std::vector<std::string> &command)
 {
     std::vector<char *> words;
@@ -111,7 +111,7 @@ double medianOf(const Contender &contender, double Sample::*part)
     return median(values);
 }
 
-// The median of the ratios pair by pair: what the machine does meanwhile meets both of a pair.
+// Median of the pairwise ratios. Changes in the machine's load affect both runs of a pair.
 double medianRatio(const Contender &contender, const Contender &yardstick, double Sample::*part)
 {
     std::vector<double> ratios;
@@ -131,7 +131,7 @@ void configure(const bvtest::ListRoot &root, long port)
     setenv("SNMPCONFPATH", root.file("snmp").c_str(), 1);
 }
 
-// The requests that one run makes, counted by a printer of its own.
+// Number of requests of one run, counted by a separate simulated printer.
 long requestsOf(const bvtest::ListRoot &root, const std::vector<std::string> &command)
 {
     bvtest::ProgramUnderTest printer(printerCommand());
@@ -169,7 +169,7 @@ int main(int argc, char **argv)
     }
     configure(root, printer.numberBehind(" port "));
     for (int pair = 0; pair <= pairs; ++pair) {
-        // Each round begins with another one, so none has always the same one before it.
+        // Each round starts with another contender, so that none always follows the same one.
         for (size_t i = 0; i < std::size(contenders); ++i) {
             Contender &contender = contenders[(i + static_cast<size_t>(pair)) % std::size(contenders)];
             const Sample sample = timed(contender.command);

@@ -1,5 +1,5 @@
-// Reads any bytes as a list file. What could be read keeps its promises, and writing and reading it again changes
-// nothing more than the texts that no file can carry.
+// Reads any bytes as a list file. All counts and texts must be within their bounds. Writing and reading the result
+// again may change only texts that no file can hold.
 #include "profiles/ProfileListFile.h"
 #include "profiles/ProfileListRead.h"
 

@@ -1,4 +1,4 @@
-// Whatever the guard lets through is safe to parse, to walk through, to copy, to write and to free.
+// Any text that the guard accepts must be safe to parse, iterate, copy, write and free.
 #include "platform/PlistGuard.h"
 #include "platform/PropertyList.h"
 

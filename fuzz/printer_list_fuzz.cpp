@@ -1,4 +1,4 @@
-// Reads any bytes as the simulated printer's list: rows in order, or a sentence about the line that is wrong.
+// Reads any bytes as the simulated printer's list. The result must be sorted rows, or a sentence about the wrong line.
 #include "simulator/ProfileFile.h"
 
 #include <cstdlib>

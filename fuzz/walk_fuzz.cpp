@@ -1,5 +1,5 @@
-// Takes any bytes as the variables of a walk and merges what the spool then holds. Nothing outside the slots may
-// change, and no list may get a profile that the name rule refuses.
+// Takes any bytes as the variables of a walk and merges the resulting spool into a list. Memory outside the slots must
+// not change, and no list may get a profile with a name that the name rule refuses.
 #include "discovery/FileNameRule.h"
 #include "discovery/ProfileSpool.h"
 #include "discovery/Reconciliation.h"
@@ -17,7 +17,7 @@ void require(bool holds)
         std::abort();
 }
 
-// Reads the input piece by piece; zeros when it is at its end.
+// Reads the input piece by piece. Returns zeros after its end.
 class Input
 {
 public:
@@ -42,7 +42,7 @@ private:
     size_t m_left;
 };
 
-// One variable: column, row, length of the identifier, type, value.
+// Reads one variable: column, row, length of the identifier, type, value.
 void spoolOne(Input *input)
 {
     std::vector<oid> name(bv::kProfileEntryOid.begin(), bv::kProfileEntryOid.end());
@@ -82,7 +82,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     Input input(data, size);
     vSpoolPlist(nullptr, 0, nullptr, 1);
     guarded = {};
-    guarded.list.count = static_cast<int8_t>(input.byte()) * 8; // counts are kept as they fall
+    guarded.list.count = static_cast<int8_t>(input.byte()) * 8; // any count, also an invalid one
     const int32_t status = input.byte() & 1;
     while (!input.atEnd())
         spoolOne(&input);
