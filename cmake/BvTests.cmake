@@ -1,7 +1,7 @@
 # bv_add_test(NAME sources... [QT] [LIBS libraries...] [ENV name=value...] [TIMEOUT seconds] [LABELS labels...] [ROOT regex])
-# One GoogleTest executable a room; every test case is a CTest entry of its own, with a fixed locale and no display.
-# A test that calls GTEST_SKIP counts as skipped, not as passed. Its first label is the folder it lies in, so that
-# `ctest -L profiles` runs a room's tests; cases whose names match ROOT are labelled as needing root.
+# Adds a GoogleTest executable. Each test case becomes a CTest entry of its own, runs with a fixed locale and without a
+# display, and counts as skipped if it calls GTEST_SKIP. The first label is the name of the folder, so that
+# `ctest -L profiles` runs all tests in tests/profiles. Cases whose names match ROOT also get the label "root".
 find_package(GTest REQUIRED)
 include(GoogleTest)
 
@@ -25,7 +25,8 @@ function(bv_add_test name)
     DISCOVERY_TIMEOUT 60 NO_PRETTY_VALUES
     PROPERTIES TIMEOUT ${ARG_TIMEOUT} SKIP_REGULAR_EXPRESSION "\\[  SKIPPED \\]")
 
-  # CTest learns the cases from the built test, and reads this after it. (PROPERTIES takes no list.)
+  # The test cases are known only after the executable was built. CTest reads this file after their discovery and sets
+  # their labels here, because gtest_discover_tests(PROPERTIES) accepts no lists.
   cmake_path(GET CMAKE_CURRENT_SOURCE_DIR FILENAME room)
   set(labels ${CMAKE_CURRENT_BINARY_DIR}/${name}_labels.cmake)
   file(CONFIGURE OUTPUT ${labels} @ONLY CONTENT [==[
@@ -41,7 +42,8 @@ endforeach()
   set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES ${labels})
 endfunction()
 
-# bv_add_script_test(NAME TIMEOUT COMMAND...): a test of its own kind, labelled like the others.
+# bv_add_script_test(NAME TIMEOUT COMMAND...): adds a test that is a command, with the name of the folder as its label.
+# Exit status 77 means skipped.
 function(bv_add_script_test name timeout)
   cmake_path(GET CMAKE_CURRENT_SOURCE_DIR FILENAME room)
   add_test(NAME ${name} COMMAND ${ARGN})

@@ -1,6 +1,6 @@
-# Stops an installation before anything is copied, when a program is not built or a place cannot be written; then makes
-# the folders readable for everybody, whatever the umask (CMake does so for those it is given, not for those on the way).
-# Set before: places (folders, those below the prefix relative to it), programs (the built files).
+# Stops an installation before anything is copied if a program is not built or a folder cannot be written. Then creates
+# the folders, readable for everybody whatever the umask (CMake itself does not do so for parent folders).
+# Input: places (folders; relative ones are below the prefix), programs (the built files).
 foreach(program IN LISTS programs)
   if(NOT EXISTS "${program}")
     message(FATAL_ERROR "Nothing was installed: ${program} is not built. Build first: cmake --build FOLDER")
@@ -10,7 +10,7 @@ endforeach()
 foreach(place IN LISTS places)
   cmake_path(ABSOLUTE_PATH place BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}")
   set(place "$ENV{DESTDIR}${place}")
-  # What is not there yet is made in the nearest folder that is.
+  # A folder that does not exist is created in its nearest existing parent, so that one must be writable.
   set(folder "${place}")
   while(NOT EXISTS "${folder}")
     cmake_path(GET folder PARENT_PATH folder)

@@ -1,11 +1,11 @@
-# Removes what the manifest names, and then the folders of our own that are empty. Set before: manifest, library (the
-# fixed places), lists (the folder of the profile lists).
+# Removes the files in the manifest, then our own folders that are empty. Input: manifest, library (the fixed /Library
+# path), lists (the folder of the profile lists).
 if(NOT EXISTS "${manifest}")
   message(FATAL_ERROR "Nothing to remove: nothing was installed from this build folder.")
 endif()
 file(STRINGS "${manifest}" files ENCODING UTF-8)
 
-# Before anything is removed, so that it is all or nothing.
+# Check everything first, so that either all files are removed or none.
 foreach(file IN LISTS files)
   cmake_path(GET file PARENT_PATH folder)
   set(folder "$ENV{DESTDIR}${folder}")
@@ -22,7 +22,7 @@ foreach(file IN LISTS files)
   file(REMOVE "$ENV{DESTDIR}${file}")
   message(STATUS "Removed $ENV{DESTDIR}${file}")
   cmake_path(GET file PARENT_PATH folder)
-  # Folders of the system below the prefix (bin, share/applications) are not ours to remove, empty or not.
+  # System folders below the prefix (bin, share/applications) are not ours and stay, even when empty.
   string(FIND "${file}" "${library}/" at)
   if(at EQUAL 0 OR folder MATCHES "/(bvco|brevane)$")
     list(APPEND folders "${folder}")
@@ -30,7 +30,7 @@ foreach(file IN LISTS files)
 endforeach()
 
 foreach(folder IN LISTS folders)
-  # rmdir refuses what is not empty.
+  # rmdir fails for a folder that is not empty.
   set(status 0)
   while(status EQUAL 0)
     execute_process(COMMAND rmdir "$ENV{DESTDIR}${folder}" RESULT_VARIABLE status ERROR_QUIET)
