@@ -27,11 +27,11 @@ namespace bv {
 
 namespace {
 
-// Widths in average characters: the side, a summary beside the pane, and the pane's minimum for that.
-constexpr int kSideCharacters = 44;
-constexpr int kWidestSideCharacters = 58;
-constexpr int kSummaryCharacters = 44;
-constexpr int kPaneCharacters = 66;
+// Widths in average characters.
+constexpr int kSideCharacters = 44;       // the side, at least
+constexpr int kWidestSideCharacters = 58; // the side, at most
+constexpr int kSummaryCharacters = 44;    // the summary, when it is beside the pane
+constexpr int kPaneCharacters = 66;       // the pane needs this much before the summary may be beside it
 
 QLabel *heading(const QString &text, QWidget *parent)
 {

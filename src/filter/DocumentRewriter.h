@@ -38,7 +38,7 @@ public:
 private:
     // The current position in a document.
     enum class Place {
-        Outside,     // before the first document, or between two
+        Outside,     // before the first document, or between two documents
         Header,      // in the header comments
         AfterHeader, // after the header comments, before any section
         Prolog,

@@ -1,4 +1,4 @@
-// The requests about the list files.
+// Answers the requests about the list files.
 #include "helper/ListRequests.h"
 
 #include "helper/Diagnostics.h"

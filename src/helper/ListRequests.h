@@ -1,4 +1,4 @@
-// The requests about the list files.
+// Answers the requests about the list files.
 #pragma once
 
 #include "helper/RequestTable.h"
