@@ -1,7 +1,7 @@
 // Reads a full list file (3 x 500 records). The yardsticks are a bare parse of the same text and Python's plistlib.
 // Prints medians in microseconds and ratios. The three take turns, so the machine's load affects all alike.
 #include "platform/FileContents.h"
-#include "platform/PlistGuard.h"
+#include "platform/PropertyList.h"
 #include "profiles/ProfileListFile.h"
 #include "profiles/ProfileOperations.h"
 #include "support/SampleLists.h"
@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
-#include <plist/plist.h>
+#include <expat.h>
 #include <string>
 #include <vector>
 
@@ -69,9 +69,9 @@ int main()
         ours.push_back(microseconds([&] { BVPListReadProfile_All(&lists->rgb, &lists->sim, &lists->dst); }));
         bare.push_back(microseconds([&] {
             const std::string text = bv::fileContents(path, bv::kPlistMaximumBytes).value();
-            plist_t node = nullptr;
-            plist_from_xml(text.data(), static_cast<uint32_t>(text.size()), &node);
-            plist_free(node);
+            const XML_Parser parser = XML_ParserCreate(nullptr);
+            XML_Parse(parser, text.data(), static_cast<int>(text.size()), XML_TRUE);
+            XML_ParserFree(parser);
         }));
         if (round % 8 == 0)
             python.push_back(pythonRead(path));

@@ -1,132 +1,180 @@
-// Property lists on libplist.
+// Looking into property lists, building them, and their XML text.
 #include "platform/PropertyList.h"
 
 #include "platform/Log.h"
-#include "platform/PlistGuard.h"
+#include "platform/PlistParser.h"
+#include "platform/PlistValue.h"
 
 #include <algorithm>
-#include <cmath>
-#include <cstring>
-#include <limits>
-#include <plist/plist.h>
-#include <utility>
 
 namespace bv {
 
 namespace {
 
-constexpr int64_t kLowest = std::numeric_limits<int32_t>::min();
-constexpr int64_t kHighest = std::numeric_limits<int32_t>::max();
+constexpr std::string_view kHead = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                                   "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
+                                   "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
+                                   "<plist version=\"1.0\">\n";
+constexpr std::string_view kTail = "</plist>\n";
+
+struct ByKey
+{
+    bool operator()(const PlistEntry &entry, std::string_view key) const { return entry.first < key; }
+    bool operator()(std::string_view key, const PlistEntry &entry) const { return key < entry.first; }
+};
+
+auto entriesOf(const PlistValue *value, std::string_view key)
+{
+    static const std::vector<PlistEntry> none;
+    const std::vector<PlistEntry> &entries = value ? value->entries : none;
+    return std::equal_range(entries.begin(), entries.end(), key, ByKey());
+}
+
+void put(PlistValue *dictionary, const std::string &key, PlistValue value)
+{
+    std::vector<PlistEntry> &entries = dictionary->entries;
+    // Most lists are built in the order of their keys.
+    if (entries.empty() || entries.back().first < key) {
+        entries.emplace_back(key, std::move(value));
+        return;
+    }
+    const auto [first, last] = std::equal_range(entries.begin(), entries.end(), std::string_view(key), ByKey());
+    entries.emplace(entries.erase(first, last), key, std::move(value));
+}
+
+// A carriage return that stands there as such would be read back as a line end.
+void appendEscaped(std::string_view text, std::string *xml)
+{
+    for (const char c : text) {
+        switch (c) {
+        case '&':
+            *xml += "&amp;";
+            break;
+        case '<':
+            *xml += "&lt;";
+            break;
+        case '>':
+            *xml += "&gt;";
+            break;
+        case '\r':
+            *xml += "&#13;";
+            break;
+        default:
+            *xml += c;
+        }
+    }
+}
+
+void appendValue(const PlistValue &value, size_t depth, std::string *xml)
+{
+    xml->append(depth, '\t');
+    switch (value.kind) {
+    case PlistValue::Kind::Dictionary:
+        *xml += "<dict>\n";
+        for (const auto &[key, item] : value.entries) {
+            if (item.kind == PlistValue::Kind::Other)
+                continue;
+            xml->append(depth + 1, '\t');
+            *xml += "<key>";
+            appendEscaped(key, xml);
+            *xml += "</key>\n";
+            appendValue(item, depth + 1, xml);
+        }
+        xml->append(depth, '\t');
+        *xml += "</dict>\n";
+        break;
+    case PlistValue::Kind::Number:
+        *xml += value.number ? "<integer>" + std::to_string(*value.number) + "</integer>\n" : "<real>nan</real>\n";
+        break;
+    default:
+        *xml += "<string>";
+        appendEscaped(value.text, xml);
+        *xml += "</string>\n";
+    }
+}
 
 } // namespace
 
 bool PropertyListNode::isDictionary() const
 {
-    return m_node && plist_get_node_type(m_node) == PLIST_DICT;
+    return m_value && m_value->kind == PlistValue::Kind::Dictionary;
 }
 
-PropertyListNode PropertyListNode::item(const char *key) const
+PropertyListNode PropertyListNode::item(std::string_view key) const
 {
-    return isDictionary() ? PropertyListNode(plist_dict_get_item(m_node, key)) : PropertyListNode();
+    const auto [first, last] = entriesOf(m_value, key);
+    return first == last ? PropertyListNode() : PropertyListNode(&std::prev(last)->second);
+}
+
+bool PropertyListNode::repeats(std::string_view key) const
+{
+    const auto [first, last] = entriesOf(m_value, key);
+    return last - first > 1;
 }
 
 std::optional<int32_t> PropertyListNode::number() const
 {
-    switch (m_node ? plist_get_node_type(m_node) : PLIST_NONE) {
-    case PLIST_UINT: {
-        // libplist hands a negative number out as its two's complement.
-        uint64_t bits = 0;
-        plist_get_uint_val(m_node, &bits);
-        return static_cast<int32_t>(std::clamp(static_cast<int64_t>(bits), kLowest, kHighest));
-    }
-    case PLIST_REAL: {
-        double value = 0;
-        plist_get_real_val(m_node, &value);
-        if (std::isnan(value))
-            return std::nullopt;
-        return static_cast<int32_t>(
-            std::clamp(std::trunc(value), static_cast<double>(kLowest), static_cast<double>(kHighest)));
-    }
-    default:
-        return std::nullopt;
-    }
+    return m_value ? m_value->number : std::nullopt;
 }
 
 std::optional<std::string_view> PropertyListNode::text() const
 {
-    uint64_t length = 0;
-    const char *text = m_node ? plist_get_string_ptr(m_node, &length) : nullptr;
-    if (!text)
+    if (!m_value || m_value->kind != PlistValue::Kind::Text)
         return std::nullopt;
-    // The length that libplist reports may be larger than the text.
-    return std::string_view(text, strnlen(text, length));
+    return m_value->text;
 }
 
-PropertyList::PropertyList(PropertyList &&other) noexcept : m_root(std::exchange(other.m_root, PropertyListNode())) {}
+PropertyList::PropertyList() = default;
+PropertyList::PropertyList(PropertyList &&other) noexcept = default;
+PropertyList &PropertyList::operator=(PropertyList &&other) noexcept = default;
+PropertyList::~PropertyList() = default;
+PropertyList::PropertyList(std::unique_ptr<PlistValue> root) : m_root(std::move(root)) {}
 
-PropertyList &PropertyList::operator=(PropertyList &&other) noexcept
+PropertyList PropertyList::fromXml(std::string_view xml, PlistEncoding encoding, std::string *fault)
 {
-    std::swap(m_root, other.m_root);
-    return *this;
-}
-
-PropertyList::~PropertyList()
-{
-    if (m_root)
-        plist_free(m_root.handle());
-}
-
-PropertyList PropertyList::fromXml(std::string_view xml)
-{
-    if (const char *reason = plistRefusal(xml)) {
-        diagnosticLine(formatLog("property list refused: %@", {reason}));
-        return {};
-    }
-    plist_t root = nullptr;
-    plist_from_xml(xml.data(), static_cast<uint32_t>(xml.size()), &root);
-    if (!root)
-        diagnosticLine("property list refused: it does not parse");
-    return PropertyList(root);
+    auto root = std::make_unique<PlistValue>();
+    std::string reason;
+    if (parsePlist(xml, encoding, root.get(), &reason))
+        return PropertyList(std::move(root));
+    diagnosticLine("property list refused: " + reason);
+    if (fault)
+        *fault = std::move(reason);
+    return {};
 }
 
 PropertyList PropertyList::dictionary()
 {
-    return PropertyList(plist_new_dict());
+    auto root = std::make_unique<PlistValue>();
+    root->kind = PlistValue::Kind::Dictionary;
+    return PropertyList(std::move(root));
 }
 
 PropertyList PropertyList::copyOf(PropertyListNode node)
 {
-    return node ? PropertyList(plist_copy(node.handle())) : PropertyList();
+    return node ? PropertyList(std::make_unique<PlistValue>(*node.value())) : PropertyList();
 }
 
-void PropertyList::setNumber(const char *key, int32_t value)
+void PropertyList::setNumber(const std::string &key, int32_t value)
 {
-    plist_dict_set_item(m_root.handle(), key, plist_new_uint(static_cast<uint64_t>(int64_t{value})));
+    put(m_root.get(), key, {PlistValue::Kind::Number, value, {}, {}});
 }
 
-void PropertyList::setText(const char *key, const std::string &value)
+void PropertyList::setText(const std::string &key, std::string value)
 {
-    plist_dict_set_item(m_root.handle(), key, plist_new_string(value.c_str()));
+    put(m_root.get(), key, {PlistValue::Kind::Text, {}, std::move(value), {}});
 }
 
-PropertyListNode PropertyList::setItem(const char *key, PropertyList item)
+void PropertyList::setItem(const std::string &key, PropertyList item)
 {
-    const PropertyListNode node = std::exchange(item.m_root, PropertyListNode());
-    plist_dict_set_item(m_root.handle(), key, node.handle());
-    return node;
+    put(m_root.get(), key, std::move(*item.m_root));
 }
 
-std::optional<std::string> PropertyList::toXml() const
+std::string PropertyList::toXml() const
 {
-    // libplist writes nothing at all unless the pointer is null before the call.
-    char *text = nullptr;
-    uint32_t length = 0;
-    if (m_root)
-        plist_to_xml(m_root.handle(), &text, &length);
-    if (!text)
-        return std::nullopt;
-    std::string xml(text, length);
-    plist_to_xml_free(text);
+    std::string xml(kHead);
+    if (m_root->kind != PlistValue::Kind::Other)
+        appendValue(*m_root, 0, &xml);
+    xml += kTail;
     return xml;
 }
 

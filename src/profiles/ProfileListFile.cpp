@@ -3,7 +3,6 @@
 
 #include "platform/FileContents.h"
 #include "platform/Log.h"
-#include "platform/PlistGuard.h"
 #include "platform/RootPath.h"
 #include "platform/Utf8.h"
 #include "profiles/ProfilePaths.h"
@@ -84,7 +83,7 @@ void ReadDictionaryIntEntry(bv::PropertyListNode dictionary, const char *key, in
 void ReadDictionaryStringEntry(bv::PropertyListNode dictionary, const char *key, char (&out)[kProfileTextBytes])
 {
     const auto text = dictionary.item(key).text();
-    if (text && bv::isUtf8(*text))
+    if (text)
         bv::setFieldText(out, *text);
 }
 
@@ -92,15 +91,15 @@ ProfileClassWrapper CreatePropsDictionary(int32_t which, const ProfileList *list
 {
     out->classDictionary = bv::PropertyList::dictionary();
     bv::PropertyList &owner = out->classDictionary;
+    owner.setItem(cIndexOnDeviceKey, numbers(*list, cIndexOnDeviceKey, &ProfileRecord::IndexOnDevice));
+    owner.setItem(cInMenuKey, numbers(*list, cInMenuKey, &ProfileRecord::InMenu));
+    owner.setItem(cProfileClassKey, numbers(*list, cProfileClassKey, &ProfileRecord::ProfileClass));
+    owner.setItem(cLocationKey, numbers(*list, cLocationKey, &ProfileRecord::Location));
+    owner.setItem(cFileNameKey, texts(*list, cFileNameKey, &ProfileRecord::FileName));
+    owner.setItem(cProfileNameKey, texts(*list, cProfileNameKey, &ProfileRecord::ProfileName));
     owner.setNumber(kProfileCountKey, list->count);
-    out->fields = {
-        owner.setItem(cIndexOnDeviceKey, numbers(*list, cIndexOnDeviceKey, &ProfileRecord::IndexOnDevice)),
-        owner.setItem(cInMenuKey, numbers(*list, cInMenuKey, &ProfileRecord::InMenu)),
-        owner.setItem(cProfileClassKey, numbers(*list, cProfileClassKey, &ProfileRecord::ProfileClass)),
-        owner.setItem(cLocationKey, numbers(*list, cLocationKey, &ProfileRecord::Location)),
-        owner.setItem(cFileNameKey, texts(*list, cFileNameKey, &ProfileRecord::FileName)),
-        owner.setItem(cProfileNameKey, texts(*list, cProfileNameKey, &ProfileRecord::ProfileName)),
-    };
+    for (const FieldRow &row : kFields)
+        out->fields.*row.dictionary = owner.root().item(row.key);
     if (which < kProfileRGB || which > kProfileDST)
         return {};
     return {kProfileClassKeys[static_cast<size_t>(which)], owner.root()};
@@ -150,6 +149,16 @@ PropertyList readProfileListFile()
     const std::string path = mapRootPath(profilePaths().current);
     const auto text = fileContents(path, kPlistMaximumBytes);
     return text ? PropertyList::fromXml(*text) : PropertyList();
+}
+
+bool isCompleteProfileList(std::string_view xml)
+{
+    const PropertyList file = PropertyList::fromXml(xml);
+    return std::all_of(kProfileClassKeys.begin(), kProfileClassKeys.end(), [&](const char *key) {
+        ProfileFieldDictionaries fields;
+        int32_t count = 0;
+        return BVPListMappingGetSubDict(file.root().item(key), &fields, &count) == 0;
+    });
 }
 
 std::optional<std::string> profileListXml(const ProfileList &rgb, const ProfileList &sim, const ProfileList &dst)

@@ -57,7 +57,7 @@ struct ProfileClassWrapper
 // is no number.
 void ReadDictionaryIntEntry(bv::PropertyListNode dictionary, const char *key, int32_t *out);
 // Fills the field with the first 31 bytes of the text under the key; leaves it untouched when the key is not there or
-// its value is no text that is UTF-8.
+// its value is no text.
 void ReadDictionaryStringEntry(bv::PropertyListNode dictionary, const char *key, char (&out)[kProfileTextBytes]);
 
 // Builds the dictionary of one class from a list: all 500 slots, used or not. A text that is not UTF-8 leaves out its
@@ -77,6 +77,10 @@ namespace bv {
 // The contents of the current user's list file as a property list; null when it is missing, no regular file or not
 // readable as one.
 PropertyList readProfileListFile();
+
+// Whether a text is a list file that can be read: a property list whose root holds the three class dictionaries, each
+// with its six field dictionaries.
+bool isCompleteProfileList(std::string_view xml);
 
 // The whole list file as XML text, UTF-8 and well-formed; nothing when it cannot be made.
 std::optional<std::string> profileListXml(const ProfileList &rgb, const ProfileList &sim, const ProfileList &dst);

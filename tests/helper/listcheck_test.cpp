@@ -44,7 +44,8 @@ TEST(ListCheck, AcceptsOnlyCompleteLists)
         {"texts in other languages", true, listText("\xe5\x90\x8d \xf0\x9f\x96\xa8 &amp; &#233;")},
         {"no encoding named", true, changed(" encoding=\"UTF-8\"", "")},
         {"document type by name", true, changed(open, "<!DOCTYPE plist SYSTEM \"list.dtd\">" + open)},
-        {"comments and blanks around", true, listText("x") + "\n<!-- end -->\n"},
+        {"comments, instructions and blanks around", true, listText("x") + "\n<!-- end --><?tool end?>\n"},
+        {"a byte-order mark", true, "\xEF\xBB\xBF" + listText("x")},
         {"empty", false, ""},
         {"UTF-16 declared", false, changed("UTF-8", "UTF-16")},
         {"broken UTF-8", false, listText("\xff")},
@@ -74,8 +75,8 @@ TEST(ListCheck, AcceptsOnlyCompleteLists)
          changed("<key>Location</key><dict>", "<key>Location</key><true/><key>other</key><dict>")},
         {"classes one level too deep", false,
          changed("<dict>", "<dict><key>list</key><dict>", changed(close, "</dict></dict></plist>"))},
-        {"as deep as may be", true, nested("<array>", "</array>", 30)},
-        {"too deep", false, nested("<array>", "</array>", 31)},
+        {"as deep as may be", true, nested("<array>", "</array>", 31)},
+        {"too deep", false, nested("<array>", "</array>", 32)},
         {"nested deeply", false, nested("<array>", "</array>", 100000)},
     };
     for (const TextRow &row : rows)

@@ -2,7 +2,6 @@
 #include "platform/ChildProcess.h"
 #include "platform/FileContents.h"
 #include "platform/FileUrl.h"
-#include "platform/PlistGuard.h"
 #include "platform/PropertyList.h"
 #include "platform/RootPath.h"
 #include "platform/Utf8.h"
@@ -121,44 +120,38 @@ TEST(Child, IsReadToItsEndWhateverSignalsTheHostGets)
     EXPECT_EQ(result->exitCode, 3);
 }
 
-std::string nested(int depth, const std::string &open, const std::string &close)
+TEST(PropertyList, IsBoundedInDepthAndSize)
 {
-    std::string text;
-    for (int level = 0; level < depth; ++level)
-        text += open;
-    for (int level = 0; level < depth; ++level)
-        text += close;
-    return "<plist>" + text + "</plist>";
+    const auto readable = [](int depth, const std::string &open, const std::string &close, size_t blanks = 0) {
+        std::string text = "<plist>" + std::string(blanks, ' ');
+        for (int level = 0; level < depth; ++level)
+            text += open;
+        for (int level = 0; level < depth; ++level)
+            text += close;
+        return static_cast<bool>(bv::PropertyList::fromXml(text + "</plist>"));
+    };
+    EXPECT_TRUE(readable(32, "<array>", "</array>"));
+    EXPECT_FALSE(readable(33, "<array>", "</array>"));
+    EXPECT_FALSE(readable(33, "<dict><key>k</key>", "</dict>"));
+    EXPECT_FALSE(readable(100'000, "<array>", ""));
+    EXPECT_FALSE(readable(1, "<array>", "</array>", bv::kPlistMaximumBytes));
 }
 
-TEST(PlistGuard, RefusesWhatTheParserMustNotSee)
+TEST(PropertyList, TakesTheLastOfEqualKeysAndWritesWhatItReads)
 {
-    using bv::plistRefusal;
-    EXPECT_EQ(plistRefusal(nested(32, "<array>", "</array>")), nullptr);
-    EXPECT_STREQ(plistRefusal(nested(33, "<array>", "</array>")), "nested too deep");
-    EXPECT_STREQ(plistRefusal(nested(33, "<dict ><key>k</key>", "</dict>")), "nested too deep");
-    // Tags that hide in comments, quotes and sections cannot lift the bound.
-    for (const char *open :
-         {"<array><!--</array>-->", "<array a='/>'>", "<array><![CDATA[</array>]]>", "<array><?x </array>?>"})
-        EXPECT_STRNE(plistRefusal(nested(5000, open, "")), nullptr) << open;
-    // What the parser would take most of a minute for.
-    const auto repeated = [](const char *part, int times) { return nested(times, part, ""); };
-    EXPECT_STREQ(plistRefusal(repeated("&amp;", 800'000)), "too long a text with entities");
-    EXPECT_EQ(plistRefusal(repeated("<array/>", 4096)), nullptr) << "those nest nothing";
-    EXPECT_STREQ(plistRefusal(repeated("<array/>", 4097)), "too many dictionaries and arrays");
-    EXPECT_STREQ(plistRefusal(repeated("<key>Ez</key><true/>", 12'001)), "too many keys");
-    EXPECT_EQ(plistRefusal(repeated("<key>Ez</key><true/>", 12'000)), nullptr);
-    EXPECT_STREQ(plistRefusal("bplist00</plist>"), "a binary list");
-    EXPECT_STREQ(plistRefusal(std::string_view("<plist>\0</plist>", 16)), "a NUL byte in it");
-    EXPECT_STREQ(plistRefusal("<plist></plist"), "cut short");
-    EXPECT_STREQ(plistRefusal("<plist></plist>\n<!-- -->"), "something behind its end");
-    EXPECT_STREQ(plistRefusal(std::string(bv::kPlistMaximumBytes + 1, ' ')), "too large");
-}
-
-TEST(PropertyList, TakesNoNulAsAnEntityEither)
-{
-    for (const char *value : {"<string>a&#0;b</string>", "<string>a&#x0;b</string>"})
-        EXPECT_FALSE(bv::PropertyList::fromXml(std::string("<plist><dict><key>k</key>") + value + "</dict></plist>"));
+    bv::PropertyList list = bv::PropertyList::fromXml(
+        "<plist><dict><key>b</key><integer>1</integer><key>a</key><string>x</string><key>b</key><real>2.9</real>"
+        "<key>c</key><array/></dict></plist>");
+    EXPECT_EQ(list.root().item("b").number(), 2);
+    EXPECT_TRUE(list.root().repeats("b"));
+    EXPECT_FALSE(list.root().repeats("a"));
+    list.setText("a", "<&>\r\n\t\"'");
+    list.setNumber("b", -5);
+    const bv::PropertyList again = bv::PropertyList::fromXml(list.toXml());
+    EXPECT_EQ(again.root().item("a").text(), "<&>\r\n\t\"'");
+    EXPECT_EQ(again.root().item("b").number(), -5);
+    EXPECT_FALSE(again.root().repeats("b"));
+    EXPECT_FALSE(again.root().item("c"));
 }
 
 TEST(FileContents, AreBoundedByTheMaximum)

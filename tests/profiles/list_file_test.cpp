@@ -181,7 +181,6 @@ TEST_F(ListFile, NamesAreCutAt31Bytes)
         {std::string(30, 'a') + "é", halfCharacter}, // cut inside a character: the printer counts bytes
         {"", ""},
         {"&lt;&amp;&#233;&gt;", "<&é>"},
-        {"caf\xE9", ""}, // no text: the field stays as it was
     };
     for (const Row &row : rows) {
         *m_lists = Lists{};
@@ -234,6 +233,12 @@ TEST_F(ListFile, NumbersAreCutToIntegersAndOtherTypesPassedOver)
         {"<real>nan</real>", 77},
         {"<integer>2147483648</integer>", 2147483647},
         {"<integer>-2147483649</integer>", -2147483647 - 1},
+        {"<integer>18446744073709551615</integer>", 2147483647},
+        {"<integer>-99999999999999999999999</integer>", -2147483647 - 1},
+        {"<integer> +0x1F\n</integer>", 31},
+        {"<real>-1e999</real>", -2147483647 - 1},
+        {"<date>2024-02-29T12:00:00Z</date>", 77},
+        {"<data>AAEC\n</data>", 77},
         {"<true/>", 77},
         {"<string>4</string>", 77},
         {"<array><integer>4</integer></array>", 77},
@@ -300,6 +305,31 @@ TEST_F(ListFile, ClassDictionariesBeforeAMissingOneAreHandedOut)
     EXPECT_EQ(count, 4);
 }
 
+TEST_F(ListFile, WhatXmlAllowsAroundAndWithinAListIsPassedOver)
+{
+    const std::string good = listFile(classDict({{"InMenu", inMenu({3})}}));
+    const size_t root = good.find("<plist");
+    const size_t inside = good.find("<integer>3") + std::strlen("<integer>");
+    const std::string odd = "<!-- </plist> --><?tool <dict> ?>\n";
+    const std::pair<const char *, std::string> rows[] = {
+        {"behind the document element", good + odd},
+        {"before it", std::string(good).insert(root, odd)},
+        {"in front of everything", good.substr(root).insert(0, odd)},
+        {"around its value", std::string(good).insert(good.find("<dict"), odd)},
+        {"inside a value", std::string(good).insert(inside, "<!-- x -->")},
+        {"a byte-order mark", "\xEF\xBB\xBF" + good},
+        {"a document type", std::string(good).insert(root, "<!DOCTYPE plist PUBLIC \"p\" \"s\" [<!-- none -->]>")},
+        {"a section", std::string(good).replace(inside, 1, "<![CDATA[3]]>")},
+        {"another encoding", std::string(good).replace(good.find("UTF-8"), 5, "ISO-8859-1")},
+    };
+    for (const auto &[what, text] : rows) {
+        *m_lists = Lists{};
+        TestRoot::writeList(text);
+        EXPECT_EQ(read(), 0) << what;
+        EXPECT_EQ(rgb(0).InMenu, 3) << what;
+    }
+}
+
 TEST_F(ListFile, DamagedAndHostileTextsAreUnreadable)
 {
     expectUnreadable("missing");
@@ -308,6 +338,22 @@ TEST_F(ListFile, DamagedAndHostileTextsAreUnreadable)
         {"empty", ""},
         {"cut short", good.substr(0, good.size() - 2)},
         {"root is an array", list("<array/>")},
+        {"binary", std::string("bplist00\xD0\x08\0\0\0\0\0\0\x01\x01", 18) + std::string(22, '\0')},
+        {"NUL in a string", list(dict(entry("a", "<string>x" + std::string(1, '\0') + "</string>")))},
+        {"something behind the end", good + "x"},
+        {"two lists", good + good},
+        {"no UTF-8", listFile(classDict({{"FileName", entry("FileName0000", "<string>caf\xE9</string>")}}))},
+        {"an integer that is none", listFile(classDict({}, number("iNum", "abc")))},
+        {"an integer without digits", listFile(classDict({}, number("iNum", "")))},
+        {"a real number that is none", listFile(classDict({}, entry("iNum", "<real>1,5</real>")))},
+        {"a date that is none", listFile(classDict({}, entry("iNum", "<date>today</date>")))},
+        {"data that is none", listFile(classDict({}, entry("iNum", "<data>&amp;</data>")))},
+        {"a key without a value at the end", listFile(classDict({{"InMenu", "<key>InMenu0000</key>"}}))},
+        {"a key without a value", listFile(classDict({}, "<key>k</key>" + number("iNum", "1")))},
+        {"a value without a key", listFile(classDict({}, "<true/>"))},
+        {"text between elements", listFile(classDict({}, "x"))},
+        {"an unknown element", listFile(classDict({}, entry("iNum", "<number>1</number>")))},
+        {"no plist element", "<?xml version=\"1.0\"?>" + dict("")},
         {"byte order mark of UTF-16", "\xFF\xFE" + good},
         {"undefined entity", listFile(classDict({{"FileName", entry("FileName0000", "<string>&no;</string>")}}))},
     };
@@ -336,7 +382,7 @@ TEST_F(ListFile, EverySeedIsReadOrRefusedAndWhatWasReadCanBeWritten)
         ASSERT_TRUE(xml) << seed.path();
         EXPECT_TRUE(isWellFormed(*xml)) << seed.path();
     }
-    EXPECT_GE(readable, 9u);
+    EXPECT_GE(readable, 7u);
     EXPECT_GT(seeds, readable);
 }
 

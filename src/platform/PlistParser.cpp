@@ -1,0 +1,318 @@
+// The grammar of property lists over the events of Expat; the first fault stops the parser.
+#include "platform/PlistParser.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <expat.h>
+#include <limits>
+#include <memory>
+#include <strings.h>
+
+namespace bv {
+
+namespace {
+
+constexpr std::string_view kBlanks = " \t\r\n";
+constexpr std::string_view kDigits = "0123456789";
+constexpr std::string_view kHexDigits = "0123456789abcdefABCDEF";
+constexpr std::string_view kBase64 = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/= \t\r\n";
+
+constexpr int64_t kLowest = std::numeric_limits<int32_t>::min();
+constexpr int64_t kHighest = std::numeric_limits<int32_t>::max();
+
+enum class Element : uint8_t { Plist, Dict, Array, Key, Integer, Real, String, Date, Data, Boolean };
+
+struct ElementRow
+{
+    std::string_view name;
+    Element element;
+};
+
+// clang-format off
+constexpr ElementRow kElements[] = {
+    {"key",     Element::Key},
+    {"integer", Element::Integer},
+    {"string",  Element::String},
+    {"dict",    Element::Dict},
+    {"plist",   Element::Plist},
+    {"array",   Element::Array},
+    {"real",    Element::Real},
+    {"true",    Element::Boolean},
+    {"false",   Element::Boolean},
+    {"date",    Element::Date},
+    {"data",    Element::Data},
+};
+// clang-format on
+
+std::string_view withoutBlanks(std::string_view text)
+{
+    const size_t first = text.find_first_not_of(kBlanks);
+    return first == text.npos ? std::string_view() : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+bool isMadeOf(std::string_view text, std::string_view characters)
+{
+    return text.find_first_not_of(characters) == text.npos;
+}
+
+// An integer of any length as the nearest of 32 bits: decimal, or hexadecimal behind "0x", with a sign or without.
+std::optional<int32_t> integerIn(std::string_view text)
+{
+    text = withoutBlanks(text);
+    const bool negative = text.starts_with('-');
+    if (negative || text.starts_with('+'))
+        text.remove_prefix(1);
+    const bool hexadecimal = text.starts_with("0x") || text.starts_with("0X");
+    if (hexadecimal)
+        text.remove_prefix(2);
+    if (text.empty() || !isMadeOf(text, hexadecimal ? kHexDigits : kDigits))
+        return std::nullopt;
+    int64_t value = 0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), value, hexadecimal ? 16 : 10);
+    if (result.ec != std::errc())
+        value = std::numeric_limits<int64_t>::max();
+    return static_cast<int32_t>(std::clamp(negative ? -value : value, kLowest, kHighest));
+}
+
+// Whether the text is a real number, "nan" and "inf" among them; its 32 bits where it has any.
+bool isReal(std::string_view text, std::optional<int32_t> *number)
+{
+    text = withoutBlanks(text);
+    if (text.starts_with('+') && !text.starts_with("+-"))
+        text.remove_prefix(1);
+    double value = 0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (result.ptr != text.data() + text.size() || result.ec == std::errc::invalid_argument)
+        return false;
+    if (result.ec == std::errc::result_out_of_range) // too small for any number, or too large
+        value = text.find("e-") == text.npos && text.find("E-") == text.npos ? HUGE_VAL : 0;
+    if (!std::isnan(value))
+        *number = static_cast<int32_t>(std::clamp(std::trunc(text.starts_with('-') ? -std::abs(value) : value),
+                                                  static_cast<double>(kLowest), static_cast<double>(kHighest)));
+    return true;
+}
+
+// "YYYY-MM-DDTHH:MM:SSZ".
+bool isDate(std::string_view text)
+{
+    constexpr std::string_view kPattern = "0000-00-00T00:00:00Z";
+    text = withoutBlanks(text);
+    return std::equal(text.begin(), text.end(), kPattern.begin(), kPattern.end(),
+                      [](char c, char wanted) { return wanted == '0' ? c >= '0' && c <= '9' : c == wanted; });
+}
+
+class PlistParser
+{
+public:
+    PlistParser(XML_Parser parser, PlistEncoding encoding, PlistValue *root) : m_parser(parser), m_root(root)
+    {
+        XML_SetUserData(parser, this);
+        // A parser that is told to read UTF-8 passes over the declaration; another reader of the text would believe it.
+        if (encoding == PlistEncoding::Utf8)
+            XML_SetXmlDeclHandler(parser, [](void *self, const XML_Char *, const XML_Char *declared, int) {
+                if (declared && strcasecmp(declared, "UTF-8") != 0)
+                    of(self).stop("it is not declared as UTF-8");
+            });
+        // Without declared entities none can expand or name a file.
+        XML_SetEntityDeclHandler(parser, [](void *self, const XML_Char *, int, const XML_Char *, int, const XML_Char *,
+                                            const XML_Char *, const XML_Char *,
+                                            const XML_Char *) { of(self).stop("it brings entities of its own"); });
+        // With an external subset an undeclared entity is no error of the document, see section 4.1 of XML 1.0.
+        XML_SetSkippedEntityHandler(
+            parser, [](void *self, const XML_Char *, int) { of(self).stop("it uses an entity that is not declared"); });
+        XML_SetElementHandler(
+            parser, [](void *self, const XML_Char *name, const XML_Char **) { of(self).startElement(name); },
+            [](void *self, const XML_Char *) { of(self).endElement(); });
+        XML_SetCharacterDataHandler(parser, [](void *self, const XML_Char *text, int length) {
+            of(self).characters({text, static_cast<size_t>(length)});
+        });
+    }
+
+    const char *fault() const { return m_fault; }
+
+private:
+    struct Open
+    {
+        Element element;
+        PlistValue value;
+        std::string key;         // a dictionary's key that waits for its value
+        bool keyPending = false; // whether one does
+        bool sorted = true;      // the entries of a dictionary so far
+        bool filled = false;     // a plist has its value
+    };
+
+    static PlistParser &of(void *self) { return *static_cast<PlistParser *>(self); }
+
+    void stop(const char *fault)
+    {
+        if (m_fault)
+            return;
+        m_fault = fault;
+        XML_StopParser(m_parser, XML_FALSE);
+    }
+
+    void startElement(std::string_view name)
+    {
+        if (m_fault)
+            return;
+        const auto *row = std::find_if(std::begin(kElements), std::end(kElements),
+                                       [&](const ElementRow &candidate) { return candidate.name == name; });
+        if (row == std::end(kElements) || !mayStandHere(row->element))
+            return stop("it is no property list");
+        const bool container = row->element == Element::Dict || row->element == Element::Array;
+        if (container && m_depth > kPlistMaximumDepth) // one of the open ones is the plist element
+            return stop("it is nested too deep");
+        if (++m_depth > m_open.size())
+            m_open.emplace_back();
+        Open &opened = m_open[m_depth - 1];
+        opened = Open{row->element, {}, {}};
+        if (row->element == Element::Dict)
+            opened.value.kind = PlistValue::Kind::Dictionary;
+        m_text.clear();
+    }
+
+    // Whether an element may begin inside the innermost open one.
+    bool mayStandHere(Element element) const
+    {
+        if (m_depth == 0)
+            return element == Element::Plist;
+        const Open &parent = m_open[m_depth - 1];
+        switch (parent.element) {
+        case Element::Plist:
+            return element != Element::Key && element != Element::Plist && !parent.filled;
+        case Element::Array:
+            return element != Element::Key && element != Element::Plist;
+        case Element::Dict:
+            return element != Element::Plist && (element == Element::Key) != parent.keyPending;
+        default:
+            return false;
+        }
+    }
+
+    void endElement()
+    {
+        if (m_fault)
+            return;
+        Open &ended = m_open[--m_depth];
+        switch (ended.element) {
+        case Element::Plist:
+            if (!ended.filled)
+                stop("it is empty");
+            return;
+        case Element::Key:
+            m_open[m_depth - 1].key = m_text;
+            m_open[m_depth - 1].keyPending = true;
+            m_text.clear();
+            return;
+        case Element::Dict:
+            endDictionary(&ended);
+            break;
+        default:
+            endValue(&ended);
+        }
+        m_text.clear();
+        take(std::move(ended.value));
+    }
+
+    void endDictionary(Open *ended)
+    {
+        if (ended->keyPending)
+            stop("a key has no value");
+        if (!ended->sorted)
+            std::stable_sort(ended->value.entries.begin(), ended->value.entries.end(),
+                             [](const PlistEntry &a, const PlistEntry &b) { return a.first < b.first; });
+    }
+
+    void endValue(Open *ended)
+    {
+        PlistValue &value = ended->value;
+        switch (ended->element) {
+        case Element::String:
+            value.kind = PlistValue::Kind::Text;
+            value.text = m_text;
+            break;
+        case Element::Integer:
+            value.kind = PlistValue::Kind::Number;
+            value.number = integerIn(m_text);
+            if (!value.number)
+                stop("an integer is none");
+            break;
+        case Element::Real:
+            value.kind = PlistValue::Kind::Number;
+            if (!isReal(m_text, &value.number))
+                stop("a real number is none");
+            break;
+        case Element::Date:
+            if (!isDate(m_text))
+                stop("a date is none");
+            break;
+        case Element::Data:
+            if (!isMadeOf(m_text, kBase64))
+                stop("data is not in base 64");
+            break;
+        default: // nothing to look at
+            break;
+        }
+    }
+
+    // A value goes to where it stands.
+    void take(PlistValue value)
+    {
+        Open &parent = m_open[m_depth - 1];
+        if (parent.element == Element::Plist) {
+            parent.filled = true;
+            *m_root = std::move(value);
+        } else if (parent.element == Element::Dict) {
+            std::vector<PlistEntry> &entries = parent.value.entries;
+            parent.sorted = parent.sorted && (entries.empty() || entries.back().first <= parent.key);
+            entries.emplace_back(std::move(parent.key), std::move(value));
+            parent.keyPending = false;
+        }
+    }
+
+    void characters(std::string_view text)
+    {
+        if (m_fault)
+            return;
+        const Element element = m_depth == 0 ? Element::Plist : m_open[m_depth - 1].element;
+        const bool holdsElements = element == Element::Plist || element == Element::Dict || element == Element::Array ||
+                                   element == Element::Boolean;
+        if (!holdsElements)
+            m_text += text;
+        else if (!isMadeOf(text, kBlanks))
+            stop("text stands between its elements");
+    }
+
+    XML_Parser m_parser;
+    PlistValue *m_root;
+    const char *m_fault = nullptr;
+    std::vector<Open> m_open; // the open elements are the first m_depth of them
+    size_t m_depth = 0;
+    std::string m_text; // of the open element
+};
+
+} // namespace
+
+bool parsePlist(std::string_view xml, PlistEncoding encoding, PlistValue *root, std::string *fault)
+{
+    if (xml.size() > kPlistMaximumBytes) {
+        *fault = "it is too large";
+        return false;
+    }
+    const std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> expat(
+        XML_ParserCreate(encoding == PlistEncoding::Utf8 ? "UTF-8" : nullptr), &XML_ParserFree);
+    if (!expat) {
+        *fault = "no memory for its parser";
+        return false;
+    }
+    PlistParser parser(expat.get(), encoding, root);
+    const XML_Status status = XML_Parse(expat.get(), xml.data(), static_cast<int>(xml.size()), XML_TRUE);
+    if (parser.fault())
+        *fault = parser.fault();
+    else if (status != XML_STATUS_OK)
+        *fault = std::string("it is not well-formed: ") + XML_ErrorString(XML_GetErrorCode(expat.get()));
+    return !parser.fault() && status == XML_STATUS_OK;
+}
+
+} // namespace bv
