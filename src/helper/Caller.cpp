@@ -83,6 +83,13 @@ std::string ListTarget::previousName() const
     return fileName(previousPath);
 }
 
+std::string ListTarget::unreadableName() const
+{
+    constexpr std::string_view kEnding = ".plist";
+    std::string name = currentName();
+    return name.insert(name.size() - kEnding.size(), ".unreadable");
+}
+
 Caller::Caller(pid_t sequenceProcess) : m_user(getuid()), m_sequenceProcess(sequenceProcess) {}
 
 std::optional<ListTarget> Caller::ownList() const

@@ -30,6 +30,8 @@ struct ListTarget
 
     std::string currentName() const;
     std::string previousName() const;
+    // Where a current list that cannot be read is kept aside.
+    std::string unreadableName() const;
 };
 
 // The calling user, identified by the real user id of this process.

@@ -4,6 +4,7 @@
 #include "helper/Diagnostics.h"
 #include "helper/ListFolder.h"
 #include "helper/StagingFile.h"
+#include "helper/UnreadableList.h"
 
 #include <array>
 #include <cerrno>
@@ -50,13 +51,12 @@ bool copyBytes(const FileDescriptor &from, const FileDescriptor &to)
     return got == 0;
 }
 
-// Copies one file over another. The copy is first written to a temporary file; only copies use its name, and only under
-// the lock.
-bool copyOver(const ListFolder &folder, const Caller &caller, const ListTarget &target, const std::string &from,
+// Copies an open file over another. The copy is first written to a temporary file; only copies use its name, and only
+// under the lock.
+bool copyOver(const ListFolder &folder, const Caller &caller, const ListTarget &target, const FileDescriptor &source,
               const std::string &to)
 {
-    const FoundFile source = folder.find(from, O_RDONLY, caller, target);
-    if (source.standing != Standing::Usable || folder.find(to, O_PATH, caller, target).standing == Standing::Foreign)
+    if (folder.find(to, O_PATH, caller, target).standing == Standing::Foreign)
         return false;
     const std::string copyName = to + ".copy";
     const FoundFile left = folder.find(copyName, O_PATH, caller, target); // left by a killed copy
@@ -67,7 +67,7 @@ bool copyOver(const ListFolder &folder, const Caller &caller, const ListTarget &
     const FileDescriptor copy = folder.create(copyName, caller, target);
     if (!copy)
         return false;
-    if (copyBytes(source.file, copy)) {
+    if (copyBytes(source, copy)) {
         if (folder.replace(copyName, copy, to))
             return true;
     } else {
@@ -127,8 +127,14 @@ Outcome answerSwap(const Caller &caller, RequestArguments arguments)
     const bool keepCurrent = code == "2";
     const std::string current = target->currentName();
     const std::string previous = target->previousName();
-    return outcomeOf(
-        copyOver(*folder, caller, *target, keepCurrent ? current : previous, keepCurrent ? previous : current));
+    const FoundFile source = folder->find(keepCurrent ? current : previous, O_RDONLY, caller, *target);
+    if (source.standing != Standing::Usable)
+        return outcomeOf(false);
+    // The last good copy stays where the current list cannot be read; that one goes aside, once.
+    if (keepCurrent && wouldLoseGoodList(source.file, *folder, caller, *target))
+        return outcomeOf(hasFreshUnreadable(*folder, caller, *target) ||
+                         copyOver(*folder, caller, *target, source.file, target->unreadableName()));
+    return outcomeOf(copyOver(*folder, caller, *target, source.file, keepCurrent ? previous : current));
 }
 
 Outcome answerPiece(const Caller &caller, RequestArguments arguments)

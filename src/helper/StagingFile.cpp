@@ -3,6 +3,7 @@
 
 #include "helper/Diagnostics.h"
 #include "helper/ListCheck.h"
+#include "helper/UnreadableList.h"
 
 #include <array>
 #include <cerrno>
@@ -142,7 +143,10 @@ bool StagingFile::promote(const Staged &staged) const
         complain("cannot finish the new list", errno);
         return false;
     }
-    return m_folder.replace(m_name, staged.file, m_target.currentName());
+    if (!m_folder.replace(m_name, staged.file, m_target.currentName()))
+        return false;
+    noteReadableWritten(m_folder, m_caller, m_target);
+    return true;
 }
 
 } // namespace bv

@@ -44,7 +44,12 @@ std::optional<std::string> fileContents(const std::string &path, size_t maximum)
     const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
     if (!file)
         return refuse(path, std::strerror(errno));
-    return withoutThrowing(std::nullopt, [&] { return readOpenFile(file.get(), path, maximum); });
+    return fileContents(file.get(), path, maximum);
+}
+
+std::optional<std::string> fileContents(int descriptor, const std::string &name, size_t maximum)
+{
+    return withoutThrowing(std::nullopt, [&] { return readOpenFile(descriptor, name, maximum); });
 }
 
 } // namespace bv

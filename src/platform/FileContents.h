@@ -11,4 +11,7 @@ namespace bv {
 // readable, larger than `maximum` bytes, or something else: a symbolic link, folder or FIFO (which never blocks this).
 std::optional<std::string> fileContents(const std::string &path, size_t maximum);
 
+// The same of an open descriptor, from its place on; it stays open. The name is for the log.
+std::optional<std::string> fileContents(int descriptor, const std::string &name, size_t maximum);
+
 } // namespace bv

@@ -64,6 +64,39 @@ TEST_F(Requests, SwapCopiesOneFileOverTheOther)
     EXPECT_EQ(names(), m_login + "-QL70-profile.plist " + m_login + "-QL70-profile.prev.plist");
 }
 
+TEST_F(Requests, AnUnreadableListGoesAsideInsteadOfOverTheLastGoodCopy)
+{
+    const std::string aside = current().substr(0, current().size() - 6) + ".unreadable.plist";
+    const auto swap = [this] { return answers(true, {kSwap, "2", current(), previous()}); };
+    const auto expect = [&](std::string_view before, std::string_view kept) {
+        EXPECT_EQ(contents(previous()), before);
+        EXPECT_EQ(contents(aside), kept);
+    };
+    const std::string good = listText("good");
+    put(current(), good);
+    EXPECT_TRUE(swap());
+    put(current(), "damaged");
+    for (int opening = 0; opening < 2; ++opening) {
+        EXPECT_TRUE(swap());
+        expect(good, "damaged");
+    }
+    // The next unreadable list replaces it only after a readable one has been committed.
+    put(current(), "damaged once more");
+    EXPECT_TRUE(swap());
+    expect(good, "damaged");
+
+    EXPECT_TRUE(writeList(listText("fresh")));
+    expect(good, "damaged");
+    EXPECT_TRUE(swap());
+    expect(listText("fresh"), "damaged");
+    const std::string cut = listText("cut").substr(0, 500);
+    put(current(), cut);
+    EXPECT_TRUE(swap());
+    expect(listText("fresh"), cut);
+    EXPECT_EQ(names(), m_login + "-QL70-profile.plist " + m_login + "-QL70-profile.prev.plist " + m_login +
+                           "-QL70-profile.unreadable.plist");
+}
+
 TEST_F(Requests, OnlyTheExactPathOfAListIsAccepted)
 {
     put(current(), "old");

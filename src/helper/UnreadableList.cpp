@@ -1,0 +1,48 @@
+// Keeps a current list that cannot be read aside, so that it never takes the place of the last good earlier copy.
+#include "helper/UnreadableList.h"
+
+#include "helper/Diagnostics.h"
+#include "platform/FileContents.h"
+#include "profiles/ProfileListFile.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace bv {
+
+namespace {
+
+constexpr mode_t kReplaceable = 0444;
+
+bool isReadable(const FileDescriptor &file, const std::string &name)
+{
+    const auto text = fileContents(file.get(), name, kPlistMaximumBytes);
+    return lseek(file.get(), 0, SEEK_SET) == 0 && text && isCompleteProfileList(*text);
+}
+
+} // namespace
+
+bool wouldLoseGoodList(const FileDescriptor &current, const ListFolder &folder, const Caller &caller,
+                       const ListTarget &target)
+{
+    if (isReadable(current, target.currentName()))
+        return false;
+    const FoundFile previous = folder.find(target.previousName(), O_RDONLY, caller, target);
+    return previous.standing == Standing::Usable && isReadable(previous.file, target.previousName());
+}
+
+bool hasFreshUnreadable(const ListFolder &folder, const Caller &caller, const ListTarget &target)
+{
+    const FoundFile aside = folder.find(target.unreadableName(), O_PATH, caller, target);
+    return aside.standing == Standing::Usable && (aside.status.st_mode & S_IWUSR) != 0;
+}
+
+void noteReadableWritten(const ListFolder &folder, const Caller &caller, const ListTarget &target)
+{
+    const FoundFile aside = folder.find(target.unreadableName(), O_RDONLY, caller, target);
+    if (aside.standing == Standing::Usable && fchmod(aside.file.get(), kReplaceable) != 0)
+        complain("cannot mark the list that is kept aside", errno);
+}
+
+} // namespace bv
