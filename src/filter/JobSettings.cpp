@@ -123,8 +123,10 @@ void addProfiles(JobSettings &job, const Options &options)
             continue;
         const std::optional<std::string> path = profilePathOf(options.value(option + "CustomFilename"));
         if (!path) {
-            job.warnings.push_back(option + "CustomFilename names no profile of the printer; the choice of " + option +
-                                   " is used.");
+            job.warnings.push_back(std::string(option)
+                                       .append("CustomFilename names no profile of the printer; the choice of ")
+                                       .append(option)
+                                       .append(" is used."));
             continue;
         }
         job.settings.push_back(
