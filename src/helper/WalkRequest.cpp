@@ -69,6 +69,7 @@ Outcome answerWalk(const Caller &caller, RequestArguments arguments)
     std::vector<std::string> words = {std::string(kProgram), std::string(kWalkRequest)};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char *> vector;
+    vector.reserve(words.size() + 1);
     for (std::string &word : words)
         vector.push_back(word.data());
     vector.push_back(nullptr);
