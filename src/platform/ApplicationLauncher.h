@@ -5,8 +5,9 @@
 
 namespace bv {
 
-// Starts the application at a logical path, detached from this process: the file itself, or, when the path is a bundle
-// folder "Name.app", its program "Contents/MacOS/Name". False when there is nothing to start.
+// Starts the application at a logical path, detached from this process. The path names a program file or a bundle
+// folder "Name.app", whose program is "Contents/MacOS/Name". False when there is no such program or it cannot be
+// started.
 bool openApplication(std::string_view logicalPath);
 
 } // namespace bv

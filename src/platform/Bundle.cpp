@@ -1,4 +1,4 @@
-// Localised strings of the plug-in's bundle through translation tables in its resources.
+// Looks up localized strings of the plug-in in the translation tables of its resources.
 #include "platform/Bundle.h"
 
 #include <QLocale>
@@ -6,8 +6,8 @@
 
 #include <algorithm>
 
-// The tables lie in a static library, where nothing but this call keeps the linker from dropping them. The macro must
-// stand outside any namespace.
+// The tables lie in a static library. Without this call the linker would drop them. The macro must stand outside any
+// namespace.
 static void keepTables()
 {
     Q_INIT_RESOURCE(bvco);

@@ -1,4 +1,4 @@
-// The plug-in's bundle: where it lies, its localised strings and its image files.
+// The plug-in's bundle: its path and its localized strings.
 #pragma once
 
 #include "platform/HostProtocol.h"
@@ -8,13 +8,13 @@ namespace bv {
 class Bundle
 {
 public:
-    // Loads the translation table of the bundle's language; without one every text is its key.
+    // Loads the translation table of the bundle's language. Without a table every text is its key.
     explicit Bundle(PluginBundle where);
     ~Bundle();
 
     const QString &path() const { return m_where.path; }
 
-    // The localised text of a key, from the default table; a key without a text yields the key itself.
+    // The localized text of a key, or the key itself when the table has no text for it.
     QString localizedString(const QString &key) const;
 
 private:
@@ -25,12 +25,12 @@ private:
 
 } // namespace bv
 
-// The plug-in's bundle, set by the first initWithBundle and kept from then on; null before.
+// The plug-in's bundle. Null until the first initWithBundle sets it; unchanged from then on.
 const bv::Bundle *pluginBundle();
 // Keeps the bundle if none is kept yet.
 void setPluginBundle(const bv::PluginBundle &bundle);
-// The localised text of an ASCII key in the plug-in's bundle, the key itself where the bundle has no text for it. A
-// null string where no text can be had: without a bundle, and for a key that is null or no ASCII.
+// The localized text of an ASCII key, or the key itself when the bundle has no text for it. A null string without a
+// bundle, and for a key that is null or not ASCII.
 QString bundleText(const char *key);
-// The same for texts that must show something: the key itself also where no text can be had.
+// Like bundleText, but returns the key where bundleText returns a null string.
 QString localizedString(const char *key);

@@ -25,8 +25,8 @@ namespace bv {
 
 namespace {
 
-// What a child gets of this process: the environment and the streams that it is given, and nothing else. No descriptor
-// that somebody forgot to close, and no signal that a library of ours ignores.
+// What a child inherits from this process: the environment and the given streams. It inherits no other descriptor, and
+// signals that a library made this process ignore have their default action again.
 class Spawn
 {
 public:
@@ -58,7 +58,7 @@ public:
     {
         m_ready = m_ready && posix_spawn_file_actions_addopen(&m_actions, stream, "/dev/null", mode, 0) == 0;
     }
-    // To be called last. 0, or the number of the error.
+    // Call it last. Returns 0 or an error number as in errno.
     int start(pid_t *child, const std::string &program, char *const *words)
     {
         if (!m_ready || posix_spawn_file_actions_addclosefrom_np(&m_actions, STDERR_FILENO + 1) != 0)
@@ -79,7 +79,8 @@ void report(const std::string &program, const char *what, int error)
     diagnosticLine(formatLog("%@: %@: %@", {program, what, std::strerror(error)}));
 }
 
-// The exit status; -1 for a child that a signal ended, or whose status the host has thrown away (ignored SIGCHLD).
+// Waits for the child and returns its exit status. -1 when a signal ended it, or when the status is lost because the
+// host process ignores SIGCHLD.
 int waitFor(pid_t child)
 {
     int status = 0;
@@ -89,7 +90,8 @@ int waitFor(pid_t child)
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-// What a child complained about stands in our log, each line under the child's name. A flood of it is cut.
+// Writes the child's standard error to the diagnostic log, each line with the child's name in front. Very long output
+// is cut.
 void reportComplaints(const std::string &program, int fd)
 {
     constexpr off_t kMost = 16384;
@@ -118,7 +120,7 @@ std::optional<ChildResult> run(const std::string &program, std::span<const std::
     }
     FileDescriptor readEnd(ends[0]);
     FileDescriptor writeEnd(ends[1]);
-    // A file without a name: it takes what the child complains about, however much that is, while the pipe is read.
+    // Standard error goes to an unnamed file, so the child never blocks on it while the pipe is read.
     const FileDescriptor complaints(memfd_create("complaints", MFD_CLOEXEC));
     Spawn spawn(0);
     spawn.streamToNothing(STDIN_FILENO, O_RDONLY);
@@ -133,12 +135,12 @@ std::optional<ChildResult> run(const std::string &program, std::span<const std::
         return std::nullopt;
     }
     writeEnd.reset();
-    // First read, then wait: a child that prints more than the pipe holds would never end the other way round.
+    // Read before waiting: a child that prints more than the pipe holds would otherwise never end.
     ChildResult result;
     try {
-        readToEnd(readEnd.get(), &result.output); // what came before a failure counts
+        readToEnd(readEnd.get(), &result.output); // output read before a failure is kept
     } catch (const std::bad_alloc &) {
-        readEnd.reset(); // the child meets a closed pipe and ends
+        readEnd.reset(); // a child that still writes gets a closed pipe and ends
         waitFor(child);
         throw;
     }
@@ -168,7 +170,7 @@ bool startProgram(const std::string &program)
         return false;
     }
     try {
-        // Somebody has to take its exit status, or it stays in the list of processes as long as this one does.
+        // Without a wait for its exit status, the child would stay a zombie as long as this process runs.
         std::thread([child] { waitFor(child); }).detach();
     } catch (const std::system_error &) {
         report(program, "nobody waits for it", EAGAIN);

@@ -1,4 +1,5 @@
-// Runs a program as a child process and collects what it prints, or starts it and lets it go. Free of Qt and libcups.
+// Runs a program as a child process and collects its output, or starts a program that runs on by itself. Free of Qt and
+// libcups.
 #pragma once
 
 #include <optional>
@@ -13,15 +14,14 @@ struct ChildResult
     int exitCode = -1;  // its exit status, or -1 when a signal ended it
 };
 
-// Starts `program` (a real path) with `arguments` behind it, reads its standard output to the end and waits until it
-// exits; there is no time limit. The environment is inherited, standard input is empty, and each line of standard error
-// goes to the diagnostic log when the child has ended. Nothing when the pipe or the child cannot be made; the reason
-// goes to the diagnostic log.
+// Runs `program` (a real path) with `arguments`, reads its standard output to the end and waits until it exits, without
+// a time limit. The child inherits the environment; its standard input is empty. Its standard error goes to the
+// diagnostic log, line by line, after it has ended. Nothing, with the reason in the diagnostic log, when the child
+// cannot be started.
 std::optional<ChildResult> runChild(const std::string &program, std::span<const std::string> arguments);
 
-// Starts `program` (a real path) in a session of its own and lets it go: nothing of this process but the environment
-// reaches it, and it goes on when this process ends. False when it cannot be started; the reason goes to the diagnostic
-// log.
+// Starts `program` (a real path) in a session of its own and does not wait for it. It inherits only the environment and
+// outlives this process. False, with the reason in the diagnostic log, when it cannot be started.
 bool startProgram(const std::string &program);
 
 } // namespace bv

@@ -1,6 +1,6 @@
 // Gives every class of the plug-in its fixed suffix, so that it can never clash with a class of another plug-in in the
-// same process. Include it first in each header that declares one of them: code, forms and moc use the bare names, the
-// linker and the meta objects see the suffixed ones.
+// same process. Include it first in each header that declares such a class. Code, forms and moc use the bare names; the
+// linker and the meta objects see the names with the suffix.
 #pragma once
 
 #define PDEPlugIn PDEPlugIn_5C1D7A20_93B4_4E6F_8A2D_7F04C9B1E356

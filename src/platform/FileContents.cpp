@@ -1,4 +1,4 @@
-// Reading of a whole file, judged on the open descriptor.
+// Reads a whole file. Type and size are checked on the open descriptor, so the file cannot change in between.
 #include "platform/FileContents.h"
 
 #include "platform/FileDescriptor.h"
@@ -28,7 +28,8 @@ std::optional<std::string> readOpenFile(int fd, const std::string &path, size_t 
     if (static_cast<size_t>(about.st_size) > maximum)
         return refuse(path, "too large");
     std::string text;
-    // One byte more than the file has, so that the end shows at the first read; a file that grows meanwhile is read on.
+    // One byte more than the file's size, so that the first read already finds the end. If the file grows meanwhile,
+    // reading continues.
     text.reserve(static_cast<size_t>(about.st_size) + 1);
     if (!readToEnd(fd, &text, maximum))
         return refuse(path, std::strerror(errno));

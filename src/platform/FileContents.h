@@ -7,11 +7,12 @@
 
 namespace bv {
 
-// The bytes of the regular file at a real path; nothing, with the reason in the diagnostic log, when it is missing, not
-// readable, larger than `maximum` bytes, or something else: a symbolic link, folder or FIFO (which never blocks this).
+// The contents of the regular file at a real path. Nothing, with the reason in the diagnostic log, when the file is
+// missing, unreadable, larger than `maximum` bytes, or no regular file: a symbolic link, a folder, a FIFO (the call
+// does not block on one).
 std::optional<std::string> fileContents(const std::string &path, size_t maximum);
 
-// The same of an open descriptor, from its place on; it stays open. The name is for the log.
+// The same for an open descriptor, from its current offset on. The descriptor stays open. `name` is for the log.
 std::optional<std::string> fileContents(int descriptor, const std::string &name, size_t maximum);
 
 } // namespace bv

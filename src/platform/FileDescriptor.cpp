@@ -1,4 +1,4 @@
-// Whole reads and writes over read(2) and its kin.
+// Complete reads and writes with read(2), write(2), pread(2) and pwrite(2).
 #include "platform/FileDescriptor.h"
 
 #include <algorithm>
@@ -21,7 +21,7 @@ template <typename Call> ssize_t uninterrupted(Call call)
     return result;
 }
 
-// Calls `write(bytes, offset)` for what is left until nothing is.
+// Calls `write(bytes, offset)` for the remaining bytes until all are written.
 template <typename Write> bool writeWhole(std::string_view bytes, size_t offset, Write write)
 {
     while (!bytes.empty()) {

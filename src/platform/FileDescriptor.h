@@ -10,7 +10,7 @@
 
 namespace bv {
 
-// Closes its descriptor when it goes.
+// Owns a descriptor and closes it on destruction.
 class FileDescriptor
 {
 public:
@@ -28,28 +28,30 @@ public:
 
     explicit operator bool() const { return m_descriptor >= 0; }
     int get() const { return m_descriptor; }
-    // Closes it now.
+    // Closes the descriptor now, if there is one.
     void reset();
 
 private:
     int m_descriptor = -1;
 };
 
-// What follows goes on where a signal interrupts it. A failure leaves its reason in errno.
+// The functions below continue after an interruption by a signal. On failure, errno has the reason.
 
-// read(2): the bytes that came, 0 at the end, -1 on a failure.
+// Calls read(2). Returns the number of bytes read, 0 at the end, -1 on failure.
 ssize_t readSome(int descriptor, std::span<char> buffer);
-// Appends all up to the end. Stops once the text is longer than `limit` bytes, so that the caller can tell. False on a
-// failure; what came before it is kept. May throw std::bad_alloc.
+// Appends everything up to the end to *text. Stops early once *text is longer than `limit` bytes; the caller sees that
+// from its size. False on failure; what was read before stays in *text. May throw std::bad_alloc.
 bool readToEnd(int descriptor, std::string *text, size_t limit = std::string::npos);
-// The `size` bytes of a file from `offset` on; nothing when there are fewer. May throw std::bad_alloc.
+// Reads exactly `size` bytes of a file from `offset` on. Nothing on failure or when the file has fewer. May throw
+// std::bad_alloc.
 std::optional<std::string> readAt(int descriptor, size_t offset, size_t size);
-// Writes all bytes, in the second form into a file from `offset` on.
+// Writes all bytes; writeAllAt writes them into a file from `offset` on. False on failure.
 bool writeAll(int descriptor, std::string_view bytes);
 bool writeAllAt(int descriptor, size_t offset, std::string_view bytes);
 
-// Opens /dev/null in the place of each missing standard descriptor, so that no file that is opened later becomes one.
-// With the mode O_RDWR it takes what is written; with O_RDONLY writing fails, as it does without the descriptor.
+// Opens /dev/null for each closed standard descriptor (0 to 2), so that no file opened later takes its number. With
+// mode O_RDWR, writing to it succeeds and is discarded. With O_RDONLY, writing fails as it does on a closed descriptor.
+// False on failure.
 bool openStandardDescriptors(int mode);
 
 } // namespace bv

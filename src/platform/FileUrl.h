@@ -6,10 +6,10 @@
 
 namespace bv {
 
-// The absolute file URL (RFC 8089) of an absolute path: "file://", then the path with each byte that is neither "/" nor
-// an unreserved character of RFC 3986 (ASCII letters and digits, "-", ".", "_", "~") as "%" and two upper-case
-// hexadecimal digits. So blanks, "%", "@" and every byte of a non-ASCII character are encoded, valid UTF-8 or not.
-// The same path gives the same URL byte for byte: both sides of a request compare URLs as texts.
+// The file URL (RFC 8089) of an absolute path: "file://" and the percent-encoded path. "/" and the unreserved
+// characters of RFC 3986 (ASCII letters and digits, "-", ".", "_", "~") stay; every other byte becomes "%" and two
+// upper-case hexadecimal digits. The path need not be valid UTF-8. The encoding is fixed because both sides of a
+// request compare URLs as texts.
 std::string fileUrl(std::string_view path);
 
 } // namespace bv

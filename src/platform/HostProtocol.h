@@ -21,19 +21,19 @@ inline constexpr char kPrinterModulePanelType[] = "BDB091F4-E57F-11D3-B5CC-0050E
 // The key of a summary that holds the array of item names in display order.
 inline constexpr char kSummaryDisplayOrder[] = "Summary Display Order";
 
-// Item-model roles by which scripts and assistive tools read a panel's tables: a column's identifier is header data
-// (horizontal) of kColumnIdentifierRole, and a cell that shows an icon or not answers kIconShownRole with a bool.
+// Item-model roles that let scripts and assistive tools read a panel's tables. kColumnIdentifierRole is a column's
+// identifier in the horizontal header data. kIconShownRole is a bool that says whether a cell shows its icon.
 inline constexpr int kColumnIdentifierRole = 0x0100 + 70; // Qt::UserRole + 70
 inline constexpr int kIconShownRole = 0x0100 + 71;        // Qt::UserRole + 71
 
-// Where a plug-in lies and in which language it is to speak.
+// Where a plug-in lies and which language its texts have.
 struct PluginBundle
 {
     QString path;     // absolute path of the plug-in's file
-    QString language; // a locale name such as "en_GB"; empty: no translation, every localised text is its key
+    QString language; // a locale such as "en_GB"; empty: texts are their keys
 };
 
-// The dialog's callback object. It outlives the panels made with it. Each of the three may be null.
+// The dialog's callback object. It outlives the panels made with it. Each function may return null.
 class PrintPanelCallback
 {
 public:
@@ -43,22 +43,23 @@ public:
     virtual ppd_file_t *ppdFile() = 0;
 };
 
-// One panel. The panel owns its view; the dialog only parents it and takes it back before the panel goes.
+// One panel. The panel owns its view. The dialog gives the view a parent and removes that parent before it deletes the
+// panel.
 class PrintPanel
 {
 public:
     virtual ~PrintPanel() = default;
 
-    virtual QString panelName() = 0; // localised
+    virtual QString panelName() = 0; // localized
     virtual QString panelKind() = 0; // a fixed identifier
     virtual QStringList supportedPPDOptionKeys() = 0;
     virtual QWidget *panelView() = 0;
     virtual void willShow() = 0;
     virtual bool shouldHide() = 0;
-    // Both answer whether the values were taken; error receives a text for people when not.
+    // Both return true on success. On failure *error receives a text for the user.
     virtual bool restoreValuesAndReturnError(QString *error) = 0;
     virtual bool saveValuesAndReturnError(QString *error) = 0;
-    // Localised item names to their values as shown, and kSummaryDisplayOrder to an array of names.
+    // Maps each localized item name to the value as shown, and kSummaryDisplayOrder to an array of the names.
     virtual PrintDictionary summaryInfo() = 0;
     virtual bool shouldPrint() = 0;
     virtual void PPDOptionKeyValueDidChange(const QString &key, const QString &ppdChoice) = 0;
@@ -71,9 +72,9 @@ class PrintPanelFactory
 {
 public:
     virtual ~PrintPanelFactory() = default;
-    // Tells the plug-in where it lies; the first call counts.
+    // Tells the plug-in where it lies. Only the first call has an effect.
     virtual bool initWithBundle(const PluginBundle &bundle) = 0;
-    // Panels of one type, owned by the caller; nothing (never an empty list) when the plug-in has none of that type.
+    // Panels of one type, owned by the caller; nothing (never an empty vector) when the plug-in has none of that type.
     virtual std::optional<std::vector<std::unique_ptr<PrintPanel>>> PDEPanelsForType(const QString &type,
                                                                                      PrintPanelCallback *hostInfo) = 0;
 };

@@ -15,7 +15,7 @@ namespace bv {
 
 namespace {
 
-// Longer ones than any line of a log would only be a way to eat memory.
+// Limit for widths and precisions. Larger ones would only waste memory.
 constexpr int kMaximumWidth = 4096;
 
 struct Placeholder
@@ -49,7 +49,7 @@ public:
 private:
     char peek() const { return m_at < m_format.size() ? m_format[m_at] : '\0'; }
 
-    // A number in the format or, for "*", from an argument; nothing when there is neither.
+    // Reads a number from the format or, for "*", from an argument. Nothing when there is neither.
     std::optional<int> number()
     {
         if (peek() == '*') {
@@ -217,7 +217,7 @@ void writeInSystemEncoding(std::FILE *stream, std::string_view text)
             converter.append(&converted, "?");
         text.remove_prefix(character.size());
     }
-    converter.append(&converted, {}); // back to the initial state of an encoding that has states
+    converter.append(&converted, {}); // resets an encoding that has shift states
     std::fwrite(converted.data(), 1, converted.size(), stream);
     std::fflush(stream);
 }
@@ -236,5 +236,5 @@ void diagnosticLine(std::string_view text)
 
 } // namespace bv
 
-// Empty: the trace points stay for whoever links a version of it that prints; here their messages go nowhere.
+// Empty on purpose: the messages of the trace points are dropped here. The tests link their own version to read them.
 void MyDebugMessage(const char *, uint32_t) {}

@@ -1,4 +1,4 @@
-// The plain half of the diagnostic log: free of Qt, so that the helper can use it.
+// Formatting of log texts and the diagnostic log. Free of Qt, so that the helper can use it.
 #pragma once
 
 #include <cstdint>
@@ -11,9 +11,9 @@
 
 namespace bv {
 
-// One argument of a log format, of a known type: an integer, a real number, a C string, a pointer, or anything with a
-// description. A type of the caller's takes part by an overload of `std::string describe(const T &)` (UTF-8) that is
-// found by argument-dependent look-up; a null pointer describes itself as "(null)".
+// One argument of a log format: an integer, a real number, a string, a pointer, or an object with a description. To log
+// a type of your own, overload `std::string describe(const T &)` (UTF-8) in the namespace of the type. A null pointer
+// is shown as "(null)".
 class LogArgument
 {
 public:
@@ -57,19 +57,19 @@ private:
     std::string m_text;
 };
 
-// The text (UTF-8) of a printf-like format in which "%@" stands for the description of its argument. Flags, width and
-// precision work as in printf(3); a placeholder whose argument is missing or of another kind never reads past it: a
-// missing one is written as it stands, another kind is written in its own natural form. Two things are left out on
-// purpose: arguments by position ("%2$s" is written as it stands), and lengths narrow no number (with "%hhd" 300 is
-// 300), since each argument brings its own width.
+// Formats like printf(3), in UTF-8; "%@" stands for the description of its argument. Flags, width and precision work as
+// in printf(3). Wrong formats are safe: a placeholder without an argument is written unchanged, and an argument of
+// another kind is written in the natural form of its kind. Two differences from printf(3) are intended: arguments by
+// position do not exist ("%2$s" is written unchanged), and length modifiers narrow no number ("%hhd" shows 300 as 300),
+// since each argument knows its own width.
 std::string formatLog(std::string_view format, std::initializer_list<LogArgument> arguments);
 
-// Writes UTF-8 text to a stream in the encoding of the process's locale, with "?" for each character that it cannot
-// represent, and flushes the stream. Text that is not UTF-8 writes nothing.
+// Writes UTF-8 text to a stream in the encoding of the process's locale and flushes the stream. Characters that the
+// encoding lacks become "?". Writes nothing when the text is not UTF-8.
 void writeInSystemEncoding(std::FILE *stream, std::string_view text);
 
-// One line in the developer's diagnostic log (syslog, LOG_DEBUG facility user): every failure that is not shown to
-// the user leaves one. With BVCO_LOG=stderr in the environment the lines go to standard error instead.
+// Writes one line to the diagnostic log (syslog, level LOG_DEBUG, facility user). Every failure that the user is not
+// shown must leave a line here. With BVCO_LOG=stderr in the environment, lines go to standard error instead.
 void diagnosticLine(std::string_view text);
 
 } // namespace bv

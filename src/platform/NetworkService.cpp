@@ -34,7 +34,7 @@ bv::AddressRecord recordOf(const AvahiAddress &address, uint16_t port)
     sockaddr_in record{};
     record.sin_family = AF_INET;
     record.sin_port = htons(port);
-    record.sin_addr.s_addr = address.data.ipv4.address; // in network order already
+    record.sin_addr.s_addr = address.data.ipv4.address; // already in network byte order
     bv::AddressRecord bytes(sizeof(record));
     std::memcpy(bytes.data(), &record, sizeof(record));
     return bytes;
@@ -51,7 +51,7 @@ void resolved(AvahiServiceResolver * /*resolver*/, AvahiIfIndex /*interface*/, A
         resolution->addresses.push_back(recordOf(*address, port));
 }
 
-// The daemon going away ends the wait; the resolver's call-back would never come.
+// Ends the wait when the daemon goes away. The resolver's callback would then never come.
 void clientChanged(AvahiClient * /*client*/, AvahiClientState state, void *context)
 {
     if (state == AVAHI_CLIENT_FAILURE)
@@ -64,7 +64,7 @@ std::optional<std::vector<bv::AddressRecord>> bv::resolveService(const std::stri
                                                                  const std::string &domain, milliseconds limit)
 {
     const Clock::time_point deadline = Clock::now() + limit;
-    Resolution resolution; // outlives the client, whose call-backs write to it
+    Resolution resolution; // outlives the client, whose callbacks write to it
     const std::unique_ptr<AvahiSimplePoll, FreePoll> poll(avahi_simple_poll_new());
     if (!poll)
         return std::nullopt;

@@ -12,9 +12,10 @@ namespace bv {
 // A socket address record as the system's network calls use it (struct sockaddr_in for IPv4).
 using AddressRecord = std::vector<std::byte>;
 
-// Asks the machine's Avahi daemon for a service: its instance name as it reads (UTF-8, nothing escaped), its type
-// ("_pdl-datastream._tcp") and its domain ("local"). The addresses found, the first one first, IPv4 only; nothing when
-// there is no daemon, the service cannot exist, or it does not resolve within the limit. Blocks meanwhile.
+// Asks the machine's Avahi daemon for a service. `name` is the plain instance name (UTF-8, nothing escaped), `type` is
+// like "_pdl-datastream._tcp" and `domain` like "local". Returns IPv4 addresses in the order of their arrival. Nothing
+// when there is no daemon, the service's name is not valid, or the service does not resolve within the limit. Blocks
+// until then.
 std::optional<std::vector<AddressRecord>> resolveService(const std::string &name, const std::string &type,
                                                          const std::string &domain, std::chrono::milliseconds limit);
 

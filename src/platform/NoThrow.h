@@ -1,4 +1,4 @@
-// Out of memory becomes the status of an operation that has one. Free of Qt and libcups.
+// Turns running out of memory into a status. Free of Qt and libcups.
 #pragma once
 
 #include "platform/Log.h"
@@ -8,8 +8,8 @@
 
 namespace bv {
 
-// The operation's result, or `failure`, with a line in the diagnostic log, when it runs out of memory.
-// The caller names itself by a built-in of GCC and clang; clang 14 has no std::source_location.
+// Runs the operation and returns its result. When it runs out of memory, writes a line to the diagnostic log and
+// returns `failure`. `caller` is a built-in of GCC and clang because clang 14 lacks std::source_location.
 template <typename Operation>
 std::invoke_result_t<Operation> withoutThrowing(std::type_identity_t<std::invoke_result_t<Operation>> failure,
                                                 Operation operation, const char *caller = __builtin_FUNCTION())

@@ -1,4 +1,4 @@
-// Percent escapes back into bytes.
+// Decodes percent escapes.
 #include "platform/Percent.h"
 
 #include <charconv>

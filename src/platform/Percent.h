@@ -7,8 +7,8 @@
 
 namespace bv {
 
-// The bytes that a text with percent escapes stands for, a NUL and what is no UTF-8 too; nothing when a "%" is not
-// followed by two hexadecimal digits.
+// Decodes percent escapes. The result may hold NULs and need not be UTF-8. Nothing when a "%" is not followed by two
+// hexadecimal digits.
 std::optional<std::string> percentDecoded(std::string_view text);
 
 } // namespace bv

@@ -1,4 +1,4 @@
-// The grammar of property lists over the events of Expat; the first fault stops the parser.
+// Checks the grammar of property lists on the events of Expat. The first fault stops the parser.
 #include "platform/PlistParser.h"
 
 #include <algorithm>
@@ -56,7 +56,8 @@ bool isMadeOf(std::string_view text, std::string_view characters)
     return text.find_first_not_of(characters) == text.npos;
 }
 
-// An integer of any length as the nearest of 32 bits: decimal, or hexadecimal behind "0x", with a sign or without.
+// Reads an integer of any length: decimal, or hexadecimal after "0x", with or without a sign. Values outside 32 bits
+// become the nearest limit. Nothing when the text is no integer.
 std::optional<int32_t> integerIn(std::string_view text)
 {
     text = withoutBlanks(text);
@@ -75,7 +76,7 @@ std::optional<int32_t> integerIn(std::string_view text)
     return static_cast<int32_t>(std::clamp(negative ? -value : value, kLowest, kHighest));
 }
 
-// Whether the text is a real number, "nan" and "inf" among them; its 32 bits where it has any.
+// Whether the text is a real number; "nan" and "inf" are. Also yields the value as a 32-bit integer where there is one.
 bool isReal(std::string_view text, std::optional<int32_t> *number)
 {
     text = withoutBlanks(text);
@@ -85,7 +86,7 @@ bool isReal(std::string_view text, std::optional<int32_t> *number)
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
     if (result.ptr != text.data() + text.size() || result.ec == std::errc::invalid_argument)
         return false;
-    if (result.ec == std::errc::result_out_of_range) // too small for any number, or too large
+    if (result.ec == std::errc::result_out_of_range) // too small or too large for a double
         value = text.find("e-") == text.npos && text.find("E-") == text.npos ? HUGE_VAL : 0;
     if (!std::isnan(value))
         *number = static_cast<int32_t>(std::clamp(std::trunc(text.starts_with('-') ? -std::abs(value) : value),
@@ -93,7 +94,7 @@ bool isReal(std::string_view text, std::optional<int32_t> *number)
     return true;
 }
 
-// "YYYY-MM-DDTHH:MM:SSZ".
+// Whether the text is a date of the form "YYYY-MM-DDTHH:MM:SSZ".
 bool isDate(std::string_view text)
 {
     constexpr std::string_view kPattern = "0000-00-00T00:00:00Z";
@@ -108,17 +109,19 @@ public:
     PlistParser(XML_Parser parser, PlistEncoding encoding, PlistValue *root) : m_parser(parser), m_root(root)
     {
         XML_SetUserData(parser, this);
-        // A parser that is told to read UTF-8 passes over the declaration; another reader of the text would believe it.
+        // Told to read UTF-8, Expat ignores the declared encoding. Another reader of the text would follow it, so it
+        // must be right.
         if (encoding == PlistEncoding::Utf8)
             XML_SetXmlDeclHandler(parser, [](void *self, const XML_Char *, const XML_Char *declared, int) {
                 if (declared && strcasecmp(declared, "UTF-8") != 0)
                     of(self).stop("it is not declared as UTF-8");
             });
-        // Without declared entities none can expand or name a file.
+        // Declared entities are refused, so none can expand to a huge text or name a file.
         XML_SetEntityDeclHandler(parser, [](void *self, const XML_Char *, int, const XML_Char *, int, const XML_Char *,
                                             const XML_Char *, const XML_Char *,
                                             const XML_Char *) { of(self).stop("it brings entities of its own"); });
-        // With an external subset an undeclared entity is no error of the document, see section 4.1 of XML 1.0.
+        // If the document type names an external subset, XML 1.0 (section 4.1) permits undeclared entities. They are
+        // refused here.
         XML_SetSkippedEntityHandler(
             parser, [](void *self, const XML_Char *, int) { of(self).stop("it uses an entity that is not declared"); });
         XML_SetElementHandler(
@@ -136,10 +139,10 @@ private:
     {
         Element element;
         PlistValue value;
-        std::string key;         // a dictionary's key that waits for its value
-        bool keyPending = false; // whether one does
-        bool sorted = true;      // the entries of a dictionary so far
-        bool filled = false;     // a plist has its value
+        std::string key;         // of a dictionary: the key whose value comes next
+        bool keyPending = false; // whether there is such a key
+        bool sorted = true;      // whether a dictionary's entries are in key order so far
+        bool filled = false;     // whether the plist element has its value
     };
 
     static PlistParser &of(void *self) { return *static_cast<PlistParser *>(self); }
@@ -161,7 +164,7 @@ private:
         if (row == std::end(kElements) || !mayStandHere(row->element))
             return stop("it is no property list");
         const bool container = row->element == Element::Dict || row->element == Element::Array;
-        if (container && m_depth > kPlistMaximumDepth) // one of the open ones is the plist element
+        if (container && m_depth > kPlistMaximumDepth) // the plist element itself does not count
             return stop("it is nested too deep");
         if (++m_depth > m_open.size())
             m_open.emplace_back();
@@ -251,12 +254,12 @@ private:
             if (!isMadeOf(m_text, kBase64))
                 stop("data is not in base 64");
             break;
-        default: // nothing to look at
+        default: // has no content to check
             break;
         }
     }
 
-    // A value goes to where it stands.
+    // Stores a finished value in the element that contains it.
     void take(PlistValue value)
     {
         Open &parent = m_open[m_depth - 1];
@@ -287,9 +290,9 @@ private:
     XML_Parser m_parser;
     PlistValue *m_root;
     const char *m_fault = nullptr;
-    std::vector<Open> m_open; // the open elements are the first m_depth of them
+    std::vector<Open> m_open; // only the first m_depth entries are open elements
     size_t m_depth = 0;
-    std::string m_text; // of the open element
+    std::string m_text; // text of the innermost open element
 };
 
 } // namespace

@@ -6,7 +6,8 @@
 
 namespace bv {
 
-// Parses the text into the value. False, with a sentence in *fault, when PropertyList::fromXml must not take it.
+// Parses the text into *root. False, with a sentence in *fault, when the text is not acceptable to
+// PropertyList::fromXml.
 bool parsePlist(std::string_view xml, PlistEncoding encoding, PlistValue *root, std::string *fault);
 
 } // namespace bv

@@ -1,4 +1,4 @@
-// What the nodes of a property list are made of, for those who read and write one.
+// The data behind the nodes of a property list, for the code that parses and writes lists.
 #pragma once
 
 #include <cstdint>

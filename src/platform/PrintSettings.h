@@ -7,14 +7,14 @@
 
 namespace bv {
 
-// The ticket of the job: a key/value store that keeps what it is given.
+// The ticket of the job: a key/value store.
 class PrintSettings
 {
 public:
     virtual ~PrintSettings() = default;
-    // The value of a top-level key; none when the key is absent. A dictionary is the stored one, not a copy.
+    // The value of a top-level key; none when the key is absent. A dictionary is shared with the ticket, not copied.
     virtual PrintValue value(const QString &key) const = 0;
-    // Stores a value under a top-level key, in place of an older one.
+    // Stores a value under a top-level key and replaces an older one.
     virtual void setValue(const QString &key, const PrintValue &value) = 0;
 };
 
@@ -23,7 +23,7 @@ class Printer
 {
 public:
     virtual ~Printer() = default;
-    // The print queue's identifier: its name.
+    // The name of the print queue.
     virtual QString identifier() const = 0;
     // The queue's device URI as the print server gives it; nothing when it has none.
     virtual std::optional<QString> deviceUri() const = 0;
@@ -46,7 +46,8 @@ using PMPrintSettings = bv::PrintSettings *;
 using PMPrintSession = bv::PrintSession *;
 using PMPrinter = const bv::Printer *;
 
-// noErr and the value, or kPMKeyNotFound (kPMInvalidValue without settings) and no value.
+// Returns noErr and sets *value. Without the key: kPMKeyNotFound; without settings: kPMInvalidValue; *value is then
+// none.
 inline int32_t PMPrintSettingsGetValue(PMPrintSettings settings, const QString &key, bv::PrintValue *value)
 {
     *value = settings ? settings->value(key) : bv::PrintValue();
@@ -55,7 +56,7 @@ inline int32_t PMPrintSettingsGetValue(PMPrintSettings settings, const QString &
     return value->isNone() ? kPMKeyNotFound : noErr;
 }
 
-// Stores a value; never locked.
+// Stores a value. Returns noErr, or kPMInvalidValue without settings; the key is never locked.
 inline int32_t PMPrintSettingsSetValue(PMPrintSettings settings, const QString &key, const bv::PrintValue &value)
 {
     if (!settings)
@@ -64,20 +65,20 @@ inline int32_t PMPrintSettingsSetValue(PMPrintSettings settings, const QString &
     return noErr;
 }
 
-// noErr and the session's printer, or kPMGeneralError and null.
+// Returns noErr and sets *printer (owned by the session), or returns kPMGeneralError and sets it to null.
 inline int32_t PMSessionGetCurrentPrinter(PMPrintSession session, PMPrinter *printer)
 {
     *printer = session ? session->currentPrinter() : nullptr;
     return *printer ? noErr : kPMGeneralError;
 }
 
-// The identifier of a printer; a null string without one.
+// The printer's queue name; a null string without a printer.
 inline QString PMPrinterGetID(PMPrinter printer)
 {
     return printer ? printer->identifier() : QString();
 }
 
-// noErr and the device URI, or kPMGeneralError and a null string.
+// Returns noErr and sets *uri, or returns kPMGeneralError and sets it to a null string.
 inline int32_t PMPrinterCopyDeviceURI(PMPrinter printer, QString *uri)
 {
     const std::optional<QString> found = printer ? printer->deviceUri() : std::nullopt;
@@ -85,7 +86,7 @@ inline int32_t PMPrinterCopyDeviceURI(PMPrinter printer, QString *uri)
     return found ? noErr : kPMGeneralError;
 }
 
-// noErr and the session's data item for the key, or kPMKeyNotFound.
+// Returns noErr and sets *value to the session's data item, or returns kPMKeyNotFound and sets it to none.
 inline int32_t PMSessionGetDataFromSession(PMPrintSession session, const QString &key, bv::PrintValue *value)
 {
     *value = session ? session->data(key) : bv::PrintValue();

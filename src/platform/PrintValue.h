@@ -1,6 +1,6 @@
-// Values of the print settings: strings, numbers, booleans, arrays and dictionaries that are shared by reference, so
-// that a dictionary fetched from the settings can be changed in place. Plain values in a header: the dialog and the
-// plug-in both see them, and neither links the other.
+// Values of the print settings: strings, numbers, booleans, arrays and dictionaries. Dictionaries are shared by
+// reference, so that one fetched from the settings can be changed in place. Everything is in this header because the
+// dialog and the plug-in both use it and neither links the other.
 #pragma once
 
 #include <QString>
@@ -16,7 +16,7 @@ namespace bv {
 
 class PrintValue;
 
-// Keys in ascending order of their UTF-16 units; that is "the dictionary's own order" wherever one is walked.
+// Keys in ascending order of their UTF-16 units; all code that walks a dictionary uses this order.
 using PrintEntries = std::map<QString, PrintValue>;
 using PrintArray = std::vector<PrintValue>;
 
@@ -40,12 +40,12 @@ public:
     static PrintValue real(double number) { return PrintValue(Value(number)); }
     static PrintValue boolean(bool value) { return PrintValue(Value(value)); }
 
-    // No value at all: what looking up an absent key yields. Never stored in a dictionary.
+    // Whether there is no value, as for an absent key. Such a value is never stored in a dictionary.
     bool isNone() const { return std::holds_alternative<std::monostate>(m_value); }
     // Whether both values are of one type.
     bool hasTypeOf(const PrintValue &other) const { return m_value.index() == other.m_value.index(); }
 
-    // The typed views are null (or empty) when the value is of another type.
+    // These return null when the value is of another type. Pointers stay valid while this value is unchanged.
     const QString *string() const { return std::get_if<QString>(&m_value); }
     const int64_t *integer() const { return std::get_if<int64_t>(&m_value); }
     const double *real() const { return std::get_if<double>(&m_value); }

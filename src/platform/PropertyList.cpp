@@ -1,4 +1,4 @@
-// Looking into property lists, building them, and their XML text.
+// Reads values from property lists, builds lists and writes their XML text.
 #include "platform/PropertyList.h"
 
 #include "platform/Log.h"
@@ -33,7 +33,7 @@ auto entriesOf(const PlistValue *value, std::string_view key)
 void put(PlistValue *dictionary, const std::string &key, PlistValue value)
 {
     std::vector<PlistEntry> &entries = dictionary->entries;
-    // Most lists are built in the order of their keys.
+    // Most lists are built in key order, so first try the end.
     if (entries.empty() || entries.back().first < key) {
         entries.emplace_back(key, std::move(value));
         return;
@@ -42,7 +42,7 @@ void put(PlistValue *dictionary, const std::string &key, PlistValue value)
     entries.emplace(entries.erase(first, last), key, std::move(value));
 }
 
-// A carriage return that stands there as such would be read back as a line end.
+// A carriage return is escaped: an XML reader would turn a plain one into a line feed.
 void appendEscaped(std::string_view text, std::string *xml)
 {
     for (const char c : text) {

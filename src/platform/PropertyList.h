@@ -1,4 +1,4 @@
-// XML property lists: an owned list, borrowed nodes of it, reading and writing. Free of Qt and libcups.
+// XML property lists: owned lists, borrowed nodes, reading and writing. Free of Qt and libcups.
 #pragma once
 
 #include <cstddef>
@@ -10,14 +10,14 @@
 
 namespace bv {
 
-// The largest text that is read, in bytes, and how many elements of it may be open inside each other.
+// Limits for reading: the size of the text in bytes, and the depth of nested elements.
 inline constexpr size_t kPlistMaximumBytes = size_t{4} * 1024 * 1024;
 inline constexpr size_t kPlistMaximumDepth = 32;
 
 struct PlistValue;
 
-// A node inside a property list that someone else owns; valid as long as that list is, and unchanged. The null node
-// stands for "not there" and answers every question with nothing.
+// A borrowed node of a property list, valid as long as the list exists unchanged. The null node means "not there"; all
+// its functions return false, nothing or the null node.
 class PropertyListNode
 {
 public:
@@ -26,16 +26,15 @@ public:
 
     explicit operator bool() const { return m_value != nullptr; }
     bool isDictionary() const;
-    // The value under a key of a dictionary, the last one where the key stands there more than once; the null node
-    // when there is none or this is no dictionary.
+    // The value under a key of a dictionary; the last one if the key occurs more than once. The null node when the key
+    // is missing or this is no dictionary.
     PropertyListNode item(std::string_view key) const;
-    // Whether a dictionary has the key more than once.
+    // Whether this is a dictionary with the key more than once.
     bool repeats(std::string_view key) const;
-    // The value of a number as 32 bits: the fraction of a real is cut off, what lies outside the range becomes the
-    // nearest end of it, however large. Nothing for any other type (a boolean is no number) and for a real that is no
-    // number.
+    // The value of an integer or a real as 32 bits. Fractions are cut off; values outside the range become the nearest
+    // limit. Nothing for any other type (booleans included) and for NaN.
     std::optional<int32_t> number() const;
-    // The text of a string: UTF-8 without a NUL. Nothing for any other type.
+    // The text of a string, as UTF-8 without NULs. Nothing for any other type.
     std::optional<std::string_view> text() const;
 
     const PlistValue *value() const { return m_value; }
@@ -44,12 +43,12 @@ private:
     const PlistValue *m_value = nullptr;
 };
 
-// Which texts fromXml takes: those of every encoding that their declaration or their byte-order mark names (UTF-8,
-// UTF-16, ISO-8859-1, US-ASCII), or only those that are, and may say that they are, UTF-8.
+// Which encodings fromXml accepts. Declared: the encoding that the XML declaration or the byte-order mark names (UTF-8,
+// UTF-16, ISO-8859-1, US-ASCII). Utf8: only UTF-8, and no declaration of another encoding.
 enum class PlistEncoding { Declared, Utf8 };
 
-// One property list. It holds dictionaries, numbers and texts; arrays, dates, data and booleans are checked while
-// reading, but only that they are there is kept, and they are not written. Null after a failed read.
+// One property list. It holds dictionaries, numbers and texts. Arrays, dates, data and booleans are checked while
+// reading, but only their presence is kept, and they are not written. Null after a failed read.
 class PropertyList
 {
 public:
@@ -58,10 +57,10 @@ public:
     PropertyList &operator=(PropertyList &&other) noexcept;
     ~PropertyList();
 
-    // Reads one well-formed XML document (https://www.w3.org/TR/xml/) that is a property list by its elements; what
-    // stands around them (declaration, byte-order mark, document type, comments, processing instructions, blanks) is
-    // passed over. Null, with the reason in the diagnostic log and in *fault where one is given, for anything else,
-    // for a text with entities of its own, and beyond the two bounds above.
+    // Reads one well-formed XML document (https://www.w3.org/TR/xml/) whose elements form a property list. Declaration,
+    // byte-order mark, document type, comments, processing instructions and blanks are skipped. Null for anything else,
+    // for a text that declares entities, and beyond the two limits above. The reason then goes to the diagnostic log
+    // and, unless `fault` is null, to *fault.
     static PropertyList fromXml(std::string_view xml, PlistEncoding encoding = PlistEncoding::Declared,
                                 std::string *fault = nullptr);
     // An empty dictionary.
@@ -72,14 +71,15 @@ public:
     explicit operator bool() const { return m_root != nullptr; }
     PropertyListNode root() const { return PropertyListNode(m_root.get()); }
 
-    // Each puts one entry into this dictionary, in place of what stood under the key.
+    // Each sets one entry of this dictionary and replaces an older one.
     void setNumber(const std::string &key, int32_t value);
-    // The text must be UTF-8; one that holds characters XML cannot carry makes a text that no XML parser takes.
+    // The text must be UTF-8. Characters that XML 1.0 does not allow must be removed before: with them toXml writes a
+    // text that no XML parser accepts.
     void setText(const std::string &key, std::string value);
-    // Takes the item over; it must not be null.
+    // Takes ownership of the item, which must not be null.
     void setItem(const std::string &key, PropertyList item);
 
-    // The XML text, UTF-8, the entries in the order of their keys' bytes. This list must not be null.
+    // The XML text (UTF-8), with entries sorted by the bytes of their keys. This list must not be null.
     std::string toXml() const;
 
 private:

@@ -1,4 +1,4 @@
-// The outcome of an operation that can fail: a value, or one sentence for people that says what was wrong.
+// The outcome of an operation that can fail: a value, or one sentence that tells the user what went wrong.
 #pragma once
 
 #include <QString>
@@ -11,7 +11,7 @@ template <typename T> class Result
 {
 public:
     Result(T value) : m_value(std::move(value)) {}
-    // The sentence names the thing that failed and, where there is something to do about it, what to do.
+    // The sentence names the thing that failed and, if possible, a remedy.
     static Result failure(const QString &sentence)
     {
         Result result;
@@ -20,10 +20,10 @@ public:
     }
 
     explicit operator bool() const { return m_value.has_value(); }
-    // Only to be asked for where the result holds one.
+    // Call these only when the result holds a value.
     T &value() { return *m_value; }
     const T &value() const { return *m_value; }
-    // Empty where the result holds a value.
+    // Empty when the result holds a value.
     const QString &error() const { return m_error; }
 
 private:

@@ -1,4 +1,4 @@
-// The one place where logical paths become real ones.
+// The only place that turns logical paths into real ones.
 #include "platform/RootPath.h"
 
 #include <cstdlib>

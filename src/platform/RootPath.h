@@ -7,9 +7,9 @@
 
 namespace bv {
 
-// The real path of a logical path: the directory in the environment variable BVCO_ROOT is put in front of it. Unset,
-// empty or relative values are ignored, and so is the variable in a process whose real and effective ids differ.
-// To be used only where a file is really opened, run, listed or tested; requests and URLs carry logical paths.
+// The real path of a logical path: the directory named by the environment variable BVCO_ROOT is put in front of it. The
+// variable is ignored when it is empty or relative, and in a process whose real and effective ids differ. Call it only
+// where a file is opened, run, listed or tested; requests and URLs carry logical paths.
 std::string mapRootPath(std::string_view logicalPath);
 
 } // namespace bv

@@ -5,7 +5,7 @@ namespace bv {
 
 namespace {
 
-// iconv_open's own sign of failure.
+// What iconv_open(3) returns on failure.
 const auto kNoHandle = reinterpret_cast<iconv_t>(-1); // NOLINT(performance-no-int-to-ptr)
 
 } // namespace
@@ -25,13 +25,13 @@ TextConverter::operator bool() const
 
 size_t TextConverter::convert(std::string *out, std::string_view text, bool *exact)
 {
-    // No character set needs more than four bytes for what stands in one, and a mark or two at the beginning.
+    // Room for four bytes of output per byte of input, and for byte-order marks or shift sequences.
     std::string buffer(text.size() * 4 + 16, '\0');
     char *from = const_cast<char *>(text.data()); // iconv's signature; it does not write there
     char *to = buffer.data();
     size_t left = text.size();
     size_t room = buffer.size();
-    // More than 0 says that characters were replaced by something like them.
+    // A result above 0 means that iconv replaced characters with similar ones.
     *exact = iconv(m_handle, text.empty() ? nullptr : &from, &left, &to, &room) == 0;
     out->append(buffer.data(), buffer.size() - room);
     return text.size() - left;

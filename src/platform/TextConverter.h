@@ -8,7 +8,7 @@
 
 namespace bv {
 
-// One direction, from one character set to another; names as iconv_open(3) takes them.
+// Converts in one direction. The names of the character sets are those of iconv_open(3).
 class TextConverter
 {
 public:
@@ -17,14 +17,14 @@ public:
     TextConverter &operator=(const TextConverter &) = delete;
     ~TextConverter();
 
-    // Whether the system knows both character sets. Nothing below may be called otherwise.
+    // Whether the system knows both character sets. If not, the functions below must not be called.
     explicit operator bool() const;
 
-    // Appends the conversion of a whole text. False, with nothing appended, when a character has no exact counterpart.
-    // An empty text takes an encoding that has states back to its first.
+    // Appends the converted text. False, with nothing appended, when a character has no exact counterpart. An empty
+    // text resets the shift state of an encoding that has one.
     bool append(std::string *out, std::string_view text);
-    // Appends the conversion of as many characters from the beginning on as there is one for; the number of bytes that
-    // they took of the text.
+    // Converts from the beginning up to the first character without a counterpart and appends the result. Returns the
+    // number of bytes of `text` that were converted.
     size_t appendBeginning(std::string *out, std::string_view text);
 
 private:

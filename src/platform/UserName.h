@@ -5,7 +5,7 @@
 
 namespace bv {
 
-// The name in the password database of the real user id (getpwuid(3) of getuid(2)); empty when it has no entry.
+// The login name of the real user id in the password database; empty when there is no entry.
 std::string loginName();
 
 } // namespace bv

@@ -11,7 +11,7 @@ namespace {
 struct SequenceRow
 {
     unsigned char firstLow, firstHigh;   // range of the first byte
-    unsigned char secondLow, secondHigh; // range of the second; all later ones are 80 to BF
+    unsigned char secondLow, secondHigh; // range of the second byte; later bytes are 80 to BF
     size_t length;
 };
 

@@ -1,4 +1,4 @@
-// Applications that the panel starts: where the program of a bundle lies, and what is no program.
+// Applications that the panel starts: bundles, plain programs and files that are no programs.
 #include "platform/ApplicationLauncher.h"
 
 #include "support/TestRoot.h"
@@ -11,7 +11,7 @@ namespace {
 
 using std::filesystem::perms;
 
-// A root with programs that leave a file when they ran.
+// A root with programs that create a file when they run.
 class Applications : public testing::Test
 {
 protected:
@@ -45,7 +45,7 @@ TEST_F(Applications, TheProgramOfABundleHasTheBundlesName)
     EXPECT_TRUE(starts("/Applications/plain"));
 }
 
-TEST_F(Applications, WhatIsNoProgramIsNotStarted)
+TEST_F(Applications, FilesThatAreNoProgramsAreNotStarted)
 {
     place("/Applications/text", perms(0644));
     place("/Applications/Other.app/Contents/MacOS/Tool");

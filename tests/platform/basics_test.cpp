@@ -67,13 +67,13 @@ TEST(Child, LeavesNoDescriptorOpen)
     const int after = dup(STDIN_FILENO);
     close(after);
     EXPECT_EQ(before, after);
-    // Of the pipe the child has its own standard output alone.
+    // The child's standard output is its only descriptor of the pipe.
     const auto listed =
         shell("for fd in /proc/$$/fd/*; do readlink $fd; done | grep -cxF \"$(readlink /proc/$$/fd/1)\"");
     EXPECT_TRUE(listed && listed->output == "1\n") << (listed ? listed->output : "");
 }
 
-TEST(Child, GetsNothingOfOursButTheEnvironment)
+TEST(Child, InheritsOnlyTheEnvironment)
 {
     int forgotten[2];
     ASSERT_EQ(pipe(forgotten), 0);
@@ -85,15 +85,15 @@ TEST(Child, GetsNothingOfOursButTheEnvironment)
     EXPECT_EQ(result->exitCode, -1) << "the signal was ignored";
 }
 
-TEST(Child, AnswersInAHostWithoutStandardStreamsOrChildSignals)
+TEST(Child, RunsInAHostWithoutStandardStreamsOrChildSignals)
 {
-    // In a process of its own, whose standard streams can be closed. What the child says comes back as the exit status.
+    // Runs in a process of its own, so that standard streams can be closed. The exit status carries the result.
     const pid_t host = fork();
     ASSERT_GE(host, 0);
     if (host == 0) {
         for (int fd = 0; fd <= 2; ++fd)
             close(fd);
-        signal(SIGCHLD, SIG_IGN); // the kernel throws exit statuses away
+        signal(SIGCHLD, SIG_IGN); // the kernel discards exit statuses
         const auto result = shell("echo yes");
         _exit(result && result->output == "yes\n" && result->exitCode == -1 ? 0 : 1);
     }
@@ -102,9 +102,9 @@ TEST(Child, AnswersInAHostWithoutStandardStreamsOrChildSignals)
     EXPECT_EQ(status, 0);
 }
 
-TEST(Child, IsReadToItsEndWhateverSignalsTheHostGets)
+TEST(Child, IsReadToTheEndDespiteSignals)
 {
-    // A signal each 2 ms interrupts whatever system call the host waits in.
+    // A signal every 2 ms interrupts the host's system calls.
     struct sigaction action = {};
     struct sigaction before = {};
     action.sa_handler = [](int) {};
@@ -162,7 +162,7 @@ TEST(FileContents, AreBoundedByTheMaximum)
     EXPECT_EQ(bv::fileContents(path, 5), "12345");
     EXPECT_FALSE(bv::fileContents(path, 4));
     EXPECT_FALSE(bv::fileContents(path + "x", 5));
-    EXPECT_FALSE(bv::fileContents("/proc/self/maps", 1)); // says that it has no bytes, and has more than one
+    EXPECT_FALSE(bv::fileContents("/proc/self/maps", 1)); // reports size 0 but has contents
     EXPECT_TRUE(bv::fileContents("/proc/self/status", 100'000));
 }
 

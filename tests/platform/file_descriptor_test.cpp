@@ -1,4 +1,4 @@
-// Whole reads and writes through descriptors.
+// Complete reads and writes through descriptors.
 #include "platform/FileDescriptor.h"
 
 #include <gtest/gtest.h>
@@ -22,7 +22,7 @@ struct Pipe
 
 } // namespace
 
-TEST(FileDescriptor, MoreThanAPipeHoldsArrivesWholeBehindWhatTheTextHeld)
+TEST(FileDescriptor, MoreThanAPipeHoldsIsAppendedCompletely)
 {
     Pipe pipe;
     std::string sent(300000, 'a');
@@ -41,14 +41,14 @@ TEST(FileDescriptor, MoreThanAPipeHoldsArrivesWholeBehindWhatTheTextHeld)
 
 TEST(FileDescriptor, AReadEndsOnceTheTextPassesItsLimit)
 {
-    Pipe pipe; // its writer stays open: a read up to the end would wait for ever
+    Pipe pipe; // its writer stays open: a read up to the end would never return
     ASSERT_TRUE(bv::writeAll(pipe.in.get(), "12345"));
     std::string text;
     EXPECT_TRUE(bv::readToEnd(pipe.out.get(), &text, 4));
     EXPECT_GT(text.size(), 4u);
 }
 
-TEST(FileDescriptor, PlacesInAFileAreReadWholeOrNotAtAll)
+TEST(FileDescriptor, ReadsAtAnOffsetCompletelyOrNotAtAll)
 {
     std::FILE *file = std::tmpfile();
     ASSERT_TRUE(file);

@@ -1,4 +1,4 @@
-// The plain log: formatting that never reads past its arguments, and the system's encoding.
+// The log: formatting that is safe with wrong arguments, and output in the system's encoding.
 #include "platform/Log.h"
 
 #include <clocale>
@@ -49,7 +49,7 @@ TEST(Log, FormatsAsPrintfDoesAndDescribesObjects)
 
 TEST(Log, SurvivesPlaceholdersThatDoNotFitTheirArguments)
 {
-    EXPECT_EQ(logged("%s and %d %@", "one"), "one and %d %@"); // missing: written as they stand
+    EXPECT_EQ(logged("%s and %d %@", "one"), "one and %d %@"); // missing arguments: placeholders stay
     EXPECT_EQ(logged("%s %f %d %p %s", 5, "text", 2.5, "text", static_cast<const char *>(nullptr)),
               "5 text 2.5 text (null)");
     EXPECT_EQ(logged("%n %q %*", 1), "%n %q %*");
