@@ -1,4 +1,4 @@
-// Keeps a current list that cannot be read aside, so that it never takes the place of the last good earlier copy.
+// Decides when an unreadable current list is kept aside, so that it never replaces the last good previous list.
 #include "helper/UnreadableList.h"
 
 #include "helper/Diagnostics.h"

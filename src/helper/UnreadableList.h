@@ -1,20 +1,20 @@
-// Keeps a current list that cannot be read aside, so that it never takes the place of the last good earlier copy.
+// Decides when an unreadable current list is kept aside, so that it never replaces the last good previous list.
 #pragma once
 
 #include "helper/ListFolder.h"
 
 namespace bv {
 
-// Whether the open current list is one that no reader can read while the previous one can be read. Then the previous
-// one is to stay, and the current one to be kept aside instead. The open file is then at its start, as it was before.
+// Whether the open current list is unreadable while the previous list is readable. The caller must then keep the
+// current list aside and leave the previous one in place. Afterwards the open file is at its start, as before.
 bool wouldLoseGoodList(const FileDescriptor &current, const ListFolder &folder, const Caller &caller,
                        const ListTarget &target);
 
-// Whether an unreadable list is kept aside since which no readable one has been written: that one stays.
+// Whether an unreadable list is kept aside and no readable list has been written since. The kept list must then stay.
 bool hasFreshUnreadable(const ListFolder &folder, const Caller &caller, const ListTarget &target);
 
-// Notes that a readable list has been written: what is kept aside stays, but the next one may take its place. The note
-// is the file's mode, 0444.
+// Notes that a readable list has been written. A list kept aside stays, but the next unreadable list may replace it.
+// The note is the mode 0444 of the kept file.
 void noteReadableWritten(const ListFolder &folder, const Caller &caller, const ListTarget &target);
 
 } // namespace bv

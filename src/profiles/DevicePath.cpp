@@ -1,4 +1,4 @@
-// The encoding of device paths.
+// Encodes and decodes device paths.
 #include "profiles/DevicePath.h"
 
 namespace bv {

@@ -1,4 +1,4 @@
-// How a ticket carries the paths of profiles on the printer. Free of Qt and libcups.
+// Encoding of the paths of profiles on the printer, as a ticket stores them. Free of Qt and libcups.
 #pragma once
 
 #include <string>
@@ -6,9 +6,10 @@
 
 namespace bv {
 
-// A path as a ticket carries it: each byte as two characters, "0" plus its high and its low four bits.
+// Encodes each byte as two characters: "0" plus its high four bits, then "0" plus its low four bits.
 std::string encodeDevicePath(std::string_view path);
-// The bytes that an encoded text stands for; an odd last character is paired with a NUL.
+// Decodes an encoded path. Malformed text is not refused: an odd last character is paired with a NUL. To check a text,
+// encode the result and compare.
 std::string decodeDevicePath(std::string_view text);
 
 } // namespace bv

@@ -1,4 +1,4 @@
-// Running the helper: as a child process unless another transport was set.
+// Running the helper: as a child process, unless another transport is set.
 #include "profiles/HelperRequest.h"
 
 #include "profiles/RequestNames.h"

@@ -1,5 +1,5 @@
-// Requests to the helper tool: one operation "run helper" over a transport that can be exchanged. Free of Qt and
-// libcups. In the dialog the transport is a child process; inside the helper it is a direct call.
+// Requests to the helper, over a transport that can be replaced. Free of Qt and libcups. In the dialog the transport is
+// a child process; inside the helper it is a direct call.
 #pragma once
 
 #include <optional>
@@ -17,27 +17,28 @@ class HelperTransport
 {
 public:
     virtual ~HelperTransport() = default;
-    // Whether a helper is there at all.
+    // Whether the transport can reach a helper.
     virtual bool available() = 0;
-    // The answer text to one request, or nothing when it could not be asked.
+    // Sends one request and returns the text of the answer. Nothing when the helper could not be asked.
     virtual std::optional<std::string> run(std::string_view request, std::span<const std::string> arguments) = 0;
 };
 
-// Uses another transport from now on (borrowed; null: the child process again). Returns the one before, or null.
+// Replaces the transport. It is borrowed and must stay alive while it is set; null means the child process. Returns the
+// transport set before, or null.
 HelperTransport *setHelperTransport(HelperTransport *transport);
 
-// Whether the helper is there: exactly when a file exists at its path (under the root).
+// Whether the transport can reach a helper. For the child process: whether a file exists at the helper's path.
 bool helperAvailable();
 
-// One request; nothing when the helper is missing or cannot be run.
+// Sends one request and returns the answer. Nothing when the helper is missing or cannot be run.
 std::optional<std::string> runHelper(std::string_view request, std::span<const std::string> arguments);
 
-// What stands in the answer behind the request's name, "=" and the mark, wherever in the answer that is; nothing where
-// there is no answer or no such text in it.
+// Looks anywhere in the answer for the request's name, "=" and the mark. Returns the rest of the answer after them, or
+// nothing when there is no answer or no such text. The view points into `answer`.
 std::optional<std::string_view> behindMark(const std::optional<std::string> &answer, std::string_view request,
                                            std::string_view mark);
 
-// Whether the answer says TRUE to that request.
+// Whether the answer to the request is TRUE.
 bool answerIsTrue(const std::optional<std::string> &answer, std::string_view request);
 
 } // namespace bv

@@ -1,4 +1,4 @@
-// Lists and folders of the profiles that a row can choose.
+// Finds the list and the folder of the profiles that a row can choose.
 #include "profiles/ProfileKinds.h"
 
 namespace bv {

@@ -1,4 +1,4 @@
-// How a row of the advanced pane finds its stored profiles: list and storage folder.
+// The list and the printer folder of the stored profiles of a row of the advanced pane.
 #pragma once
 
 #include "common/PDEControlItem.h"
@@ -10,10 +10,11 @@
 
 namespace bv {
 
-// The list of a row's profile kind (1 RGB, 2 DST, 3 SIM); nothing for any other kind.
+// The list for a row's profile kind: 1 RGB, 2 DST, 3 SIM. Nothing for any other kind.
 std::optional<ProfileClassIndex> profileClassOfKind(int16_t profileKind);
 
-// The path of a profile on the printer: the folder of its storage (none for unknown storage) and its file name.
+// The path of a profile on the printer: the folder of its storage and its file name. For an unknown storage, only the
+// file name.
 std::string devicePath(const ProfileRecord &record);
 
 } // namespace bv

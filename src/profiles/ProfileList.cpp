@@ -1,4 +1,4 @@
-// The 32-byte text fields of a profile record.
+// Reads and fills the 32-byte text fields of a profile record.
 #include "profiles/ProfileList.h"
 
 #include <algorithm>

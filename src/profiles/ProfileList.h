@@ -1,5 +1,5 @@
-// One class of the stored colour profiles in memory: 500 fixed records and a count. Free of Qt and libcups.
-// The records are plain data: zeroing, copying and comparing them is whole-record work.
+// One class of the stored color profiles in memory: 500 fixed records and a count. Free of Qt and libcups. Records are
+// plain data, so they can be zeroed, copied and compared as a whole.
 #pragma once
 
 #include "profiles/ProfileStorage.h"
@@ -16,13 +16,13 @@ enum ProfileClassIndex : int32_t { kProfileRGB = 0, kProfileSIM = 1, kProfileDST
 
 struct ProfileRecord
 {
-    int32_t IndexOnDevice;               // index in the printer's profile table; 0 none, 501 kept without one
-    int32_t InMenu;                      // a bv::MenuState; other numbers only from a file
+    int32_t IndexOnDevice;               // index in the printer's profile table; 0: none; 501: kept without one
+    int32_t InMenu;                      // a bv::MenuState; a file may bring other numbers
     int32_t ProfileClass;                // as the printer reports it
-    char FileName[kProfileTextBytes];    // UTF-8; may fill the field without a NUL when it comes from a walk
+    char FileName[kProfileTextBytes];    // UTF-8; without a NUL when a text from a walk fills the field
     char ProfileName[kProfileTextBytes]; // likewise
     int32_t Location;                    // kLocationDisk, kLocationCard, or other
-    int32_t Availability;                // moved and cleared with the record, never stored in the file
+    int32_t Availability;                // moved and cleared with the record, not stored in the file
 };
 static_assert(sizeof(ProfileRecord) == 84 && offsetof(ProfileRecord, FileName) == 12 &&
               offsetof(ProfileRecord, ProfileName) == 44 && offsetof(ProfileRecord, Location) == 76);
@@ -34,7 +34,7 @@ struct ProfileList
 };
 static_assert(sizeof(ProfileList) == size_t{84} * kProfileSlots + 4);
 
-// The lists of one file: 126 kB, too much for a small stack.
+// The lists of one file. At 126 kB it is too large for a small stack: allocate it on the heap.
 struct ProfileLists
 {
     ProfileList rgb, sim, dst;
@@ -42,10 +42,10 @@ struct ProfileLists
 
 namespace bv {
 
-// The text of a 32-byte field up to its first NUL; never runs past the field.
+// The text of a field up to its first NUL, or the whole field when it has none. The view points into the field.
 std::string_view fieldText(const char (&field)[kProfileTextBytes]);
 
-// Fills a field with at most 31 bytes of the text, NUL-padded; a character may be cut in the middle.
+// Stores at most 31 bytes of the text and fills the rest with NULs. A character may be cut in the middle.
 void setFieldText(char (&field)[kProfileTextBytes], std::string_view text);
 
 } // namespace bv

@@ -18,7 +18,7 @@ struct FieldRow
     bv::PropertyListNode ProfileFieldDictionaries::*dictionary;
 };
 
-// In the order in which a class dictionary's fields are looked up and written.
+// The fields of a class dictionary, in the order of look-up and writing.
 // clang-format off
 constexpr FieldRow kFields[] = {
     {cIndexOnDeviceKey, &ProfileFieldDictionaries::indexOnDevice},
@@ -30,8 +30,8 @@ constexpr FieldRow kFields[] = {
 };
 // clang-format on
 
-// A field's text as the file carries it, without the characters that XML 1.0 has no place for (its production [2]
-// Char); nothing when it is not UTF-8.
+// A field's text as the file stores it, without the characters that XML 1.0 does not allow (production [2] Char).
+// Nothing when the field is not UTF-8.
 std::optional<std::string> xmlText(std::string_view text)
 {
     if (!bv::isUtf8(text))

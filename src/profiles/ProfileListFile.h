@@ -1,6 +1,6 @@
 // The list file: its keys, its dictionaries, and the conversion between them and lists in memory. Free of Qt and
-// libcups. The file is an XML property list: root, three class dictionaries, in each six field dictionaries of 500
-// slots ("InMenu0000" to "InMenu0499") and the count.
+// libcups. The file is an XML property list: the root holds three class dictionaries. Each has the count and six field
+// dictionaries of 500 slots ("InMenu0000" to "InMenu0499").
 #pragma once
 
 #include "platform/PropertyList.h"
@@ -13,7 +13,7 @@
 
 inline constexpr size_t kProfileKeyBytes = 32;
 
-// Key texts, NUL-padded.
+// Names of the fields, padded with NULs.
 inline constexpr char cIndexOnDeviceKey[kProfileKeyBytes] = "IndexOnDevice";
 inline constexpr char cInMenuKey[kProfileKeyBytes] = "InMenu";
 inline constexpr char cProfileClassKey[kProfileKeyBytes] = "ProfileClass";
@@ -24,7 +24,7 @@ inline constexpr char cDriverAvailKey[kProfileKeyBytes] = "DriverAvail"; // neit
 inline constexpr char cPlistVersionKey[kProfileKeyBytes] = "PlistVersion";
 
 inline constexpr char kProfileCountKey[] = "iNum";
-// The class dictionaries' root keys, by ProfileClassIndex.
+// The keys of the class dictionaries in the root, indexed by ProfileClassIndex.
 inline constexpr std::array<const char *, 3> kProfileClassKeys = {"RGB", "SIM", "DST"};
 
 // The field dictionaries of one class: borrowed nodes.
@@ -38,54 +38,54 @@ struct ProfileFieldDictionaries
     bv::PropertyListNode profileName;
 };
 
-// What CreatePropsDictionary hands out: the class dictionary, owned by the caller, and its field dictionaries in it.
+// Output of CreatePropsDictionary: the class dictionary, owned by the caller, and borrowed nodes of its field
+// dictionaries.
 struct ProfilePropsDictionary
 {
     bv::PropertyList classDictionary;
     ProfileFieldDictionaries fields;
 };
 
-// The wrapper of one class dictionary: its root key ("RGB", "SIM", "DST"; null for any other class index: the wrapper
-// is empty) and the dictionary, borrowed, since a node has one owner only.
+// One class dictionary (borrowed) with its key in the root: "RGB", "SIM" or "DST". Both are null for an invalid class
+// index.
 struct ProfileClassWrapper
 {
     const char *key = nullptr;
     bv::PropertyListNode classDictionary;
 };
 
-// Stores the number under the key text as 32 bits; leaves the output untouched when the key is not there or its value
-// is no number.
+// Stores the number under the key in *out. Leaves *out unchanged when the key is missing or its value is no number.
 void ReadDictionaryIntEntry(bv::PropertyListNode dictionary, const char *key, int32_t *out);
-// Fills the field with the first 31 bytes of the text under the key; leaves it untouched when the key is not there or
-// its value is no text.
+// Stores the first 31 bytes of the text under the key in `out`. Leaves `out` unchanged when the key is missing or its
+// value is no text.
 void ReadDictionaryStringEntry(bv::PropertyListNode dictionary, const char *key, char (&out)[kProfileTextBytes]);
 
-// Builds the dictionary of one class from a list: all 500 slots, used or not. A text that is not UTF-8 leaves out its
-// key for that slot; control characters that XML cannot carry are dropped from the others.
+// Builds the dictionary of class `which` (a ProfileClassIndex) with all 500 slots, used or not. A text that is not
+// UTF-8 is left out with its key. Characters that XML does not allow are removed from the other texts.
 ProfileClassWrapper CreatePropsDictionary(int32_t which, const ProfileList *list, ProfilePropsDictionary *out);
 
-// Copies of the class dictionaries of the current user's file, owned by the caller. 0, or -1 when the file cannot be
-// read or a class is missing: the classes before the missing one are handed out all the same.
+// Copies the class dictionaries of the current user's file; the caller owns the copies. Returns 0, or -1 when the file
+// cannot be read or a class is missing. The outputs before the missing class are set even then.
 int32_t BVPListMappingGetMainDict_FromPlist(bv::PropertyList *rgb, bv::PropertyList *sim, bv::PropertyList *dst);
-// The field dictionaries of a class dictionary, looked up in the order in which the struct names them; -1 at the first
-// one missing (those behind it stay as they were). Then the count, if there is one; 0.
+// Looks up the field dictionaries of a class dictionary in the order of the struct, then the count, if there is one.
+// Returns 0, or -1 at the first missing dictionary; the outputs after it then stay unchanged.
 int32_t BVPListMappingGetSubDict(bv::PropertyListNode classDictionary, ProfileFieldDictionaries *fields,
                                  int32_t *count);
 
 namespace bv {
 
-// The contents of the current user's list file as a property list; null when it is missing, no regular file or not
-// readable as one.
+// The contents of the current user's list file as a property list; null when the file is missing, no regular file, or
+// no readable property list.
 PropertyList readProfileListFile();
 
-// Whether a text is a list file that can be read: a property list whose root holds the three class dictionaries, each
-// with its six field dictionaries.
+// Whether the text is a readable list file: a property list with three class dictionaries that each hold six field
+// dictionaries.
 bool isCompleteProfileList(std::string_view xml);
 
-// The whole list file as XML text, UTF-8 and well-formed; nothing when it cannot be made.
+// The whole list file as XML text, UTF-8 and well-formed; nothing when it cannot be built.
 std::optional<std::string> profileListXml(const ProfileList &rgb, const ProfileList &sim, const ProfileList &dst);
 
-// The key of one field's slot: the key text and four digits. Made once a field, then moved from slot to slot.
+// Makes the keys of one field's slots: the name of the field and four digits. One object serves all slots of a field.
 class SlotKey
 {
 public:

@@ -1,4 +1,4 @@
-// Merging edited lists with those of the list file.
+// Merges edited lists with the lists of the file.
 #include "profiles/ProfileOperations.h"
 
 #include "platform/NoThrow.h"
@@ -10,7 +10,7 @@
 
 namespace {
 
-// The records that a count says are in use; a count that lies stays inside the list. None of a null list.
+// The records that the list's count covers. A wrong count is limited to the list's 500 slots. Empty for a null list.
 std::span<const ProfileRecord> usedRecords(const ProfileList *list)
 {
     if (!list)
@@ -36,7 +36,7 @@ void BVPListMapping_Pap(const ProfileList *edited, const ProfileList *fromFile, 
         if (filled < kProfileSlots)
             out->records[filled++] = record;
     };
-    // What the printer has stays in the file, whatever the window of a local queue lists.
+    // Profiles that the printer has stay in the file, although the window of a local queue does not list them.
     for (const ProfileRecord &record : usedRecords(fromFile))
         if (bv::isOnPrinter(record.InMenu) && !holdsProfile(excluded, record) && !holdsProfile(edited, record))
             append(record);
@@ -55,7 +55,7 @@ int32_t BVPListMappingProfile_All_Pap(const ProfileList *rgb, const ProfileList 
         file = std::make_unique<ProfileLists>();
         return BVPListReadProfile_All(&file->rgb, &file->sim, &file->dst);
     });
-    // A file that cannot be read counts as an empty one.
+    // If the file cannot be read, its lists count as empty.
     BVPListMapping_Pap(rgb, read == 0 ? &file->rgb : nullptr, rgbOut, rgbDelete);
     BVPListMapping_Pap(sim, read == 0 ? &file->sim : nullptr, simOut, simDelete);
     BVPListMapping_Pap(dst, read == 0 ? &file->dst : nullptr, dstOut, dstDelete);

@@ -1,4 +1,4 @@
-// Reading lists from the list file, and the count check that follows each read.
+// Reads lists from the list file and corrects their counts after each read.
 #include "profiles/ProfileListRead.h"
 
 #include "platform/Log.h"
@@ -13,7 +13,7 @@
 
 namespace {
 
-// One class of an open list file with its slot keys.
+// Reads the records of one class from an open list file.
 class ClassReader
 {
 public:
@@ -28,7 +28,7 @@ public:
             bv::diagnosticLine("the list file lacks a class or one of its fields");
     }
 
-    // Whether the class and all its field dictionaries are there.
+    // Whether the file has the class and all its field dictionaries.
     bool complete() const { return m_complete; }
 
     void readInMenu(int slot, int32_t *out) { ReadDictionaryIntEntry(m_fields.inMenu, m_inMenu.at(slot), out); }
@@ -52,7 +52,7 @@ public:
         finish(list);
     }
 
-    // The stored count, then the check of it.
+    // Reads the stored count and corrects it.
     void finish(ProfileList *list) const
     {
         ReadDictionaryIntEntry(m_class, kProfileCountKey, &list->count);
@@ -77,7 +77,7 @@ int32_t bv::readLists(const PropertyList &file, ProfileList *rgb, ProfileList *s
 {
     std::array<ClassReader, 3> readers = {ClassReader(file, kProfileRGB), ClassReader(file, kProfileSIM),
                                           ClassReader(file, kProfileDST)};
-    // No list is touched before all three classes are known to be whole.
+    // Check all three classes first: on failure, no list may have changed.
     if (!std::all_of(readers.begin(), readers.end(), [](const ClassReader &reader) { return reader.complete(); }))
         return -1;
     readers[kProfileRGB].readAllSlots(rgb);
@@ -132,8 +132,8 @@ void BVPlistCheckWithInMenu_Dict(ProfileList *list)
                                     [](const ProfileRecord &record) { return bv::isUsed(record.InMenu); });
     if (used == list->count)
         return;
-    // Whatever stands from there on goes, even records in use behind a gap: all who walk a list up to its count rely on
-    // nothing being in use behind it.
+    // Clears every record from the count on, even records in use after a gap. This is intended: code that walks a list
+    // up to its count relies on no record being in use after it.
     std::fill(std::begin(list->records) + used, std::end(list->records), ProfileRecord{});
     list->count = static_cast<int32_t>(used);
 }

@@ -1,5 +1,5 @@
-// From an open list file to lists in memory. The reads of the stored file stand in ProfileOperations.h. Free of Qt and
-// libcups.
+// Converts an open list file to lists in memory. ProfileOperations.h has the functions that also open the file. Free of
+// Qt and libcups.
 #pragma once
 
 #include "platform/PropertyList.h"
@@ -7,7 +7,7 @@
 
 namespace bv {
 
-// Fills the three lists. 0, or -1 when a class or one of its field dictionaries is missing; then no list is touched.
+// Fills the three lists. Returns 0, or -1 when a class or a field dictionary is missing; the lists are then unchanged.
 int32_t readLists(const PropertyList &file, ProfileList *rgb, ProfileList *sim, ProfileList *dst);
 
 } // namespace bv

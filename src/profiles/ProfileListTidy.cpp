@@ -1,4 +1,4 @@
-// Tidying of a list after the printer was asked: clean-up, salvage, padding.
+// Tidies a list after a walk of the printer: clean-up, salvage, padding.
 #include "profiles/ProfileOperations.h"
 
 #include "profiles/MenuState.h"
@@ -50,7 +50,7 @@ void BVPListPaddingProfile_Dict(ProfileList *list)
             return;
         ProfileRecord &vacated = list->records[from];
         list->records[to] = vacated;
-        // The vacated slot keeps its class: who compares list files relies on what has always stood there.
+        // The vacated slot keeps its class on purpose: tools that compare list files rely on this old behavior.
         vacated = ProfileRecord{};
         vacated.ProfileClass = list->records[to].ProfileClass;
     }

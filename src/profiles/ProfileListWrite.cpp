@@ -1,4 +1,4 @@
-// Writing lists: the file's text goes to the helper in pieces and is then committed.
+// Writes lists: sends the file's text to the helper in pieces and then asks it to commit them.
 #include "profiles/ProfileOperations.h"
 
 #include "platform/FileUrl.h"
@@ -77,7 +77,7 @@ int32_t BVPListWriteProfile_Dict(const ProfileList *list, int32_t which, Profile
 {
     return bv::withoutThrowing(-1, [&] {
         const auto file = std::make_unique<ProfileLists>();
-        BVPListReadProfile_All(&file->rgb, &file->sim, &file->dst); // unreadable: the lists stay empty
+        BVPListReadProfile_All(&file->rgb, &file->sim, &file->dst); // if this fails, the lists stay empty
         const std::array<ProfileList *, 3> outputs = {rgb, sim, dst};
         const std::array<ProfileList *, 3> stored = {&file->rgb, &file->sim, &file->dst};
         for (size_t at = 0; at < outputs.size(); ++at)

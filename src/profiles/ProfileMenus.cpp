@@ -1,4 +1,4 @@
-// PDECommon: the stored profiles behind the PPD's choices in the profile menus.
+// PDECommon: adds the stored profiles after the PPD's choices in the profile menus.
 #include "common/PDECommon.h"
 
 #include "platform/Bundle.h"
@@ -16,14 +16,15 @@ namespace {
 
 using ThreeLists = std::array<ProfileList, 3>;
 
-// The localised name of a record's storage: an empty text for unknown storage, a null one when it cannot be had.
+// The localized name of a record's storage. An empty string for an unknown storage, a null string when there is no
+// localized text.
 QString storageName(const ProfileRecord &record)
 {
     const bv::ProfileStorage *storage = bv::profileStorage(record.Location);
     return storage ? bundleText(storage->name) : QStringLiteral("");
 }
 
-// The menu title of a profile: file name, profile name in parentheses, storage. The bytes are cut at 255.
+// The menu title of a profile: file name, profile name in parentheses, storage. Cut at 255 bytes.
 QString profileTitle(const ProfileRecord &record, const QString &storage)
 {
     std::string title(bv::fieldText(record.FileName));
@@ -31,7 +32,7 @@ QString profileTitle(const ProfileRecord &record, const QString &storage)
     return QString::fromUtf8(title.data(), qsizetype(std::min(title.size(), size_t{255})));
 }
 
-// Appends the listed profiles; false when the name of some storage could not be had.
+// Appends the profiles that the menus show. False when a storage has no localized name.
 bool appendProfiles(QComboBox *menu, const ProfileList &list)
 {
     bool complete = true;
@@ -62,7 +63,7 @@ int32_t PDECommon::commonAddMenuFromProfilePlist(PDEControlTable table)
         for (int16_t row = 0; table && table[row].control; ++row) {
             const auto which = bv::profileClassOfKind(table[row].profileKind);
             auto *menu = qobject_cast<QComboBox *>(table[row].control);
-            // Once set, the result stays: no profile row sets it back.
+            // A failure of one row is the result, even if later rows succeed.
             if (!which || !appendProfiles(menu, (*lists)[*which]))
                 result = paramErr;
         }

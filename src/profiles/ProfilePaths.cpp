@@ -1,4 +1,4 @@
-// File names of the list files, formed from the login name.
+// Forms the names of the list files from the login name.
 #include "profiles/ProfilePaths.h"
 
 #include "platform/UserName.h"

@@ -1,4 +1,4 @@
-// Questions and small orders to the helper about the list files.
+// Asks the helper about the list files, and has it remove and swap them.
 #include "profiles/ProfileOperations.h"
 
 #include "platform/NoThrow.h"
@@ -52,7 +52,7 @@ void BVPListSwapProfile(int32_t code)
     bv::withoutThrowing(0, [&] {
         const bv::ProfilePaths paths = bv::profilePaths();
         const std::vector<std::string> arguments = {std::to_string(code), paths.current, paths.previous};
-        bv::runHelper(bv::kSwapRequest, arguments); // the answer is read and not examined
+        bv::runHelper(bv::kSwapRequest, arguments); // the answer does not matter: callers get no result
         return 0;
     });
 }

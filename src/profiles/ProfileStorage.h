@@ -5,7 +5,7 @@
 #include <array>
 #include <cstdint>
 
-// The code of a storage in a record's Location; other values are unknown storage.
+// Codes of the storages in a record's Location. Any other value is an unknown storage.
 inline constexpr int32_t kLocationDisk = 4;
 inline constexpr int32_t kLocationCard = 5;
 
@@ -14,8 +14,8 @@ namespace bv {
 struct ProfileStorage
 {
     int32_t location;
-    const char *name;   // localisation key
-    const char *folder; // of the profiles on the printer, "/" at its end
+    const char *name;   // localization key
+    const char *folder; // of the profiles on the printer, with "/" at the end
 };
 
 // In the order in which the management window offers them.
@@ -26,7 +26,7 @@ inline constexpr std::array<ProfileStorage, 2> kProfileStorages = {{
 }};
 // clang-format on
 
-// The storage of a code; null for an unknown one.
+// The storage with the code; null for an unknown code.
 constexpr const ProfileStorage *profileStorage(int32_t location)
 {
     const auto *const found = std::find_if(kProfileStorages.begin(), kProfileStorages.end(),

@@ -1,4 +1,4 @@
-// PDECommon: a chosen profile in the queue's dictionary of the ticket.
+// PDECommon: stores a chosen profile in the queue's dictionary of the ticket and reads it back.
 #include "common/PDECommon.h"
 
 #include "common/AsciiText.h"
@@ -17,7 +17,7 @@ namespace {
 
 constexpr size_t kEncodedPathLimit = 1023;
 
-// The key of a row's entry; nothing where the row's keyword is no ASCII: such a row has no entries.
+// The key of a row's entry. Nothing when the row's keyword is not ASCII; such a row has no entries.
 std::optional<QString> entryKey(const PDEControlItem *item, const char *suffix)
 {
     auto key = asciiText(item->ppdKey);
@@ -37,7 +37,7 @@ bv::PrintValue entryOf(const bv::PrintDictionaryRef &dict, const std::optional<Q
     return key ? dict->value(*key) : bv::PrintValue();
 }
 
-// Calls `visit(record, number)` for each record that is in the menus, numbered from 1, until it answers true.
+// Calls `visit(record, number)` for each record that is in the menus, numbered from 1, until `visit` returns true.
 template <typename Visit> void visitNumbered(const ProfileList &list, Visit visit)
 {
     int16_t number = 0;
@@ -55,7 +55,7 @@ std::unique_ptr<ProfileList> rowsList(ProfileClassIndex which)
     return list;
 }
 
-// The path of the profile with that number; empty when the list has no such number.
+// The printer path of the profile with the number. Empty when the list has no such number.
 std::string numberedPath(ProfileClassIndex which, int16_t wanted)
 {
     std::string path;
@@ -68,7 +68,7 @@ std::string numberedPath(ProfileClassIndex which, int16_t wanted)
     return path;
 }
 
-// The number of the profile with that path on a known storage; 0 when the list has none.
+// The number of the profile with the path, on a known storage. 0 when the list has none.
 int16_t numberOfPath(ProfileClassIndex which, const QString &wanted)
 {
     int16_t position = 0;
@@ -81,7 +81,7 @@ int16_t numberOfPath(ProfileClassIndex which, const QString &wanted)
     return position;
 }
 
-// The path that a stored entry stands for, as the printer's text; a null string when it stands for none.
+// Decodes the printer path of a stored entry. A null string when the entry holds none.
 QString storedPath(const bv::PrintValue &entry)
 {
     const QString *text = entry.string();

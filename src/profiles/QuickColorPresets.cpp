@@ -29,7 +29,7 @@ constexpr std::array<PresetRow, 21> kPresets{{
     {"BVSimGrayTreatment",           "menu_sCMYKGrayTreatment",  "CMYK Gray Treatment",          0, {0, 0, 0}},
 }};
 
-// Economy on: afterwards the first item in these menus, by Quick Color.
+// With Economy Print, the menus in which each Quick Color selects the first choice.
 constexpr const PresetRow *kImageEdge = &kPresets[5];
 constexpr const PresetRow *kGraphicsEdge = &kPresets[17];
 constexpr std::array<const PresetRow *, 1> kEconomy0{kGraphicsEdge};

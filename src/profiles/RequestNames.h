@@ -1,4 +1,4 @@
-// The names of the helper's requests and the marks of its answers, as both sides of the pipe use them. Free of Qt.
+// Names of the helper's requests and marks of its answers, shared by the plug-in and the helper. Free of Qt.
 #pragma once
 
 #include <string_view>
@@ -13,7 +13,7 @@ inline constexpr std::string_view kPieceRequest = "writeDataToPlistFile_XPC";
 inline constexpr std::string_view kCommitRequest = "writeDataToPlistFileRename_XPC";
 inline constexpr std::string_view kWalkRequest = "mibwalk_XPC";
 
-// What stands behind "NAME=" in an answer. Behind the walk's mark comes its status, a decimal number.
+// The marks that follow "NAME=" in an answer. The walk's mark is followed by its status, a decimal number.
 inline constexpr std::string_view kTrueMark = "TRUE";
 inline constexpr std::string_view kFalseMark = "FALSE";
 inline constexpr std::string_view kWalkMark = "iRet=";

@@ -1,4 +1,4 @@
-// Cutting of UTF-8 by UTF-16 length.
+// Cuts UTF-8 text by its length in UTF-16.
 #include "profiles/TextPieces.h"
 
 #include "platform/Utf8.h"
@@ -9,7 +9,7 @@ std::vector<std::string> splitCharEvery(std::string_view text, size_t units)
 {
     std::vector<std::string> pieces;
     size_t start = 0;
-    size_t taken = 0; // code units since start
+    size_t taken = 0; // UTF-16 code units since `start`
     for (size_t at = 0; at < text.size();) {
         const size_t bytes = std::max<size_t>(1, bv::utf8CharacterLength(text.substr(at)));
         const size_t width = bytes == 4 ? 2 : 1;

@@ -1,4 +1,4 @@
-// The list file: what is written, what is read back, and what wrong, damaged or hostile files come to.
+// The list file: writing, reading back, and the handling of wrong, damaged and hostile files.
 #include "profiles/ProfileListFile.h"
 #include "profiles/ProfileOperations.h"
 #include "support/SampleLists.h"
@@ -16,7 +16,7 @@ using bvtest::Lists;
 using bvtest::TestRoot;
 using std::filesystem::path;
 
-using FieldTexts = std::map<std::string, std::string>; // field key to the inside of its dictionary
+using FieldTexts = std::map<std::string, std::string>; // field key to the XML inside its dictionary
 
 std::string entry(const std::string &key, const std::string &value)
 {
@@ -38,7 +38,7 @@ std::string list(const std::string &root)
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">" + root + "</plist>\n";
 }
 
-// A class dictionary with all six fields, empty but for those given, and the count.
+// A class dictionary with the count and all six fields, of which only the given ones have contents.
 std::string classDict(FieldTexts fields = {}, const std::string &count = "")
 {
     for (const char *key :
@@ -79,7 +79,7 @@ class ListFile : public testing::Test
 protected:
     int32_t read() { return BVPListReadProfile_All(&m_lists->rgb, &m_lists->sim, &m_lists->dst); }
 
-    // A text that is no list file: no read succeeds and no list is touched.
+    // Expects that every read of the text fails and changes no list.
     void expectUnreadable(const std::string &what)
     {
         std::memset(static_cast<void *>(m_lists.get()), 0x5A, sizeof(Lists));
@@ -101,7 +101,7 @@ protected:
     std::unique_ptr<Lists> m_lists = bvtest::makeLists();
 };
 
-TEST_F(ListFile, ThreeFullListsComeBackAsTheyWere)
+TEST_F(ListFile, ThreeFullListsAreReadBackUnchanged)
 {
     const auto written = bvtest::makeLists();
     bvtest::fill(written->rgb, "<Büro> & \"Haus\" 印刷");
@@ -130,15 +130,15 @@ TEST_F(ListFile, AnEmptyListIsWrittenWithAllItsSlots)
     EXPECT_EQ(file.root().item("SIM").item("FileName").item("FileName0499").text(), "");
 }
 
-TEST_F(ListFile, ATextThatXmlCannotCarryNeverSpoilsTheFile)
+TEST_F(ListFile, TextsThatXmlDoesNotAllowNeverDamageTheFile)
 {
     struct Row
     {
         const char *bytes;
         const char *readBack;
     };
-    // The third byte of a character cut at the end of the field, Latin-1, an overlong form, a surrogate: the key is
-    // left out, so the field stays empty. Characters without a place in XML are dropped from the rest.
+    // Invalid UTF-8: a character cut at the end of the field, Latin-1, an overlong form, a surrogate. The key is left
+    // out, so the field stays empty. From valid texts, characters that XML does not allow are removed.
     const Row rows[] = {
         {"0123456789012345678901234567\xE5\x8D\xB0\xE5", ""},
         {"caf\xE9", ""},
@@ -153,7 +153,7 @@ TEST_F(ListFile, ATextThatXmlCannotCarryNeverSpoilsTheFile)
         *m_lists = Lists{};
         bvtest::add(m_lists->sim, bvtest::makeRecord(3, "first.icc"));
         bvtest::add(m_lists->sim, bvtest::makeRecord(3, "second.icc"));
-        std::memcpy(m_lists->sim.records[0].ProfileName, row.bytes, std::strlen(row.bytes)); // may fill all 32
+        std::memcpy(m_lists->sim.records[0].ProfileName, row.bytes, std::strlen(row.bytes)); // may fill all 32 bytes
         const std::string xml = bv::profileListXml(m_lists->rgb, m_lists->sim, m_lists->dst).value();
         EXPECT_TRUE(isWellFormed(xml)) << row.bytes;
         TestRoot::writeList(xml);
@@ -193,7 +193,7 @@ TEST_F(ListFile, NamesAreCutAt31Bytes)
     }
 }
 
-TEST_F(ListFile, TheCountIsThatOfTheRecordsInUseWhateverTheFileSays)
+TEST_F(ListFile, TheCountIsTheNumberOfRecordsInUseDespiteTheFile)
 {
     for (const char *count : {"", "<integer>2</integer>", "<integer>3</integer>", "<integer>-1</integer>",
                               "<integer>501</integer>", "<integer>2147483648</integer>",
@@ -215,10 +215,10 @@ TEST_F(ListFile, AGapLosesTheLastRecordsUnlessTheCountIsRight)
     EXPECT_EQ(m_lists->rgb.count, 2);
     EXPECT_EQ(rgb(2).InMenu, 0);
     EXPECT_EQ(m_lists->sim.count, 2);
-    EXPECT_EQ(m_lists->sim.records[2].InMenu, 3); // nothing was wrong, so nothing was cleared
+    EXPECT_EQ(m_lists->sim.records[2].InMenu, 3); // the count was right, so nothing was cleared
 }
 
-TEST_F(ListFile, NumbersAreCutToIntegersAndOtherTypesPassedOver)
+TEST_F(ListFile, NumbersAreCutToIntegersAndOtherTypesIgnored)
 {
     struct Row
     {
@@ -227,7 +227,7 @@ TEST_F(ListFile, NumbersAreCutToIntegersAndOtherTypesPassedOver)
     };
     const Row rows[] = {
         {"<integer>5</integer>", 5},
-        {"<integer>7</integer>", 7}, // no known code, stored all the same
+        {"<integer>7</integer>", 7}, // unknown code, stored nevertheless
         {"<real>-3.9</real>", -3},
         {"<real>1e20</real>", 2147483647},
         {"<real>nan</real>", 77},
@@ -288,12 +288,12 @@ TEST_F(ListFile, TheCompactingReadLeavesOutCode2AndReads4As6)
     EXPECT_EQ(rgb(0).InMenu, 1);
     EXPECT_EQ(bv::fieldText(rgb(1).FileName), "c");
     EXPECT_EQ(rgb(1).InMenu, 6);
-    EXPECT_EQ(rgb(2).InMenu, 0); // slot 3 has no code: it is kept, a gap
+    EXPECT_EQ(rgb(2).InMenu, 0); // slot 3 has no code and is kept as a gap
     EXPECT_EQ(bv::fieldText(rgb(3).FileName), "e");
-    EXPECT_EQ(m_lists->rgb.count, 3); // as the file says, so the gap stays
+    EXPECT_EQ(m_lists->rgb.count, 3); // as in the file, so the gap stays
 }
 
-TEST_F(ListFile, ClassDictionariesBeforeAMissingOneAreHandedOut)
+TEST_F(ListFile, ClassDictionariesBeforeAMissingOneAreReturned)
 {
     TestRoot::writeList(list(dict(entry("RGB", classDict({}, number("iNum", "4"))) + entry("DST", classDict()))));
     bv::PropertyList rgb, sim, dst;
@@ -305,7 +305,7 @@ TEST_F(ListFile, ClassDictionariesBeforeAMissingOneAreHandedOut)
     EXPECT_EQ(count, 4);
 }
 
-TEST_F(ListFile, WhatXmlAllowsAroundAndWithinAListIsPassedOver)
+TEST_F(ListFile, OtherXmlAroundAndWithinAListIsSkipped)
 {
     const std::string good = listFile(classDict({{"InMenu", inMenu({3})}}));
     const size_t root = good.find("<plist");
@@ -360,14 +360,14 @@ TEST_F(ListFile, DamagedAndHostileTextsAreUnreadable)
     for (const auto &[what, text] : rows)
         expectUnreadableText(text, what);
 
-    // Sparse, so that nothing of it is written.
+    // A sparse file, which takes no space on the disk.
     TestRoot::writeList(good);
     std::filesystem::resize_file(TestRoot::listFile(), 100'000'000);
     expectUnreadable("100 MB");
 }
 
-// The seeds of the fuzz targets, among them whatever once broke a reader.
-TEST_F(ListFile, EverySeedIsReadOrRefusedAndWhatWasReadCanBeWritten)
+// The seeds of the fuzz targets, including inputs that once broke a reader.
+TEST_F(ListFile, EverySeedIsRefusedOrCanBeReadAndWrittenAgain)
 {
     size_t readable = 0;
     size_t seeds = 0;
@@ -398,7 +398,7 @@ TEST_F(ListFile, OnlyARegularFileIsRead)
     expectUnreadable("folder");
     std::filesystem::remove(place);
     ASSERT_EQ(mkfifo(place.c_str(), 0600), 0);
-    expectUnreadable("FIFO"); // and the read does not wait for a writer
+    expectUnreadable("FIFO"); // the read must not wait for a writer
 }
 
 } // namespace

@@ -44,19 +44,19 @@ TEST(Merge, CarriesOver2And4ThatAreNeitherEditedNorExcludedInFileOrder)
     for (int code = 0; code <= 6; ++code)
         add(merge.file, makeRecord(code, "code" + std::to_string(code)));
     add(merge.file, makeRecord(2, "same.icc"));   // edited on the card only: carried over
-    add(merge.file, makeRecord(4, "edited.icc")); // edited: the edited record stands
+    add(merge.file, makeRecord(4, "edited.icc")); // edited: the edited record is kept
     add(merge.file, makeRecord(2, "gone.icc"));   // excluded
     add(merge.excluded, makeRecord(1, "gone.icc"));
-    add(merge.excluded, makeRecord(1, "code2", kLocationCard)); // another place: excludes nothing
+    add(merge.excluded, makeRecord(1, "code2", kLocationCard)); // another storage: excludes nothing
     add(merge.edited, makeRecord(6, "same.icc", kLocationCard));
     add(merge.edited, makeRecord(6, "edited.icc"));
-    add(merge.edited, makeRecord(6, "gone.icc")); // the exclusion does not touch the edited list
+    add(merge.edited, makeRecord(6, "gone.icc")); // exclusion does not affect the edited list
     merge.run();
     EXPECT_THAT(shown(*merge.out), ElementsAre("code2:2@4", "code4:4@4", "same.icc:2@4", "same.icc:6@5",
                                                "edited.icc:6@4", "gone.icc:6@4"));
 }
 
-TEST(Merge, IsCutAt500AndNeverLeavesTheLists)
+TEST(Merge, IsCutAt500AndStaysWithinTheLists)
 {
     Merge merge;
     bvtest::fill(merge.edited);

@@ -1,4 +1,4 @@
-// Requests to the helper: which are sent, in which order, and what their answers decide.
+// Requests to the helper: which are sent, in which order, and the effect of their answers.
 #include "profiles/HelperRequest.h"
 #include "profiles/ProfileListFile.h"
 #include "profiles/ProfileOperations.h"
@@ -22,7 +22,7 @@ constexpr char kCurrent[] = "/Library/Printers/BREVANE/Preferences/vnd.brevane.p
 constexpr char kPrevious[] =
     "/Library/Printers/BREVANE/Preferences/vnd.brevane.printers.QL70/ada-QL70-profile.prev.plist";
 
-// Says TRUE to every request but the one of a given number, and keeps what it was asked.
+// Answers TRUE to every request except the one with a given number, and records the requests.
 class RecordingTransport : public bv::HelperTransport
 {
 public:
@@ -35,7 +35,7 @@ public:
         return std::string(request) + (refused ? "=FALSE\n" : "=TRUE\n");
     }
 
-    // The pieces of the file, put together.
+    // The pieces of the file, joined.
     std::string fileText() const
     {
         std::string text;
@@ -74,7 +74,7 @@ size_t utf16Units(std::string_view text)
     return units;
 }
 
-TEST_F(Requests, AFullListGoesInPiecesAndIsCommittedUnderItsUrl)
+TEST_F(Requests, AFullListIsSentInPiecesAndCommittedUnderItsUrl)
 {
     // Names full of three-byte characters make pieces as large in bytes as they can be.
     for (ProfileList *list : {&m_lists->rgb, &m_lists->sim, &m_lists->dst}) {
@@ -99,8 +99,8 @@ TEST_F(Requests, AFullListGoesInPiecesAndIsCommittedUnderItsUrl)
         largest = std::max(largest, m_helper.arguments[at].at(1).size());
     }
     EXPECT_TRUE(m_helper.arguments[1].at(1).starts_with("<?xml"));
-    EXPECT_GE(largest, 109'000u); // the lists above really are a hard case
-    EXPECT_LE(largest, 131'071u); // what one argument holds on Linux
+    EXPECT_GE(largest, 109'000u); // the lists above are large enough for the test
+    EXPECT_LE(largest, 131'071u); // the longest argument that Linux allows
 }
 
 TEST_F(Requests, ARefusedPieceOrCommitEndsTheWriteThere)
@@ -164,7 +164,7 @@ TEST_F(Requests, WritingOneClassKeepsTheOtherTwo)
     EXPECT_TRUE(m_helper.requests.empty());
     m_helper.refusedRequest = 1;
     EXPECT_EQ(BVPListWriteProfile_Dict(&changed->dst, kProfileDST, nullptr, nullptr, &out->dst), -1);
-    EXPECT_EQ(bv::fieldText(out->dst.records[0].FileName), "old dst"); // as the file has it: nothing was written
+    EXPECT_EQ(bv::fieldText(out->dst.records[0].FileName), "old dst"); // as in the file: nothing was written
 }
 
 TEST_F(Requests, QuestionsAndOrdersSendTheirArgumentsAfterTheAdminQuestion)
@@ -174,7 +174,7 @@ TEST_F(Requests, QuestionsAndOrdersSendTheirArgumentsAfterTheAdminQuestion)
     {
         std::function<int32_t()> call;
         int32_t result;
-        Words last; // request and arguments of the one behind the admin question; empty: nothing at all is asked
+        Words last; // the request after the admin question, with arguments; empty: no request at all
     };
     const auto swap = [](int32_t code) { return [code] { return BVPListSwapProfile(code), 0; }; };
     const Row rows[] = {
@@ -209,10 +209,10 @@ TEST(Pieces, NeverHoldHalfACharacter)
     using Pieces = std::vector<std::string>;
     EXPECT_EQ(splitCharEvery("", 90000), Pieces());
     EXPECT_EQ(splitCharEvery("äöü", 2), Pieces({"äö", "ü"}));
-    EXPECT_EQ(splitCharEvery("abc😀d", 4), Pieces({"abc", "😀d"})); // the pair would end behind the fourth unit
+    EXPECT_EQ(splitCharEvery("abc😀d", 4), Pieces({"abc", "😀d"})); // the surrogate pair would end after the fourth unit
 }
 
-TEST(Paths, ComeFromTheLoginNameCutToTheirBuffer)
+TEST(Paths, AreMadeFromTheLoginNameAndCutToTheBuffer)
 {
     EXPECT_EQ(bv::profilePathsFor("").current, "");
     const bv::ProfilePaths cut = bv::profilePathsFor(std::string(300, 'l'));
@@ -223,7 +223,7 @@ TEST(Paths, ComeFromTheLoginNameCutToTheirBuffer)
     EXPECT_TRUE(bv::profilePathsFor(std::string(255 - around, 'l')).current.ends_with(".plis"));
 }
 
-// A script in the helper's place, run as a child process.
+// A script in place of the helper, run as a child process.
 TEST(HelperChild, DecidesByTheMarkerAnywhereInItsWholeOutput)
 {
     const TestRoot root;
@@ -240,7 +240,7 @@ TEST(HelperChild, DecidesByTheMarkerAnywhereInItsWholeOutput)
         {"head -c 1000000 /dev/zero | tr '\\0' x; echo bvPListIsAdminProfile_XPC=TRUE", 1},
         {"echo bvPListIsAdminProfile_XPC=TRUE; kill -9 $$", 1},
         {"kill -SEGV $$", 0},
-        {"printf '\\377'; echo bvPListIsAdminProfile_XPC=TRUE", 0}, // no UTF-8, so no answer
+        {"printf '\\377'; echo bvPListIsAdminProfile_XPC=TRUE", 0}, // not UTF-8, so no answer
     };
     for (const Row &row : rows) {
         TestRoot::installHelper(row.script);
@@ -256,7 +256,7 @@ TEST(HelperChild, ThatIsMissingOrCannotRunIsARefusal)
     TestRoot::installHelper("echo bvPListIsAdminProfile_XPC=TRUE");
     const std::filesystem::path helper = bv::mapRootPath(kHelperPath);
     std::filesystem::permissions(helper, std::filesystem::perms(0644));
-    EXPECT_TRUE(bv::helperAvailable()); // a file is there, which is all that is asked
+    EXPECT_TRUE(bv::helperAvailable()); // only the existence of the file counts
     EXPECT_EQ(BVPListIsAdminProfile(), 0);
     const std::string tooLong[] = {std::string(200'000, 'x')};
     std::filesystem::permissions(helper, std::filesystem::perms(0755));
