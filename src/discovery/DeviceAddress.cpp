@@ -1,4 +1,4 @@
-// Kind of connection and host address of a print queue.
+// Finds the kind of connection and the host address of a print queue.
 #include "platform/ClassNames.h"
 
 #include "discovery/DeviceAddress.h"
@@ -20,7 +20,7 @@ struct ProtocolPrefix
     int16_t code;
 };
 
-// Tried in this order, at the beginning of the URI only and as they are written.
+// Compared in this order with the beginning of the URI, case-sensitively.
 // clang-format off
 constexpr ProtocolPrefix kPrefixes[] = {
     {"mdns://",  bv::kProtocolBonjour},
@@ -31,7 +31,7 @@ constexpr ProtocolPrefix kPrefixes[] = {
 };
 // clang-format on
 
-constexpr size_t kHostBytes = 255; // with the NUL that ends it
+constexpr size_t kHostBytes = 255; // including the terminating NUL
 constexpr std::chrono::milliseconds kResolveLimit{1000};
 
 std::nullopt_t noHost(const std::string &reason)
@@ -40,7 +40,7 @@ std::nullopt_t noHost(const std::string &reason)
     return std::nullopt;
 }
 
-// The text in another encoding; nothing when a character has no place in it.
+// Converts the text to another encoding. Nothing when that encoding lacks a character.
 std::optional<std::string> converted(std::string_view text, const char *from, const char *to)
 {
     bv::TextConverter converter(to, from);
@@ -50,7 +50,7 @@ std::optional<std::string> converted(std::string_view text, const char *from, co
     return out;
 }
 
-// The host of an LPD queue: the network location through a buffer of Mac OS Roman text, up to the first ":".
+// The host of an LPD queue: the network location up to the first ":", cut to the buffer's size in Mac OS Roman.
 std::optional<std::string> lpdHost(std::string_view uri)
 {
     const std::optional<std::string> location = bv::networkLocation(uri);
@@ -76,7 +76,7 @@ std::optional<std::string> bonjourHost(std::string_view uri, const bv::ServiceRe
     return bv::dottedAddress(addresses->front());
 }
 
-// The session's device URI; a null string when it has none.
+// The device URI of the session's printer; a null string when there is none.
 QString deviceUri(PMPrintSession session)
 {
     PMPrinter printer = nullptr;
@@ -97,7 +97,7 @@ std::optional<std::string> bv::networkLocation(std::string_view uri)
         return std::nullopt;
     std::string_view authority = uri.substr(mark + kMark.size());
     authority = authority.substr(0, authority.find_first_of("/?#"));
-    authority = authority.substr(authority.rfind('@') + 1); // no "@": npos + 1 is 0
+    authority = authority.substr(authority.rfind('@') + 1); // without "@", npos + 1 is 0
     if (authority.empty())
         return std::nullopt;
     return std::string(authority);
@@ -108,7 +108,7 @@ std::optional<std::string> bv::hostOfUri(std::string_view uri)
     std::optional<std::string> location = networkLocation(uri);
     if (!location)
         return std::nullopt;
-    // An IP literal stands in brackets and holds colons of its own.
+    // An IP literal in brackets contains colons that do not begin a port.
     const size_t end = location->front() == '[' ? location->find(']') : 0;
     location->resize(std::min(location->find(':', end == location->npos ? 0 : end), location->size()));
     if (location->empty())

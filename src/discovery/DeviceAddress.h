@@ -1,4 +1,4 @@
-// From a print queue's device URI to the printer's host: parts of a URI, and the host that a walk is to ask.
+// From a print queue's device URI to the printer's host: parts of a URI, and the host for a walk.
 #pragma once
 
 #include "discovery/ProtocolCodes.h"
@@ -14,17 +14,17 @@
 
 namespace bv {
 
-// The network location of a URI (RFC 3986, 3.2): host and optional port, as they stand, percent escapes too; without
-// user information. Nothing when the URI has no authority or an empty one.
+// The network location of a URI (RFC 3986, 3.2): host and optional port, without user information. Percent escapes are
+// kept. Nothing when the URI has no authority or an empty one.
 std::optional<std::string> networkLocation(std::string_view uri);
 
-// The host alone, percent escapes as they stand.
+// The host alone. Percent escapes are kept. Nothing as for networkLocation.
 std::optional<std::string> hostOfUri(std::string_view uri);
 
-// The text with its percent escapes taken out; nothing when one is broken or the result is not UTF-8 or holds a NUL.
+// Decodes percent escapes. Nothing when an escape is malformed, or the result is not UTF-8 or contains a NUL.
 std::optional<std::string> percentUnescaped(std::string_view text);
 
-// A Bonjour service as a URI's host names it.
+// A Bonjour service, as the host of a URI names it.
 struct ServiceName
 {
     std::string name;
@@ -32,21 +32,21 @@ struct ServiceName
     std::string domain;
 };
 
-// Splits a host at every "."; component 0 is the name, 1 and 2 the type, 3 the domain, whatever follows is left out. A
-// dot inside the name must be escaped, else the components shift. Nothing with fewer than four components.
+// Splits a host at every "."; component 0 is the name, 1 and 2 the type, 3 the domain; the rest is ignored. A dot in
+// the name must be percent-escaped, or the components shift. Nothing when there are fewer than four components.
 std::optional<ServiceName> serviceOfHost(std::string_view host);
 
-// Bytes 4 to 7 of a socket address record as "%d.%d.%d.%d"; of a record that is not IPv4 as well. Nothing for a shorter
-// record.
+// Formats bytes 4 to 7 of a socket address record as "%d.%d.%d.%d". The address family is not checked. Nothing for a
+// shorter record.
 std::optional<std::string> dottedAddress(std::span<const std::byte> record);
 
-// How a service is resolved: resolveService, or what a test puts in its place.
+// Resolves a service. Tests pass their own.
 using ServiceResolver = std::function<std::optional<std::vector<AddressRecord>>(const ServiceName &)>;
 std::optional<std::vector<AddressRecord>> resolveWithinOneSecond(const ServiceName &service);
 
-// The host that the walk of a queue asks, UTF-8: of an LPD queue the network location up to its first ":" and to 254
-// bytes of Mac OS Roman, of a Bonjour queue the dotted address. Nothing for other queues, a host that cannot be had,
-// and one that is empty or begins with "-": the host is data, and no option of the walk. The reason goes to the log.
+// The host (UTF-8) to walk for a queue. LPD: the network location up to its first ":", cut to 254 bytes of Mac OS
+// Roman. Bonjour: the dotted address. Nothing, with the reason in the diagnostic log, for other queues, for a host that
+// cannot be determined, and for one that is empty or begins with "-", which the walk would take for an option.
 std::optional<std::string> walkHost(const QString &deviceUri, const ServiceResolver &resolve = resolveWithinOneSecond);
 
 // The same for the session's current printer.

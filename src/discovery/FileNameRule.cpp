@@ -17,10 +17,10 @@ bool bJudgement8point3Format(std::string_view text)
         return false;
     const size_t dot = text.find('.');
     const size_t stem = dot == text.npos ? text.size() : dot;
-    // The stem may be longer than eight characters, whatever the function's name says.
+    // Despite the function's name, the stem may have up to 27 characters.
     if (stem < 1 || stem > kLongestStem)
         return false;
-    // Everything behind the first dot counts as the extension: "a.b.c" has one of three characters.
+    // Everything after the first dot counts as the extension: that of "a.b.c" has three characters.
     if (dot != text.npos && text.size() - dot - 1 > kLongestExtension)
         return false;
     return std::all_of(text.begin(), text.end(), FileNameFilter);
@@ -28,7 +28,7 @@ bool bJudgement8point3Format(std::string_view text)
 
 bool FileNameFilter(char character)
 {
-    // By hand and not by isalnum(3): the rule does not change with the locale.
+    // Not isalnum(3), because the rule must not depend on the locale.
     return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z') ||
            (character >= '0' && character <= '9') || kPunctuation.find(character) != kPunctuation.npos;
 }

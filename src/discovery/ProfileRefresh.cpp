@@ -1,4 +1,4 @@
-// Brings the stored profile list up to date: has the helper walk the printer that the session prints to.
+// Brings the stored profile lists up to date: has the helper walk the session's printer.
 #include "platform/ClassNames.h"
 
 #include "common/PDECommon.h"
@@ -16,7 +16,7 @@ namespace {
 
 constexpr int32_t kSwapToPrevious = 2;
 
-// The request's words: model, login name, and the walk's own words from its program name to the table's entry.
+// The arguments of the request: model, login name, and the words of the walk with the host filled in.
 std::vector<std::string> walkRequest(const std::string &host)
 {
     std::vector<std::string> words = {std::string(bv::kWalkModel), bv::loginName()};
@@ -25,7 +25,7 @@ std::vector<std::string> walkRequest(const std::string &host)
     return words;
 }
 
-// The walk's result in the helper's answer, 0 when no number stands behind the mark; nothing without a mark.
+// The status of the walk in the helper's answer; 0 when no number follows the mark. Nothing without a mark.
 std::optional<int32_t> walkResult(const std::optional<std::string> &answer)
 {
     const auto number = bv::behindMark(answer, bv::kWalkRequest, bv::kWalkMark);
@@ -52,7 +52,7 @@ int32_t PDECommon::commonGetProfilesFromMIB(PMPrintSession session)
         return 0; // the reason is in the log
     if (!bv::helperAvailable())
         return refreshed("no helper");
-    // Nobody is told how the walk went: the list file is the result, and a failed walk has done its work on it too.
+    // The status of the walk goes to the log only. Its result is the list file, which a failed walk updates too.
     const std::optional<int32_t> result = walkResult(bv::runHelper(bv::kWalkRequest, walkRequest(*host)));
     return refreshed(result ? "the walk ended with " + std::to_string(*result) : "the helper gave no result");
 }

@@ -12,7 +12,7 @@ namespace {
 using Number = int32_t ProfileRecord::*;
 using Text = char (ProfileRecord::*)[kProfileTextBytes];
 
-// A kept column: its values are integers or texts, as its field is; the other member is null.
+// A kept column and its field in the record. Of `number` and `text`, one is null, depending on the type of the values.
 struct Column
 {
     const bv::ColumnOid &id;
@@ -33,9 +33,9 @@ constexpr Column kColumns[] = {
 };
 // clang-format on
 
-// Copies a text up to its first zero byte, cut at the field's 32 bytes and without a terminator of its own: the field
-// was zeroed with the spool. A shorter text that comes later for the same cell leaves the old tail: stored
-// lists hold names that came about so, and the comparison over all 32 bytes has to find them again.
+// Copies a text up to its first NUL, cut at the field's 32 bytes. No NUL is added: the field was zeroed with the spool.
+// A shorter text that comes later for the same cell keeps the tail of the older one. This is intended: stored lists
+// hold such names, and the comparison over all 32 bytes must find them again.
 void storeText(char (&field)[kProfileTextBytes], std::span<const u_char> value)
 {
     value = value.first(std::min(value.size(), kProfileTextBytes));
@@ -65,8 +65,8 @@ void vSpoolPlist(const oid *name, size_t length, const netsnmp_variable_list *va
         storeText(record.*column->text, {variable->val.string, variable->val_len});
     } else if (column->number && variable->type == ASN_INTEGER && variable->val.integer) {
         record.*column->number = static_cast<int32_t>(*variable->val.integer);
-        // A second value for the same row counts too: the reconciliation looks at so many rows, and passes over one too
-        // many, which has no name.
+        // A second value for the same row counts too. The reconciliation then looks at one row too many and skips it,
+        // because it has no name.
         if (column->countsRow)
             ++PlistForSpool.count;
     }

@@ -1,5 +1,5 @@
-// The spool: what a walk of the printer's profile table has brought, row by row, and the columns that it keeps.
-// Process globals without locks: one walk at a time, on one thread.
+// The spool: the rows that a walk of the printer's profile table found, and the columns that it keeps. These are
+// process globals without locks: run one walk at a time, on one thread.
 #pragma once
 
 #include "profiles/ProfileList.h"
@@ -14,7 +14,7 @@
 
 namespace bv {
 
-// The entry of the profile table; a column has one sub-identifier more, an instance two indexes behind that.
+// The entry of the profile table; a column has one more sub-identifier, an instance two more after that.
 inline constexpr std::array<oid, 15> kProfileEntryOid = {1, 3, 6, 1, 4, 1, 39847, 1, 1, 1, 1, 6, 13, 1, 1};
 inline constexpr size_t kColumnOidLength = kProfileEntryOid.size() + 1;
 inline constexpr size_t kInstanceOidLength = kColumnOidLength + 2;
@@ -40,14 +40,14 @@ inline constexpr bv::ColumnOid iOidFileName = bv::columnOid(4);
 inline constexpr bv::ColumnOid iOidProfileClass = bv::columnOid(5);
 inline constexpr bv::ColumnOid iOidProfileAvailability = bv::columnOid(7);
 
-// The rows of the latest walk, zeroed at its start. The count is the number of column-1 values stored: it can pass 500
-// when the printer sends one for a row twice, so readers stop at the last slot.
+// The rows of the latest walk, zeroed at its start. The count is the number of column-1 values stored. It can exceed
+// 500 when the printer sends a row twice, so readers must stop at the last slot.
 extern ProfileList PlistForSpool;
 
-// Variables taken from the table's subtree since the process started. Never reset, not even between walks.
+// Number of variables received from the table's subtree since the process started. Not reset between walks.
 extern int32_t numprinted;
 
-// With `clear` 1 zeroes the whole spool. Otherwise stores the value of an instance (its `length` sub-identifiers at
-// `name`) in the slot that its eighteenth sub-identifier, from 1 to 500, names. Ignored: other columns, values of
-// another type than the column's, rows out of range, identifiers that are too short for an instance.
+// If `clear` is 1, zeroes the whole spool. Otherwise stores the value of an instance in the slot given by its
+// eighteenth sub-identifier (1 to 500). `name` points to `length` sub-identifiers. Ignored are other columns, values of
+// the wrong type, rows out of range, and identifiers too short for an instance.
 void vSpoolPlist(const oid *name, size_t length, const netsnmp_variable_list *variable, int32_t clear);

@@ -1,4 +1,4 @@
-// The walk loop: GETNEXT from the root of the table on, until the table or the patience ends.
+// The walk loop: sends GETNEXT from the root of the table on, until the table ends or a limit is reached.
 #include "discovery/ProfileWalk.h"
 
 #include "discovery/ProfileSpool.h"
@@ -22,7 +22,7 @@ using Clock = std::chrono::steady_clock;
 using std::chrono::microseconds;
 
 constexpr char kProgram[] = "snmpwalk";
-// The root of a walk that names none: the system's standard objects.
+// Root of a walk whose words name none: the standard objects (mib-2).
 constexpr oid kDefaultRoot[] = {1, 3, 6, 1, 2, 1};
 
 constexpr int32_t kWalked = 0;
@@ -32,8 +32,8 @@ constexpr int32_t kDeviceError = 2;
 struct WalkOption
 {
     const char *name; // in the library's configuration files
-    int slot;         // in its store, under the application's identifier
-    char letter;      // behind "-C"
+    int slot;         // in the library's store, under the application's identifier
+    char letter;      // in the option "-C"
 };
 
 // clang-format off
@@ -76,7 +76,7 @@ struct Identifier
     }
 };
 
-// Sends one request for a name and waits; the library's status of it.
+// Sends one request for a name and waits for the answer. Returns the library's status.
 int request(netsnmp_session *session, int type, const oid *name, size_t length, Answer *answer)
 {
     netsnmp_pdu *pdu = snmp_pdu_create(type);
@@ -94,8 +94,8 @@ bool isException(u_char type)
     return type == SNMP_NOSUCHOBJECT || type == SNMP_NOSUCHINSTANCE || type == SNMP_ENDOFMIBVIEW;
 }
 
-// The storage of an identifier taken as text. The message about the order shows just that, so of most identifiers only
-// the first number as one byte. Support looks for the message by that text.
+// Reads the storage of an identifier as text; of most identifiers that is only the first number, as one byte. The
+// message about the order shows it this way on purpose: support searches for that text.
 std::string storageText(const Identifier &name)
 {
     std::array<char, 256> text{};
@@ -124,7 +124,7 @@ public:
     }
 
 private:
-    // Fits the next request's tries into the time that is left; false when none is.
+    // Fits the time-out and retries of the next request into the remaining time. False when no time is left.
     bool patience()
     {
         const long left = std::chrono::duration_cast<microseconds>(m_deadline - Clock::now()).count();
@@ -157,7 +157,7 @@ private:
             snmp_sess_perror(kProgram, m_session);
             stop(kNotWalked, "the request failed");
         } else if (answer->errstat == SNMP_ERR_NOSUCHNAME) {
-            m_running = false; // the end of everything that the printer has (RFC 1157, 4.1.3)
+            m_running = false; // the printer has no further variables (RFC 1157, 4.1.3)
         } else if (answer->errstat != SNMP_ERR_NOERROR) {
             stop(kDeviceError, "the printer answers with error " + std::to_string(answer->errstat));
         } else {
@@ -165,7 +165,7 @@ private:
         }
     }
 
-    // An answer without any variable is taken as the end of the table: asking again would bring it again.
+    // An answer without any variable counts as the end of the table: another request would bring the same answer.
     void take(const netsnmp_pdu &answer, bool checkOrder)
     {
         bool more = false;
@@ -200,14 +200,14 @@ private:
     Identifier m_name;
     int m_answersLeft;
     const Clock::time_point m_deadline;
-    const long m_timeout; // one try, in microseconds
+    const long m_timeout; // of one try, in microseconds
     const int m_retries;
     int m_lastRequest = STAT_SUCCESS;
     int32_t m_status = kWalked;
     bool m_running = true;
 };
 
-// The root that the words name; false, with the reason reported, when they name none that parses.
+// Parses the root that the words name. False, with the reason reported, when it does not parse.
 bool parseRoot(int argc, char **argv, int index, Identifier *root)
 {
     if (index >= argc) {
@@ -227,7 +227,7 @@ int32_t walk(int argc, char **argv, const bv::WalkLimits &limits)
         netsnmp_ds_register_config(ASN_BOOLEAN, kProgram, option.name, NETSNMP_DS_APPLICATION_ID, option.slot);
     vSpoolPlist(nullptr, 0, nullptr, 1);
 
-    // Kept: the parser allots texts for it that the library has no call to free.
+    // Static: the parser allocates texts for it that the library offers no function to free.
     static netsnmp_session parsed;
     const int index = snmp_parse_args(argc, argv, &parsed, "C:", optProc);
     if (index < 0) {
@@ -286,7 +286,7 @@ int32_t bv::walkProfileTable(int32_t argc, char **argv, const WalkLimits &limits
 {
     prepareSnmpEnvironment();
     const int32_t status = walk(argc, argv, limits);
-    // What the library printed must not come after what the caller prints, by whatever way.
+    // Flush, so that the library's output comes before anything that the caller prints.
     std::fflush(stdout);
     vRestructPlistSpool2Current(status < 0 ? kNotWalked : status);
     return status;

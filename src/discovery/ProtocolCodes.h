@@ -9,9 +9,9 @@ inline constexpr int16_t kProtocolLpd = 0;
 inline constexpr int16_t kProtocolBonjour = 1;
 inline constexpr int16_t kProtocolAppleTalk = 2;
 inline constexpr int16_t kProtocolUsb = 3;
-inline constexpr int16_t kProtocolUnknown = -1; // any other, and a session without printer or device URI
+inline constexpr int16_t kProtocolUnknown = -1; // any other connection, or no printer or device URI
 
-// Whether the printer hangs on this computer as the management window sees it: no walk ever asks it for its profiles.
+// Whether the management window treats the printer as local. Local printers are not walked.
 constexpr bool isLocalProtocol(int32_t code)
 {
     return code == kProtocolAppleTalk || code == kProtocolUsb;

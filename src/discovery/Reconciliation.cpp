@@ -19,18 +19,18 @@ struct StateChange
 };
 
 // clang-format off
-// The printer answered: nothing counts as found before its rows are merged.
+// After a good walk: profiles count as missing until the walk's rows are merged.
 constexpr StateChange kAnsweredChanges[] = {
     {bv::kOnPrinter,       bv::kMissing},
     {bv::kOnPrinterInMenu, bv::kMissingInMenu},
 };
-// It did not: what is in the menus becomes the user's own, the rest goes.
+// After a failed walk: profiles in the menus become the user's own, the others are removed.
 constexpr StateChange kFailedChanges[] = {
     {bv::kMissing,         bv::kFreeSlot},
     {bv::kOnPrinter,       bv::kFreeSlot},
     {bv::kOnPrinterInMenu, bv::kOwnInMenu},
 };
-// The printer reports a profile that the list knows.
+// The walk found a profile that is in the list.
 constexpr StateChange kMatchChanges[] = {
     {bv::kMissing,       bv::kOnPrinter},
     {bv::kOwn,           bv::kOnPrinter},
@@ -49,19 +49,19 @@ void changeState(ProfileRecord *record, std::span<const StateChange> changes)
     }
 }
 
-// Slots that a count covers: counts are kept as they fall, below 0 or above 500 too.
+// The number of slots that a count covers. Counts are not corrected: they can be below 0 or above 500.
 int32_t coveredSlots(int32_t count)
 {
     return std::clamp(count, 0, kProfileSlots);
 }
 
-// The same file on the same storage. The texts are compared over all 32 bytes, behind a NUL too.
+// The same file on the same storage. All 32 bytes of the names are compared, also those after a NUL.
 bool sameFile(const ProfileRecord &left, const ProfileRecord &right)
 {
     return std::memcmp(left.FileName, right.FileName, kProfileTextBytes) == 0 && left.Location == right.Location;
 }
 
-// Removes a record whose file name the printer would not take; whether it did.
+// Removes the record if its file name breaks the printer's rule. Returns whether it did.
 bool removeMisnamed(ProfileList *list, int32_t slot)
 {
     ProfileRecord &record = list->records[slot];
@@ -109,7 +109,7 @@ void vRestructDetail(int32_t row, ProfileList *list)
     ProfileRecord *const match = std::find_if(
         list->records, end, [&reported](const ProfileRecord &record) { return sameFile(record, reported); });
     if (match != end) {
-        // Only the state changes: the printer's other columns are not copied onto a known profile.
+        // Only the state changes: a known profile keeps its other fields.
         changeState(match, kMatchChanges);
         return;
     }
@@ -136,7 +136,8 @@ int32_t vRestructPlistSpool2Current(int32_t status)
         for (ProfileList *list : all)
             removed |= removeMisnamed(list, slot);
     }
-    // The other two lists keep their gaps, and the rows merged below fill them: users know the menus in that order.
+    // The other two lists keep their gaps on purpose. The rows merged below fill them: users are used to that order in
+    // the menus.
     if (removed)
         BVPListPaddingProfile_Dict(&lists.rgb);
 

@@ -1,4 +1,4 @@
-// Takes out of the environment what the SNMP library would read with plain getenv(3), set-id process or not.
+// Removes variables from the environment that the SNMP library reads with getenv(3), even in a set-id process.
 #include "discovery/SnmpEnvironment.h"
 
 #include <cstdlib>
@@ -12,13 +12,13 @@ namespace {
 struct Variable
 {
     const char *name;
-    const char *value; // what it is set to; null: it is removed
-    bool callersOwn;   // left as it is in a process that runs with its caller's rights
+    const char *value; // new value; null: the variable is removed
+    bool callersOwn;   // unchanged in a process with its caller's rights
 };
 
-// All variables that the library reads: snmp_config(5), netsnmp_config_api(3), netsnmp_mib_api(3).
-// Empty is not the same as removed: with empty MIB variables no MIB is loaded and no folder is searched for one. The
-// persistent folder is one that cannot exist, so the library makes none (as root it would) and finds nothing in it.
+// All variables that the library reads: snmp_config(5), netsnmp_config_api(3), netsnmp_mib_api(3). Empty is not the
+// same as removed: with empty MIB variables the library loads no MIB and searches no folder. The persistent folder is
+// one that cannot exist, so the library cannot create it (as root it would) and finds nothing in it.
 // clang-format off
 constexpr Variable kVariables[] = {
     // name                  value        the caller's own

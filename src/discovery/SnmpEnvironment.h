@@ -1,10 +1,11 @@
-// What of the environment reaches the SNMP library.
+// Controls which environment variables reach the SNMP library.
 #pragma once
 
 namespace bv {
 
-// Sets the environment for the SNMP library, before its first call: no MIB files, names or prefixes, no persistent
-// folder. In a process whose real and effective ids differ, none of the variables that lead to configuration either.
+// Prepares the environment for the SNMP library; call it before the first call of the library. Afterwards the library
+// loads no MIB files and uses no prefix and no persistent folder. If real and effective ids differ, the variables that
+// lead to configuration files are removed too.
 void prepareSnmpEnvironment();
 
 } // namespace bv

@@ -8,17 +8,18 @@
 namespace bv {
 
 inline constexpr std::string_view kWalkModel = "QL70";
-// Stands in the table for the one word that differs from printer to printer.
+// Placeholder for the host, the only word that differs between printers.
 inline constexpr std::string_view kAnyHost;
 
-// The words as snmpwalk(1) would take them, its name included; the last one is the root of the printer's profile table.
+// The words of a walk as snmpwalk(1) takes them, starting with its name. The last one is the root of the printer's
+// profile table.
 // clang-format off
 inline constexpr std::array<std::string_view, 8> kWalkWords = {
     "snmpwalk", "-Os", "-c", "mirror", "-v", "1", kAnyHost, "1.3.6.1.4.1.39847.1.1.1.1.6.13.1.1",
 };
 // clang-format on
 
-// Where the words begin in the request: behind the model and the login name.
+// Position of the first word in the request, after the model and the login name.
 inline constexpr size_t kWalkWordsBegin = 2;
 inline constexpr size_t kWalkArguments = kWalkWordsBegin + kWalkWords.size();
 

@@ -1,4 +1,4 @@
-// Kind of connection and host of a queue, from URIs plain and odd.
+// Kind of connection and host of a queue, from ordinary and odd URIs.
 #include "platform/ClassNames.h"
 
 #include "discovery/DeviceAddress.h"
@@ -64,10 +64,10 @@ TEST(DeviceAddress, HostOfAnLpdQueue)
         {"lpd:///q", std::nullopt},
         {"lpd://", std::nullopt},
         {"lpd://:515/q", std::nullopt},
-        {"lpd://-Lfname/q", std::nullopt}, // the host is data and no option
+        {"lpd://-Lfname/q", std::nullopt}, // must not become an option of the walk
         {"lpd://" + long300 + "/q", long300.substr(0, 254)},
         {"lpd://drück:515/q", "drück"},
-        {"lpd://プリンタ/q", std::nullopt}, // no Mac OS Roman text
+        {"lpd://プリンタ/q", std::nullopt}, // not in Mac OS Roman
         {"lpd://" + std::string(253, 'a') + "éb/q", std::string(253, 'a') + "é"},
         {"usb://BREVANE/QL70", std::nullopt},
         {"ipp://printer/ipp", std::nullopt},
@@ -81,13 +81,13 @@ TEST(DeviceAddress, ServiceOfABonjourQueue)
     struct Case
     {
         const char *uri;
-        std::optional<std::string> service; // name|type|domain, nothing: not even tried
+        std::optional<std::string> service; // name|type|domain; nothing: no service is resolved
     };
     const Case cases[] = {
         {"dnssd://QL70._pdl-datastream._tcp.local./?uuid=1", "QL70|_pdl-datastream._tcp|local"},
         {"dnssd://QL%2070%20%28%C3%A9%29%20lab._printer._tcp.local./", "QL 70 (é) lab|_printer._tcp|local"},
         {"dnssd://QL%2e70._printer._tcp.local./", "QL.70|_printer._tcp|local"},
-        {"dnssd://QL.70._printer._tcp.local./", "QL|70._printer|_tcp"}, // the components fall as they may
+        {"dnssd://QL.70._printer._tcp.local./", "QL|70._printer|_tcp"}, // an unescaped dot shifts the components
         {"dnssd://QL70._printer._tcp.local.:9100/", "QL70|_printer._tcp|local"},
         {"dnssd://100%25._printer._tcp.example.com/", "100%|_printer._tcp|example"},
         {"dnssd://x._printer._t%63p.local./", "x|_printer._t%63p|local"}, // only the name is unescaped

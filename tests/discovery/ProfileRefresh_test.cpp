@@ -1,4 +1,4 @@
-// The refresh: what the helper is asked, and the whole way from a queue to the list file.
+// The refresh: the requests to the helper, and the complete way from a queue to the list file.
 #include "platform/ClassNames.h"
 
 #include "common/PDECommon.h"
@@ -24,7 +24,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-// Answers every request and keeps it.
+// Answers every request and records it.
 class RecordingHelper : public bv::HelperTransport
 {
 public:
@@ -52,7 +52,7 @@ private:
     bv::HelperTransport *m_before;
 };
 
-// What the diagnostic log says about a refresh of a queue.
+// The lines of the diagnostic log for a refresh of a queue.
 std::string logOfRefresh(const char *uri)
 {
     setenv("BVCO_LOG", "stderr", 1);
@@ -137,7 +137,7 @@ protected:
     bvtest::ListRoot m_root;
 };
 
-TEST_F(WholeRefresh, TheListFollowsThePrinter)
+TEST_F(WholeRefresh, UpdatesTheListFromThePrinter)
 {
     const std::string list = m_root.write("list", "1 disk ONE.ICC One 1 1\n2 disk TWO.ICC Two 1 1\n");
     bvtest::ProgramUnderTest printer({BV_BUILD_DIR "/bin/ql70sim", "--port", "0", "--profiles", list});
@@ -156,7 +156,7 @@ TEST_F(WholeRefresh, TheListFollowsThePrinter)
     EXPECT_THAT(rgbList(), ElementsAre("ONE.ICC=1", "TWO.ICC=2", "THREE.ICC=2"));
     EXPECT_EQ(bvtest::TestRoot::readFile(previousFile()), first);
 
-    refresh(QString(80, QLatin1Char('h'))); // a name that cannot resolve, so nobody is waited for
+    refresh(QString(80, QLatin1Char('h'))); // a host name too long to resolve, so the test need not wait
     EXPECT_THAT(rgbList(), IsEmpty()) << "profiles that nobody put into a menu go when the printer does not answer";
 }
 

@@ -1,4 +1,4 @@
-// The spool's storing rules, cell by cell.
+// Which values the spool stores, and where.
 #include "discovery/ProfileSpool.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// The walk against the simulated printer with every fault, and against an agent on another SNMP stack.
+// The walk of the simulated printer with every fault, and of an agent with another SNMP implementation.
 #include "support/ProgramUnderTest.h"
 
 #include "discovery/ProfileSpool.h"
@@ -19,7 +19,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-// Called in place of the walk's trace hook, see the link options.
+// Replaces the walk's trace hook through the link options.
 extern "C" void __wrap__Z14MyDebugMessagePKcj(const char *message, uint32_t level);
 
 namespace {
@@ -41,7 +41,7 @@ struct Walks
     bv::WalkLimits limits = {};
 };
 
-// What the walks of a process left there.
+// The state that the walks of a process leave behind.
 struct Walked
 {
     std::array<int32_t, 3> statuses;
@@ -61,7 +61,7 @@ struct Walked
     }
 };
 
-// A process of its own for walks: the library and the walk keep things for as long as a process lives.
+// Runs walks in a process of their own, because the library and the walk keep state for the life of a process.
 class Walker
 {
 public:
@@ -79,7 +79,7 @@ public:
     Walker &operator=(const Walker &) = delete;
     ~Walker() { munmap(m_walked, sizeof(Walked)); }
 
-    // Waits for the end.
+    // Waits until the process ends.
     Walked result() const
     {
         int status = -1;
@@ -120,8 +120,8 @@ Walked walked(const Walks &walks)
 class ProfileWalk : public testing::Test
 {
 protected:
-    // One time-out of one second where an agent does not answer, and nothing from the machine's own configuration.
-    // There is no helper in this root, so no list is written.
+    // One try of one second for an agent that does not answer, and no configuration of the machine. This root has no
+    // helper, so no list is written.
     ProfileWalk()
     {
         m_folder.write("snmp.conf", "timeout 1\nretries 0\n");
@@ -143,7 +143,7 @@ public:
         EXPECT_TRUE(m_program.waitFor("\n"));
     }
     std::string host() const { return "127.0.0.1:" + std::to_string(m_program.numberBehind(" port ")); }
-    // Ends it; the number of requests that it got.
+    // Ends the agent and returns the number of requests that it received.
     long requests()
     {
         EXPECT_EQ(m_program.stop(), 0) << m_program.output();
@@ -211,12 +211,12 @@ constexpr FaultCase kFaultCases[] = {
 };
 // clang-format on
 
-TEST_F(ProfileWalk, EndsAsItShouldWithEveryFault)
+TEST_F(ProfileWalk, EndsWithTheRightStatusForEveryFault)
 {
-    // All at once, since some wait a second for an answer.
+    // Run at once, since some walks wait a second for an answer.
     std::vector<std::unique_ptr<Simulator>> printers;
     std::vector<std::unique_ptr<Walker>> walkers;
-    std::set<std::string> tried = {"silent", "slow"}; // in tests of their own
+    std::set<std::string> tried = {"silent", "slow"}; // have tests of their own
     for (const FaultCase &row : kFaultCases) {
         tried.insert(row.fault);
         printers.push_back(std::make_unique<Simulator>(row.fault));
@@ -238,7 +238,7 @@ TEST_F(ProfileWalk, EndsAsItShouldWithEveryFault)
         EXPECT_TRUE(tried.contains(fault.name)) << fault.name;
 }
 
-TEST_F(ProfileWalk, ASlowPrinterIsLeftAfterTheTimeLimit)
+TEST_F(ProfileWalk, ASlowPrinterIsGivenUpAfterTheTimeLimit)
 {
     Simulator simulator("slow");
     EXPECT_EQ(walked({.hosts = {simulator.host()}, .limits = {.time = milliseconds(350)}}).statuses[0], 1);
@@ -247,7 +247,7 @@ TEST_F(ProfileWalk, ASlowPrinterIsLeftAfterTheTimeLimit)
 
 TEST_F(ProfileWalk, TheTriesOfARequestFitIntoTheTimeThatIsLeft)
 {
-    // With ten minutes for each try only the limit can end this within the test's own limit.
+    // Each try may take ten minutes, so only the limit can end the walk before the test times out.
     m_folder.write("snmp.conf", "timeout 600\nretries 5\n");
     Simulator once("silent");
     EXPECT_EQ(walked({.hosts = {once.host()}, .limits = {.time = milliseconds(100)}}).statuses[0], 1);
@@ -259,7 +259,7 @@ TEST_F(ProfileWalk, TheTriesOfARequestFitIntoTheTimeThatIsLeft)
     EXPECT_EQ(twice.requests(), 2);
 }
 
-TEST_F(ProfileWalk, TheNumberOfVariablesOutlivesAWalk)
+TEST_F(ProfileWalk, TheNumberOfVariablesIsKeptBetweenWalks)
 {
     Simulator full;
     Simulator empty("no-such-name");
@@ -302,11 +302,11 @@ TEST_F(ProfileWalk, TheRootsOwnValueIsPrintedWhenNothingLiesBelowIt)
     EXPECT_EQ(left.variables, 1);
 }
 
-TEST_F(ProfileWalk, WordsAndHostsThatDoNotWork)
+TEST_F(ProfileWalk, RefusesBadWordsAndHosts)
 {
     EXPECT_EQ(walked({.hosts = {"127.0.0.1"}, .root = "no such object"}).statuses[0], 1);
     EXPECT_LT(walked({.hosts = {"127.0.0.1"}, .options = {"-v9"}}).statuses[0], 0);
-    // A label of a host name has at most 63 bytes (RFC 1035, 2.3.4), so this one is refused before anyone is asked.
+    // A label of a host name has at most 63 bytes (RFC 1035, 2.3.4), so this name is refused without a look-up.
     EXPECT_EQ(walked({.hosts = {std::string(80, 'h')}}).statuses[0], 1);
     EXPECT_EQ(walked({.hosts = {"[fe80"}}).statuses[0], 1);
 }
@@ -326,13 +326,13 @@ TEST_F(ProfileWalk, TheEnvironmentBringsNoMibsAndNoPrefix)
     EXPECT_EQ(left.spool.count, 7);
     EXPECT_NE(access(m_folder.file("persistent").c_str(), F_OK), 0);
 
-    bv::prepareSnmpEnvironment(); // in this process, where it can be looked at
+    bv::prepareSnmpEnvironment(); // in this process, so that the test can inspect it
     for (const char *name : {"MIBFILES", "PREFIX", "SNMP_PERSISTENT_FILE"})
         EXPECT_EQ(getenv(name), nullptr) << name;
     EXPECT_EQ(getenv("SNMPCONFPATH"), m_folder.path()) << "the caller's own settings stay";
 }
 
-// ---- An agent of another maker ----
+// ---- An agent with another SNMP implementation ----
 
 struct ReplyCase
 {
@@ -343,7 +343,7 @@ struct ReplyCase
     int requests;
 };
 
-// 21 cells in the table, the 12th and the following are broken; the library waits for a right answer meanwhile.
+// The table has 21 cells. Replies are broken from the 12th on, and the library keeps waiting for a correct one.
 // clang-format off
 constexpr ReplyCase kReplyCases[] = {
     {"plain",           0, 3, 21, 22},
@@ -357,12 +357,12 @@ constexpr ReplyCase kReplyCases[] = {
 };
 // clang-format on
 
-TEST_F(ProfileWalk, TakesOrLeavesEveryReplyOfAnotherAgent)
+TEST_F(ProfileWalk, HandlesEveryReplyOfAnotherAgent)
 {
     ProgramUnderTest agent({"/usr/bin/python3", BV_SOURCE_DIR "/tests/support/pysnmp_agent.py"});
     ASSERT_TRUE(agent.waitFor("ready ") && agent.waitFor("\n")) << agent.output();
     const std::string host = "127.0.0.1:" + std::to_string(agent.numberBehind("ready "));
-    // All at once; the community says how the agent is to behave.
+    // Run at once; the community selects the agent's behavior.
     std::vector<std::unique_ptr<Walker>> walkers;
     for (const ReplyCase &row : kReplyCases)
         walkers.push_back(std::make_unique<Walker>(Walks{.hosts = {host}, .community = row.mode}));

@@ -1,4 +1,4 @@
-// The merge of a walk's rows into the stored lists, on list files of the test's own.
+// The merge of a walk's rows into the stored lists, on the test's own list files.
 #include "discovery/Reconciliation.h"
 
 #include "support/ListRoot.h"
@@ -52,7 +52,7 @@ std::vector<std::string> shown(const ProfileList &list)
 
 // ---- One list in memory ----
 
-TEST(Reconciliation, WhatDoesNotMatchIsAddedInTheFirstFreeSlot)
+TEST(Reconciliation, RowsWithoutAMatchGoIntoTheFirstFreeSlot)
 {
     const auto list = std::make_unique<ProfileList>();
     fill(list.get(), {record(1, 1, "A.ICC"), record(0, 0, ""), record(2, 5, "B.ICC")});
@@ -72,7 +72,7 @@ TEST(Reconciliation, NamesAreComparedOverTheWholeField)
 {
     const auto list = std::make_unique<ProfileList>();
     fill(list.get(), {record(1, 1, "A.ICC")});
-    list->records[0].FileName[20] = 'x'; // behind the NUL
+    list->records[0].FileName[20] = 'x'; // after the NUL
     spoolRows({record(2, 0, "A.ICC")});
     vRestructDetail(0, list.get());
     EXPECT_THAT(shown(*list), ElementsAre("A.ICC/4=1", "A.ICC/4=2"));
@@ -118,7 +118,7 @@ protected:
     std::unique_ptr<Lists> m_stored = std::make_unique<Lists>();
 };
 
-TEST_F(ReconciliationOfFile, AGoodWalkMarksWhatIsThereAndWhatIsNot)
+TEST_F(ReconciliationOfFile, AGoodWalkMarksFoundAndMissingProfiles)
 {
     fill(&m_stored->rgb,
          {record(1, 1, "NOT1.ICC"), record(2, 2, "NOT2.ICC"), record(3, 4, "NOT4.ICC"), record(4, 6, "USER.ICC"),
@@ -158,12 +158,12 @@ TEST_F(ReconciliationOfFile, EachListDecidesForItself)
     EXPECT_THAT(shown(lists->dst), ElementsAre("BOTH.ICC/4=2"));
 }
 
-TEST_F(ReconciliationOfFile, RowsThatAreNotKept)
+TEST_F(ReconciliationOfFile, SkipsUnacceptableRows)
 {
     spoolRows({record(1, 0, "X.ICC", 3), record(2, 0, "X.ICC", 6), record(3, 0, "X.ICC", kLocationDisk, 0),
                record(4, 0, "X.ICC", kLocationDisk, 4), record(5, 0, "bad name.icc"), record(6, 0, ""),
                record(7, 0, "LONG.ICC8")});
-    // A name of 32 bytes has no NUL in its field; it is too long for the rule.
+    // A name of 32 bytes has no NUL in its field, and is longer than the rule allows.
     std::fill_n(PlistForSpool.records[5].FileName, kProfileTextBytes, 'L');
     PlistForSpool.count = 100000;
     const auto lists = reconciled(0);
@@ -172,8 +172,8 @@ TEST_F(ReconciliationOfFile, RowsThatAreNotKept)
     EXPECT_THAT(shown(lists->dst), IsEmpty());
 }
 
-// A record with a name that the rule refuses leaves a hole. In the RGB list the hole is closed before the merge; in the
-// other lists it stays, the count covers one slot less, and the last record is not found again.
+// Removing a record with an unacceptable name leaves a gap. The RGB list is packed before the merge. The other lists
+// keep the gap, so their count covers one slot less and the last record is not found.
 TEST_F(ReconciliationOfFile, OnlyTheRgbListIsPackedBeforeTheMerge)
 {
     const ProfileRecord last = record(2, 4, "LAST.ICC", kLocationDisk, 3);

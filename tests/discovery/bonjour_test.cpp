@@ -1,5 +1,5 @@
-// Bonjour for real: publishes services by the Avahi daemon of this network namespace, resolves them, and walks a
-// printer that one of them names. To be run by in_bonjour_namespace.sh.
+// Publishes Bonjour services with the Avahi daemon of this network namespace, resolves them, and walks a printer that
+// one of them names. Run by in_bonjour_namespace.sh.
 #include "platform/ClassNames.h"
 
 #include "common/PDECommon.h"
@@ -38,7 +38,7 @@ private:
     ProgramUnderTest m_program;
 };
 
-// A URI as the print server writes it: all that is no letter or digit of the name is escaped, dots too.
+// A URI as the print server writes it: everything in the name except letters and digits is escaped, dots included.
 QString uriOf(const std::string &name)
 {
     QByteArray host = QUrl::toPercentEncoding(QString::fromStdString(name));
@@ -54,7 +54,7 @@ TEST(Bonjour, ResolvesNamesOfEveryKind)
     }
 }
 
-TEST(Bonjour, ANameThatIsNotThereEndsAtTheLimit)
+TEST(Bonjour, AnUnknownNameEndsAtTheTimeLimit)
 {
     const auto begin = std::chrono::steady_clock::now();
     EXPECT_EQ(bv::walkHost(uriOf("nobody")), std::nullopt);
@@ -66,7 +66,7 @@ TEST(Bonjour, ANameThatIsNotThereEndsAtTheLimit)
 TEST(Bonjour, TheRefreshReachesThePrinterBehindTheName)
 {
     const bvtest::ListRoot root;
-    root.write("snmp/snmp.conf", ""); // the library's own port: here it may be opened
+    root.write("snmp/snmp.conf", ""); // use the standard port, which this namespace may open
     setenv("SNMPCONFPATH", root.file("snmp").c_str(), 1);
     ProgramUnderTest printer({BV_BUILD_DIR "/bin/ql70sim", "--port", "161", "--address", kAddress, "--count"});
     ASSERT_TRUE(printer.waitFor("ready on")) << printer.output();
