@@ -14,7 +14,7 @@ public:
 
     // Appends the keyword of every row, empty ones included.
     void createPPDKeyNSArray(QStringList *array) const;
-    // Index of the selected Quick Color, -1 for none, cut to 16 bits; 3 is the free choice.
+    // Index of the selected Quick Color as a 16-bit number. -1: none is selected; 3: the free choice.
     int32_t getQuickColorValue() const;
     // State of the Economy check box: 0 or 1.
     int32_t getEconoModeValue() const;

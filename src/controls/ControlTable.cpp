@@ -9,7 +9,8 @@
 
 namespace {
 
-// The joined table counts rows by kind, unlike every other walker: rows without a control are copied too.
+// Counts the rows up to the first end record. Other functions stop at the first row without a control. Joining does
+// not: it copies such rows too, and this is intended.
 int32_t rowsBeforeEndKind(PDEControlTable table)
 {
     int32_t rows = 0;

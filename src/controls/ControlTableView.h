@@ -1,4 +1,4 @@
-// ControlTableView: what both panes have in common. A pane names its controls in a constant table; this class turns it
+// ControlTableView: the base class of both panes. A pane names its controls in a constant table; this class turns it
 // into the control table and hands all PPD, ticket and summary work to PDECommon.
 #pragma once
 
@@ -29,16 +29,16 @@ public:
     // PPD, settings and session are borrowed and may be null.
     void setPPDFile(ppd_file_t *file);
     void setPMPrint(PMPrintSettings printSettings, PMPrintSession printSession);
-    // Takes the rectangle's size, at origin (0, 0) whatever origin it has.
+    // Resizes the view to the rectangle's size and moves it to (0, 0). The rectangle's own origin is ignored.
     void setViewBounds(const QRect &bounds);
 
-    // Builds the table and the choice lists from the controls as they are now.
+    // Builds the table and the choice lists from the current controls.
     virtual void createPDEControlTable();
     // Frees the table; does nothing when there is none.
     void deallocPDEControlTable();
-    // The table, owned by the view; null when there is none.
+    // The table, owned by the view. Null before it is built and after it is freed.
     PDEControlTable getControlData();
-    // Number of records of the last table built, end record included.
+    // Number of records in the last table built, including the end record.
     int32_t getControlCount() const;
 
     // Appends the bound PPD keywords; see PDECommon::commonAddPPDArray.
@@ -54,10 +54,10 @@ public:
 protected:
     ControlTableView(std::span<const ControlRow> rows, QWidget *parent);
 
-    // Appends every row's keyword, empty ones included.
+    // Appends the keyword of every row, including empty ones.
     void appendAllKeys(QStringList *array) const;
 
-    // The control of an outlet; null when the interface file lacks it.
+    // The control with that object name, or null when the interface file lacks it.
     template <typename Control> Control *outlet(const char *name) const
     {
         return findChild<Control *>(QLatin1String(name));

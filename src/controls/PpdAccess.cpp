@@ -9,8 +9,8 @@
 
 namespace {
 
-// Leaves a choice unmarked that a trial marking had marked. libcups keeps the marked choices in ppd->marked as well:
-// clearing the flag alone would bring the choice back with the next marking.
+// Takes back a trial marking. libcups also keeps marked choices in ppd->marked. If only the flag were cleared, the next
+// marking would mark the choice again.
 void unmark(ppd_file_t *ppd, const char *option, const char *choice)
 {
     ppd_choice_t *found = ppdFindChoice(ppdFindOption(ppd, option), choice);
@@ -72,7 +72,8 @@ bool PDECommon::commonIsPPDChoiceConflicted(ppd_file_t *ppd, const char *option,
     if (before)
         ppdMarkOption(ppd, option, before->choice);
     else
-        // The other options' conflict flags stay as the trial left them: the choice lists made after it read them.
+        // The conflict flags of other options are left as the trial set them. This is intended: choice lists built
+        // afterwards read them.
         unmark(ppd, option, choice);
     return conflicted;
 }

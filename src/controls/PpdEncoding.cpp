@@ -13,8 +13,8 @@ namespace {
 
 constexpr uint32_t kUtf8 = 0x08000100;
 
-// Shift JIS: backslash and tilde are those of ASCII, as everywhere in a PPD, and the special characters of row 13 are
-// those of code page 932. Mac OS Roman: U+2206 and U+F8FF as in the table that its vendor published (ROMAN.TXT).
+// Shift JIS: backslash and tilde are the ASCII characters, as in every PPD. Row 13 has the special characters of code
+// page 932. Mac OS Roman: U+2206 and U+F8FF follow the table published by its vendor (ROMAN.TXT).
 // clang-format off
 constexpr std::array<PpdEncoding, 6> kEncodings{{
     {"ISOLatin1",   5,  0x00000201, "ISO-8859-1", nullptr, {}},
@@ -26,7 +26,7 @@ constexpr std::array<PpdEncoding, 6> kEncodings{{
 }};
 // clang-format on
 
-// Whether two bytes have the form of a two-byte character of Shift JIS, in its table or not.
+// Whether two bytes have the form of a two-byte Shift JIS character. The character need not exist.
 bool isShiftJisPair(unsigned char first, unsigned char second)
 {
     const bool lead = (first >= 0x81 && first <= 0x9F) || (first >= 0xE0 && first <= 0xFC);
@@ -35,8 +35,8 @@ bool isShiftJisPair(unsigned char first, unsigned char second)
 
 constexpr char kReplacement[] = "\xEF\xBF\xBD"; // U+FFFD
 
-// Appends what the character set itself lacks at the beginning of a text: a two-byte character of the second set, or
-// U+FFFD. The number of bytes that it took.
+// Called when the main character set cannot convert the beginning of the text. Appends a two-byte character from the
+// second set, or U+FFFD. Returns the number of bytes consumed.
 size_t appendUnknown(std::string *out, std::string_view text, const PpdEncoding &encoding)
 {
     const bool isPair = encoding.pairsName && text.size() >= 2 && isShiftJisPair(uint8_t(text[0]), uint8_t(text[1]));
@@ -68,8 +68,7 @@ QString decodePpdText(const char *text, const PpdEncoding &encoding)
     if (!text)
         return {};
     const std::string_view bytes(text);
-    // In all six encodings as this table has them the bytes below 0x80 are ASCII, and almost every text of a PPD is
-    // nothing else.
+    // A shortcut: all six encodings agree with ASCII below 0x80, and almost every PPD text is pure ASCII.
     if (isAscii(bytes))
         return QString::fromLatin1(bytes.data(), qsizetype(bytes.size()));
     if (encoding.cfEncoding == kUtf8)

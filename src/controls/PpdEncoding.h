@@ -1,4 +1,4 @@
-// Encodings of a PPD's texts by its LanguageEncoding, and decoding with them.
+// The text encodings that a PPD can name in LanguageEncoding, and decoding of its texts.
 #pragma once
 
 #include <QString>
@@ -7,29 +7,29 @@
 
 namespace bv {
 
-// A character of iconv's table, and the one that the encoding's own table holds in its place.
+// One difference between iconv's table and the encoding's own: iconv yields `converted`, the encoding means `meant`.
 struct PpdReplacement
 {
     char16_t converted;
     char16_t meant;
 };
 
-// One row of the encoding table. The names are those of character sets for iconv(3).
+// One row of the encoding table. iconvName and pairsName are character set names for iconv(3).
 struct PpdEncoding
 {
-    const char *languageEncoding; // value of the PPD's LanguageEncoding; null: anything else, absent, or no PPD
+    const char *languageEncoding; // value of the PPD's LanguageEncoding; null: any other value, none, or no PPD
     uint32_t objectEncoding;
     uint32_t cfEncoding;
     const char *iconvName;
-    const char *pairsName; // character set of two-byte characters that the first one lacks; null: none
-    std::array<PpdReplacement, 2> replacements; // no byte but the one meant is converted to these characters
+    const char *pairsName; // character set for two-byte characters missing in iconvName; null: none
+    std::array<PpdReplacement, 2> replacements; // `converted` has no other source, so replacing it is safe
 };
 
-// The row of a LanguageEncoding value (compared exactly; null: the last row, Mac OS Roman).
+// The row for a LanguageEncoding value, which is compared exactly. Null and unknown values give the last row, Mac OS
+// Roman.
 const PpdEncoding &ppdEncoding(const char *languageEncoding);
 
-// Decodes a NUL-terminated PPD text. A byte or pair of bytes that the encoding does not know becomes U+FFFD; null gives
-// a null string.
+// Decodes a NUL-terminated PPD text. An unknown byte or pair of bytes becomes U+FFFD. Null gives a null string.
 QString decodePpdText(const char *text, const PpdEncoding &encoding);
 
 } // namespace bv

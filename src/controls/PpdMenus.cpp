@@ -1,4 +1,4 @@
-// PDECommon: pop-up menus, control titles and current values as the PPD words them.
+// PDECommon: fills pop-up menus, sets control titles, and reads current values as PPD choices.
 #include "common/PDECommon.h"
 
 #include "common/AsciiText.h"
@@ -13,7 +13,7 @@
 
 namespace {
 
-// Labels of a tab view's items. Items past the last label repeat it, so that a form with one tab more shows a text.
+// Labels of a tab view's items. Further items repeat the last label, so that an additional tab is never blank.
 constexpr const char *kTabLabels[] = {"Image", "Text", "Graphics", "Simulation"};
 
 void labelTabs(QTabWidget *tabs)
@@ -80,7 +80,7 @@ void PDECommon::commonSetControlTitleFromLocalizeString(const PDEControlItem *it
 
 void PDECommon::commonSetControlTitleFromPPD(const PDEControlItem *, ppd_file_t *)
 {
-    // Sets nothing, as ever: titles come from the localised strings.
+    // Does nothing, and this is intended: titles come from the localised strings.
 }
 
 int32_t PDECommon::commonGetDefualtValueFromPPDWithSInt32(const PDEControlItem *item)

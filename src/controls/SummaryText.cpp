@@ -1,4 +1,4 @@
-// PDECommon: items of the panel's summary.
+// PDECommon: the items of the panel's summary.
 #include "common/PDECommon.h"
 
 #include "platform/Bundle.h"
@@ -21,7 +21,7 @@ int32_t PDECommon::commonGetSummaryText(PDEControlTable table, bv::PrintDictiona
         return noErr;
     return bv::withoutThrowing(memFullErr, [&] {
         int32_t status = noErr;
-        QString name; // kept from row to row: a name key that is no ASCII shows the name of the row before once more
+        QString name; // intended: a row whose name key is not ASCII repeats the previous row's name
         for (int16_t row = 0; table[row].control; ++row) {
             if (!table[row].summaryName)
                 continue;

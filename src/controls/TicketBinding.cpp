@@ -1,4 +1,4 @@
-// PDECommon: control values into the print settings and back.
+// PDECommon: writes control values into the print settings and reads them back.
 #include "common/PDECommon.h"
 
 #include "common/AsciiText.h"
@@ -11,13 +11,13 @@
 
 namespace {
 
-// Number of the row's choices, taken as a 16-bit signed number.
+// Number of the row's choices as a signed 16-bit number.
 int32_t choiceCount(const PDEControlItem &row)
 {
     return row.ppdChoices ? int16_t(row.ppdChoices->size()) : 0;
 }
 
-// A choice of the PPD goes under its option's keyword; a row without a selection (-1) writes no choice.
+// Stores the PPD choice under its option's keyword. A row without a selection (-1) stores no choice.
 void storeChoice(const PDEControlItem &row, int32_t entry, const bv::PrintDictionaryRef &queue)
 {
     if (entry >= 0) {
@@ -41,8 +41,8 @@ bool namesProfile(const PDEControlItem &row, const bv::PrintDictionaryRef &queue
     return flag.string() && *flag.string() == QLatin1String("True");
 }
 
-// The value that the queue dictionary holds for a row. A stored value that is no string, and a keyword that is no
-// ASCII, hand on `carried`, the value of the row before: tickets of older versions rely on it.
+// The value that the queue dictionary holds for a row. If the keyword is not ASCII or the stored value is not a string,
+// the result is `carried`, the value of the previous row. This is intended: tickets of older versions rely on it.
 int32_t storedValue(const PDEControlItem &row, const bv::PrintDictionaryRef &queue, int32_t carried)
 {
     if (namesProfile(row, queue)) {
@@ -86,7 +86,7 @@ int32_t PDECommon::commonSyncPaneFromTicket(PMPrintSettings settings, PMPrintSes
     if (!queue)
         return noErr;
     return bv::withoutThrowing(memFullErr, [&] {
-        int32_t carried = -1; // from row to row, for tickets of older versions (storedValue)
+        int32_t carried = -1; // value of the previous row, see storedValue
         for (int16_t i = 0; table && table[i].control; ++i) {
             if (table[i].ppdKey[0] == '\0')
                 continue;
@@ -133,7 +133,7 @@ int32_t PDECommon::commonCFDictionaryMapToTicket(PMPrintSettings settings, const
     if (!copyDict)
         return noErr;
     return bv::withoutThrowing(memFullErr, [&] {
-        // A copy first: an entry may replace the very dictionary that holds the one being walked.
+        // Works on a copy, because storing an entry may replace the dictionary being walked.
         const bv::PrintEntries entries = copyDict->entries;
         for (const auto &[key, value] : entries)
             PMPrintSettingsSetValue(settings, key, value);

@@ -13,7 +13,7 @@ TEST(ControlTable, JoinsByKindAndEndsWithOneEndRecord)
 {
     QLabel label;
     PDEControlItem first[] = {{&label, kPDEControlText, "", "A", nullptr, "a", 0, nullptr}, endControlItem()};
-    // A row without a control stands before the end by kind: other walkers stop there, joining copies it.
+    // Other functions stop at a row without a control. Joining copies it, because it counts rows by kind.
     PDEControlItem second[] = {{nullptr, kPDEControlPopUp, "K", nullptr, nullptr, "b", 0, nullptr},
                                {&label, kPDEControlText, "", "C", nullptr, "c", 0, nullptr},
                                endControlItem()};
@@ -52,7 +52,7 @@ TEST(ControlTitles, TabsPastTheFourthRepeatTheLast)
     for (int i = 0; i < 6; ++i)
         tabs.addTab(new QWidget, QStringLiteral("kept"));
     PDEControlItem row{&tabs, kPDEControlTabView, "", "Image", nullptr, "", 0, nullptr};
-    if (!pluginBundle()) { // once in a process
+    if (!pluginBundle()) { // the bundle can be set only once in a process
         PDECommon::commonSetControlTitleFromLocalizeString(&row);
         EXPECT_EQ(tabs.tabText(0), "kept") << "without the plug-in's bundle there are no titles";
     }

@@ -31,7 +31,7 @@ TEST(PpdEncoding, ComparesLanguageEncodingExactly)
     EXPECT_EQ(PDECommon::commonGetEncodingFromPPD(nullptr), 30U);
 }
 
-TEST(PpdEncoding, DecodesEachEncodingAndSurvivesWhatIsNoText)
+TEST(PpdEncoding, DecodesEachEncodingAndReplacesInvalidBytes)
 {
     struct
     {
@@ -47,7 +47,7 @@ TEST(PpdEncoding, DecodesEachEncodingAndSurvivesWhatIsNoText)
         {"WindowsANSI", "a\x81z", u"a\uFFFDz"},
         {"JIS83-RKSJ", "\x8E\xCA\x90\x5E", u"\u5199\u771F"},
         {"JIS83-RKSJ", "a\x8E", u"a\uFFFD"},
-        // The bytes of ASCII are ASCII, whatever stands beside them.
+        // ASCII bytes stay ASCII in any encoding.
         {"JIS83-RKSJ", "\\~", u"\\~"},
         {"JIS83-RKSJ", "\\~\x88\x9F", u"\\~\u4E9C"},
         {"JIS83-RKSJ", "\x87\x40@\x81\x60\x85\x40x", u"\u2460@\u301C\uFFFDx"},
@@ -110,7 +110,7 @@ TEST(PpdAccess, ConflictTestLeavesTheMarksAsTheyWere)
     EXPECT_FALSE(PDECommon::commonIsPPDChoiceConflicted(ppd.get(), "BVNone", "Two"));
     EXPECT_EQ(marks(ppd.get()), before);
 
-    // An option without a mark stays without one, later markings included.
+    // An option without a marked choice stays so, also after later markings.
     PDECommon::commonIsPPDChoiceConflicted(ppd.get(), "BVC", "One");
     PDECommon::commonIsPPDChoiceConflicted(ppd.get(), "BVA", "Two");
     EXPECT_EQ(marks(ppd.get())["BVC"], "");

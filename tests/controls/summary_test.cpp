@@ -20,12 +20,12 @@ TEST(Summary, NeedsTheBundleThenListsRowsWithAName)
         {&menu, kPDEControlPopUp, "K", nullptr, "Same", "", 0, nullptr},
         {&label, kPDEControlText, "", "Title", nullptr, "", 0, nullptr},
         {&oddBox, kPDEControlCheckBox, "O", nullptr, "Odd", "", 0, nullptr}, // no True or False in the PPD
-        {&menu, kPDEControlPopUp, "K", nullptr, "\xC3\xA9", "", 0, nullptr}, // no ASCII: the name before again
+        {&menu, kPDEControlPopUp, "K", nullptr, "\xC3\xA9", "", 0, nullptr}, // not ASCII: repeats the previous name
         endControlItem(),
     };
     bv::PrintDictionary dictionary;
     bv::PrintArray order;
-    if (!pluginBundle()) { // once in a process
+    if (!pluginBundle()) { // the bundle can be set only once in a process
         EXPECT_EQ(PDECommon::commonGetSummaryText(table, &dictionary, &order), noErr);
         EXPECT_TRUE(order.empty()) << "without the plug-in's bundle nothing is added";
     }

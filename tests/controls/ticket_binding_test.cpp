@@ -1,4 +1,4 @@
-// Controls into the ticket and back, with the carried value and with tickets of any shape.
+// Control values written to the ticket and read back: the carried value, and tickets of unusual structure.
 #include "common/PDECommon.h"
 #include "support/PaneFixture.h"
 
@@ -93,14 +93,14 @@ TEST_F(TicketBinding, ANumberInTheTicketTakesTheValueOfTheRowBefore)
     EXPECT_TRUE(box.isChecked());
     EXPECT_EQ(menuZ.currentIndex(), 1) << "an index beyond the menu changes nothing";
 
-    ticket.putInQueue("BVA", bv::PrintValue::boolean(true)); // the first row has nothing before it
+    ticket.putInQueue("BVA", bv::PrintValue::boolean(true)); // the first row has no previous row
     restore();
     EXPECT_EQ(menuA.currentIndex(), 1);
     EXPECT_FALSE(box.isChecked());
 
     ticket.putInQueue("BVA", bv::PrintValue("Three"));
     ticket.putInQueue("BVOn", bv::PrintValue("False"));
-    rows[1].ppdKey = "BVOn\xE9"; // neither has a keyword that is no ASCII any value of its own
+    rows[1].ppdKey = "BVOn\xE9"; // a keyword that is not ASCII has no value of its own either
     restore();
     EXPECT_TRUE(box.isChecked());
     QStringList keys;
@@ -140,7 +140,7 @@ TEST_F(TicketBinding, TicketsOfAnyShapeAreLeftAlone)
     EXPECT_EQ(save(), noErr);
     EXPECT_EQ(*product->value("Lab").integer(), 3);
 
-    // An entry under the product key itself replaces the dictionary that is being walked.
+    // An entry under the product key replaces the dictionary being walked.
     ticket.top.entries.clear();
     ticket.putInQueue("QL70", bv::PrintValue("text"));
     EXPECT_EQ(save(), noErr);
