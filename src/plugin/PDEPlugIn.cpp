@@ -1,4 +1,4 @@
-// The plug-in's entry.
+// The plug-in's entry point.
 #include "plugin/PDEPlugIn.h"
 
 #include "platform/Bundle.h"

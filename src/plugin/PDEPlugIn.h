@@ -15,7 +15,7 @@ class PDEPlugIn : public QObject, public bv::PrintPanelFactory
 
 public:
     bool initWithBundle(const bv::PluginBundle &bundle) override;
-    // One panel for the printer-module type, nothing for any other.
+    // One panel for the printer-module type; nothing for any other type.
     std::optional<std::vector<std::unique_ptr<bv::PrintPanel>>>
     PDEPanelsForType(const QString &type, bv::PrintPanelCallback *hostInfo) override;
 };

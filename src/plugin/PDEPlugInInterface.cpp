@@ -64,7 +64,7 @@ void PDEPlugInInterface::connectOutlets()
     profileControl = std::make_unique<ProfileControl>();
     profileControl->setAdvancedColorOptions(onAdvancedView);
     profileControl->setParentWidget(pdeMainView);
-    // The form holds both panes; only the Color Options pane stands in the container.
+    // The form has both panes in the container, but only the Color Options pane is shown at first.
     form.onMainCustomView->layout()->removeWidget(onAdvancedView);
     onAdvancedView->hide();
 }
@@ -169,12 +169,12 @@ bool PDEPlugInInterface::shouldPrint()
 
 void PDEPlugInInterface::PPDOptionKeyValueDidChange(const QString &, const QString &)
 {
-    // The pane follows no option of other panes.
+    // Does nothing: the pane does not depend on options of other panes.
 }
 
 void PDEPlugInInterface::constraints()
 {
-    if (pdeMainView) // the joined table's controls live in the view
+    if (pdeMainView) // the joined table points to controls in the view
         bv::applyOptionRules(compTable.get());
 }
 

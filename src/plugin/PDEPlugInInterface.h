@@ -15,7 +15,7 @@ class PDEPlugInInterface : public QObject, public bv::PrintPanel
     Q_OBJECT
 
 public:
-    // Keeps the callback (borrowed) with its settings and session. A null callback is a panel without any of them.
+    // The callback, its settings and its session are borrowed. With a null callback the panel has none of them.
     explicit PDEPlugInInterface(bv::PrintPanelCallback *callback);
     ~PDEPlugInInterface() override;
 
@@ -33,9 +33,9 @@ public:
     void terminate() override;
 
 public slots:
-    // Runs the rules over both panes; a call of the dialog and an action of the advanced pane's menus.
+    // Runs the rules over both panes. Called by the dialog and by the advanced pane's menus.
     void constraints() override;
-    // Action of the Color Options pane's controls: runs the rules over that pane only.
+    // Runs the rules over the Color Options pane only. Called by that pane's controls.
     void selectItem();
 
 private:
@@ -48,10 +48,10 @@ private:
     PMPrintSettings setting = nullptr;
     PMPrintSession session = nullptr;
     ppd_file_t *ppd = nullptr;
-    QPointer<MainView> pdeMainView; // owned; a dialog that parents it may have taken it down with its window
+    QPointer<MainView> pdeMainView; // owned; null once a dialog has destroyed it with its window
     QPointer<ColorOptions> onColorView;
     QPointer<AdvancedColorOptions> onAdvancedView;
     std::unique_ptr<PainChangeController> painChange;
     std::unique_ptr<ProfileControl> profileControl;
-    std::unique_ptr<PDEControlItem[]> compTable; // lives as long as the panel: the rules use it until the end
+    std::unique_ptr<PDEControlItem[]> compTable; // lives as long as the panel, because the rules use it
 };

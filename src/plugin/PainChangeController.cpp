@@ -8,7 +8,7 @@
 
 namespace {
 
-// Keyboard users go on in the pane that has come.
+// Moves the focus into the new pane, so that keyboard users can continue there.
 void focusFirstControl(QWidget *pane)
 {
     QWidget *next = pane->nextInFocusChain();
@@ -47,12 +47,12 @@ void PainChangeController::show(ControlTableView *shown, ControlTableView *hidde
         return;
     const bool hadFocus = hidden && hidden->isAncestorOf(hidden->window()->focusWidget());
     shown->setViewBounds(onMainCustomView ? onMainCustomView->rect() : QRect());
-    if (!onMainCustomView) // and so no pane is swapped: one without a parent would become a window of its own
+    if (!onMainCustomView) // a pane without a parent would become a window of its own
         return;
     shown->setParent(onMainCustomView);
     QLayout *layout = onMainCustomView->layout();
     if (hidden) {
-        hidden->setParent(onMainCustomView); // a hidden pane stays in the view, so that its controls can be found
+        hidden->setParent(onMainCustomView); // keeps the hidden pane in the view, so that its controls can be found
         if (layout && layout->indexOf(hidden) >= 0)
             const std::unique_ptr<QLayoutItem> replaced(layout->replaceWidget(hidden, shown));
         hidden->hide();

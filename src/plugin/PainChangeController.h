@@ -1,5 +1,4 @@
-// PainChangeController: swaps the two panes in the container and forwards what the panel asks of both, in a fixed
-// order.
+// PainChangeController: swaps the two panes in the container, and forwards the panel's calls to both in a fixed order.
 #pragma once
 
 #include "platform/ClassNames.h"
@@ -17,8 +16,8 @@ class PainChangeController : public QObject
 public:
     using QObject::QObject;
 
-    // The interface file's outlets. The controller owns none of them, and any may be missing: what is asked of a
-    // missing pane is left out, its Quick Color and Economy count as 0, and without a container no pane is swapped.
+    // The interface file's outlets. The controller owns none of them, and any may be missing. Calls to a missing pane
+    // are skipped, and its Quick Color and Economy count as 0. Without a container no pane is swapped.
     QPointer<QWidget> onMainCustomView;
     QPointer<ColorOptions> onColorView;
     QPointer<AdvancedColorOptions> onAdvancedView;
@@ -26,32 +25,33 @@ public:
     void SHowColorToAdvancedView();
     void ShowAdvancedToColorView();
 
-    // Forwarders: the advanced pane first, then the Color Options pane.
+    // These forward to the advanced pane first, then to the Color Options pane.
     void creatPDEControlTableEachView();
     void addPPDArrayEachView(QStringList *array);
     void deallocPDEControlTableEachView();
     void setPPDFileEachView(ppd_file_t *file);
     void setPMPrintEachView(PMPrintSettings settings, PMPrintSession session);
     void createPDEItemForPPDKeyEachView();
-    // The one reversed order, kept as it is: the Color Options pane first.
+    // The only one in reverse order, which is intended: the Color Options pane comes first.
     void defaultFromPPDInfoEachView();
     void getControlValueFromTickettEachView();
     void setControlValueToTicketEachView();
 
-    // Zeroes the first `count` slots (taken as 16 bits), then writes the two tables into slots 0 and 1, whatever the
-    // count. Returns 2. The list must have room for both.
+    // Sets the first `count` slots to null (`count` is cut to 16 bits), then writes the two tables into slots 0 and 1.
+    // It writes them for any count, so the list must have at least two slots. Returns 2.
     int32_t getControlDataEachView(PDEControlTable *list, int32_t count);
-    // The panes' record counts, added as 16-bit numbers.
+    // The sum of both panes' record counts, in 16-bit arithmetic.
     int32_t getControlCountEachView() const;
 
-    // Sets the advanced menus to what Quick Color and Economy stand for.
+    // Sets the advanced menus to the choices that Quick Color and Economy imply.
     void changeAdvancedItemAccodingQuickColor();
     void getSummaryAdvancedItemAccodingQuickColor(bv::PrintDictionary *dictionary, bv::PrintArray *array);
-    // Color Options first, then what Quick Color implies or, under the free choice, the advanced pane's own items.
+    // Adds the Color Options items first. The advanced items follow: the pane's own under the free choice, else those
+    // that Quick Color implies.
     void getSummaryTextEachView(bv::PrintDictionary *dictionary, bv::PrintArray *array);
 
 public slots:
-    // Each is refused while the pane to show has no control table.
+    // Both do nothing while the pane to show has no control table.
     void ColorToAdvancedView();
     void AdvancedToColorView();
 

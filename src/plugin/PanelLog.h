@@ -1,4 +1,4 @@
-// The panel's half of the diagnostic log: bracketing lines for objects, and a counter of control-table records.
+// The panel's part of the diagnostic log: lines that mark begin and end, and a counter of control-table records.
 #pragma once
 
 #include "common/PDEControlItem.h"
@@ -7,14 +7,14 @@
 
 class QObject;
 
-// Descriptions that "%@" writes (UTF-8).
+// Descriptions for the format "%@", in UTF-8.
 std::string describe(const QString &text);
 std::string describe(const QObject &object);
 namespace bv {
 std::string describe(const PrintValue &value);
 std::string describe(const PrintDictionary &dictionary);
 
-// "BEGIN self(object) format" and the like, formatted with the further arguments, as one line of the diagnostic log.
+// Writes one log line such as "BEGIN self(object) format". `format` is filled in with the remaining arguments.
 void logBracket(std::string_view bracket, const LogArgument &object, std::string_view format,
                 std::initializer_list<LogArgument> arguments);
 } // namespace bv
@@ -36,5 +36,5 @@ template <typename... Arguments> void _PDELog(const QObject *object, const char 
     bv::logBracket("LOG self(%@): %@", bv::LogArgument(object), format, {bv::LogArgument(arguments)...});
 }
 
-// Number of records up to and including the end record, counted by the control field; 1 for an empty table.
+// Number of records including the end record, which is the first one without a control. 1 for an empty table.
 int32_t _DEBUGControlTable(PDEControlTable table);

@@ -1,4 +1,4 @@
-// Descriptions that the log writes for dictionaries and null.
+// How the log describes dictionaries and null.
 #include "plugin/PanelLog.h"
 
 #include <QObject>

@@ -1,4 +1,4 @@
-// The panel as a dialog drives it, on the project's own PPD and on poor ones.
+// The panel as a dialog drives it, with the project's own PPD and with incomplete ones.
 #include "plugin/PDEPlugInInterface.h"
 #include "support/PaneFixture.h"
 #include "support/TestRoot.h"
@@ -41,7 +41,7 @@ protected:
         EXPECT_TRUE(found) << name;
         return found;
     }
-    // What a user's choice does.
+    // Chooses an item as a user does, with its action.
     void choose(const char *name, int index)
     {
         auto *menu = control<QComboBox>(name);
@@ -119,7 +119,7 @@ TEST_F(Panel, OnlyAdministratorsManageProfilesAndHaveThemRefreshed)
     }
 }
 
-TEST_F(Panel, TheDownloadManagerIsStartedOutOfItsBundle)
+TEST_F(Panel, StartsTheDownloadManagerFromItsBundle)
 {
     open();
     auto *download = control<QPushButton>("button_DownloadManager");
@@ -179,8 +179,8 @@ TEST_F(Panel, SavesBothPanesAndFindsThemAgain)
     EXPECT_TRUE(control<QPushButton>("button_AdvanceColorOptions")->isEnabled()) << "restoring ends with the rules";
 }
 
-// Quick Color and Economy as printed: the three edge menus, whose Economy is uneven, and a menu of each kind.
-TEST_F(Panel, PrintingAppliesThePresetAndOnlyThen)
+// Checks the three edge menus, which Economy does not treat alike, and one menu of each other kind.
+TEST_F(Panel, OnlyPrintingAppliesThePreset)
 {
     struct
     {
@@ -263,7 +263,7 @@ TEST_F(Panel, WithoutSettingsOrSessionItShowsDefaultsAndAnEmptySummary)
     EXPECT_TRUE(ticket.top.entries.empty());
 }
 
-TEST_F(Panel, SurvivesADialogThatTookTheViewDown)
+TEST_F(Panel, SurvivesADialogThatDestroyedTheView)
 {
     open();
     delete view;
@@ -275,14 +275,14 @@ TEST_F(Panel, SurvivesADialogThatTookTheViewDown)
     panel.reset();
 }
 
-// PPDs that lack what the pane wants.
+// PPDs that lack options of the pane.
 class PoorPanel : public Panel, public testing::WithParamInterface<QByteArray>
 {
 protected:
     PoorPanel() : Panel(std::make_unique<TestPpd>(GetParam(), nullptr)) {}
 };
 
-TEST_P(PoorPanel, OpensSavesAndSummarisesWhatIsThere)
+TEST_P(PoorPanel, OpensSavesAndSummarisesTheExistingOptions)
 {
     open();
     choose("menu_Brightness", 0);

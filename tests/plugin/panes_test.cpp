@@ -35,7 +35,7 @@ TEST_F(Panes, AreNotSwappedBeforeTheirTablesExist)
     controller.ColorToAdvancedView();
     EXPECT_TRUE(advanced->isVisibleTo(&container));
     EXPECT_FALSE(color->isVisibleTo(&container));
-    controller.ColorToAdvancedView(); // once more changes nothing
+    controller.ColorToAdvancedView(); // a second call changes nothing
     EXPECT_TRUE(advanced->isVisibleTo(&container));
     color->deallocPDEControlTable();
     controller.AdvancedToColorView();
@@ -77,7 +77,7 @@ TEST_F(Panes, GatherTwoTablesAndTheirRecords)
     EXPECT_EQ(controller.getControlCountEachView(), 14 + 47);
 }
 
-TEST_F(Panes, ThatAreMissingAreLeftOutAndTheRestIsDone)
+TEST_F(Panes, MissingOnesAreSkippedAndTheOthersServed)
 {
     const auto askForAll = [this] {
         QStringList keys;

@@ -41,9 +41,9 @@ TEST(PluginLoad, HandsOutOnePanelOfThePrinterModuleTypeOnly)
     EXPECT_TRUE(loader.unload());
 }
 
-TEST(PluginLoad, EveryQtClassOfItsOwnBearsTheSuffix)
+TEST(PluginLoad, EveryOwnQtClassHasTheSuffix)
 {
-    // The meta objects' names in the file itself: whatever class is added is found.
+    // Reads the names of the meta objects from the file, so that new classes are checked as well.
     QProcess nm;
     nm.start(QStringLiteral("sh"),
              {QStringLiteral("-c"),

@@ -78,7 +78,7 @@ TEST_F(ProfileMenus, WithoutAListTheMenusKeepThePpdsItems)
     EXPECT_EQ(items(rgb), kPpdItems);
 }
 
-TEST_F(ProfileMenus, EachKindShowsItsListInOrderAndTwinsStayTwo)
+TEST_F(ProfileMenus, EachKindShowsItsListInOrderWithDuplicates)
 {
     write({{3, "a.icc", 4}, {1, "b.icc", 4}, {6, "a.icc", 4}, {2, "c.icc", 4}, {5, "d.icc", 5}, {4, "e.icc", 5}},
           {{4, "sim.icc", 5}}, {{3, "dst.icc", 7}});
@@ -87,7 +87,7 @@ TEST_F(ProfileMenus, EachKindShowsItsListInOrderAndTwinsStayTwo)
     EXPECT_EQ(items(sim).mid(5), QStringList({"sim.icc(Office)Card"}));
     EXPECT_EQ(items(dst).mid(5), QStringList({"dst.icc(Office)"})) << "unknown storage has no name";
 
-    rows[2].profileKind = 0; // a row that is no profile row is passed over, and tells
+    rows[2].profileKind = 0; // not a profile row: skipped, with an error status
     EXPECT_EQ(build(), paramErr);
     EXPECT_EQ(items(sim), kPpdItems);
 }
@@ -97,7 +97,7 @@ TEST_F(ProfileMenus, AChosenProfileGoesIntoTheTicketAndComesBack)
     write({{3, "a.icc", 4}, {1, "b.icc", 4}, {6, "c.icc", 5}}, {{3, "s.icc", 4}}, {{3, "d.icc", 4}});
     build();
     for (QComboBox *menu : {&rgb, &dst, &sim}) {
-        for (int profile = menu->count() - 1; profile >= 5; --profile) { // behind five choices
+        for (int profile = menu->count() - 1; profile >= 5; --profile) { // profiles follow the five choices
             menu->setCurrentIndex(profile);
             EXPECT_EQ(save(), noErr);
             menu->setCurrentIndex(0);
@@ -121,7 +121,7 @@ TEST_F(ProfileMenus, AChosenProfileGoesIntoTheTicketAndComesBack)
     EXPECT_EQ(rgb.currentIndex(), 2);
 }
 
-TEST_F(ProfileMenus, ProfilesStandOnceHoweverOftenAMenuIsBuiltWhoseOptionThePpdLacks)
+TEST_F(ProfileMenus, RebuildingAMenuWithoutAPpdOptionAddsProfilesOnlyOnce)
 {
     write({{3, "a.icc", 4}});
     AdvancedColorOptions pane;
@@ -133,7 +133,7 @@ TEST_F(ProfileMenus, ProfilesStandOnceHoweverOftenAMenuIsBuiltWhoseOptionThePpdL
     EXPECT_EQ(items(*menu), QStringList{"a.icc(Office)Disk"});
 }
 
-TEST_F(ProfileMenus, AProfileThatIsGoneGivesThePpdDefault)
+TEST_F(ProfileMenus, AMissingProfileGivesThePpdDefault)
 {
     write({{3, "a.icc", 4}, {3, "x.icc", 7}});
     build();
@@ -169,7 +169,7 @@ TEST_F(ProfileMenus, TicketEntriesOfAnyKindNameNoProfile)
         {bv::PrintValue(QString(5000, u'0')), 0},
         {bv::PrintValue::integer(3), 0},
         {bv::PrintValue(bv::PrintArray{}), 0},
-        {bv::PrintValue("?????"), 0}, // bytes that are no UTF-8, and an odd last character
+        {bv::PrintValue("?????"), 0}, // invalid UTF-8 and an odd number of characters
     };
     for (const auto &row : cases) {
         ticket.putInQueue("BVSrcCustomFilename", row.name);
