@@ -1,4 +1,4 @@
-// The check of a text field after each change, with the caret and the undo steps around it.
+// The check of a text field after each change, including caret and undo steps.
 #include "profileui/BVTextField.h"
 
 #include "profileui/KeyFilters.h"
@@ -10,7 +10,7 @@
 
 BVTextField::BVTextField(QWidget *parent) : QLineEdit(parent)
 {
-    // Tells of every change by the user, whatever its way.
+    // This signal reports every kind of change by the user: typing, pasting, dropping, undo.
     connect(this, &QLineEdit::textEdited, this, &BVTextField::textDidChange);
 }
 
@@ -88,7 +88,7 @@ void BVTextField::textDidChange()
         const auto *units = reinterpret_cast<const char16_t *>(changed.utf16());
         CheckUniCharString(units, static_cast<uint32_t>(changed.size()), inputkey, &checked);
         if (checked != changed) {
-            // The caret stays behind what is left of the text before it.
+            // The caret goes after the remaining part of the text that stood before it.
             QString before = changed.left(cursorPosition());
             CheckUniCharString(units, static_cast<uint32_t>(before.size()), inputkey, &before);
             replaceText(checked, before.size());
@@ -111,8 +111,8 @@ void BVTextField::updateOperateControl()
 void BVTextField::replaceText(const QString &text, qsizetype caret)
 {
     m_replacing = true;
-    // Going back first takes the change out of the undo steps, so that undoing never leads into a refused text. It may
-    // go back further than this one change; the text is then put in as one step.
+    // Undoing first removes the change from the undo steps, so that the user's undo never restores a refused text. This
+    // may undo more than the one change; the text is then inserted as one step.
     undo();
     if (this->text() != text) {
         selectAll();
@@ -132,7 +132,7 @@ void BVTextField::focusInEvent(QFocusEvent *event)
 
 void BVTextField::focusOutEvent(QFocusEvent *event)
 {
-    // A pop-up of the field itself (its menu) takes the focus without ending the session.
+    // The field's own context menu takes the focus, but does not end the session.
     if (event->reason() != Qt::PopupFocusReason)
         textShouldEndEditing(this);
     QLineEdit::focusOutEvent(event);
@@ -141,14 +141,14 @@ void BVTextField::focusOutEvent(QFocusEvent *event)
 void BVTextField::dropEvent(QDropEvent *event)
 {
     m_refusedCaret = -1;
-    // A drop on a field without the focus is an editing session of its own.
+    // A drop on a field without the focus is a separate editing session.
     const bool ownSession = !textObj;
     if (ownSession)
         textShouldBeginEditing(this);
     QLineEdit::dropEvent(event);
     if (ownSession && !hasFocus())
         textShouldEndEditing(this);
-    // The toolkit selects the dropped text afterwards, which is not there after a refusal.
+    // Qt selects the dropped text afterwards. After a refusal that text is gone, so the selection is undone.
     if (m_refusedCaret >= 0)
         setCursorPosition(m_refusedCaret);
 }

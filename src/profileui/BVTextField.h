@@ -1,6 +1,6 @@
-// A text field that checks its whole text after every change by the user: it limits the length (of a file name: stem
-// and extension apart), drops characters outside its filter, puts back the text before a change that breaks a limit,
-// and enables one other control while the text is usable.
+// A text field that checks its whole text after every change by the user. It drops characters outside its filter and
+// undoes a change that breaks a length limit. File names have separate limits for stem and extension. The field also
+// enables one other control while its text is usable.
 #pragma once
 
 #include "platform/ClassNames.h"
@@ -16,27 +16,27 @@ class BVTextField : public QLineEdit
 public:
     explicit BVTextField(QWidget *parent = nullptr);
 
-    // Limits in UTF-16 units: of the whole text, and of the extension behind the dot (0: a text without that rule).
-    // The toolkit's own length limit is not used.
+    // Limits of the whole text and of the extension after the dot, in UTF-16 units. Extension 0: the text is not a file
+    // name, and only the total counts. Qt's own length limit is not used.
     void setMaxLength(uint32_t total, uint32_t extension);
-    // The number of the filter, see KeyFilters.h.
+    // The filter's number, see KeyFilters.h.
     void setInputKey(uint32_t filter);
     // The control that is enabled while the text is usable (borrowed; null: none).
     void setOperateControl(QWidget *control);
-    // The text that a later refusal goes back to.
+    // The text that is restored when a later change is refused.
     void setOldString(const QString &text);
 
-    // Puts a text into the field from code: no check, and a later refusal goes back to it. Text that an input method
-    // was still composing is dropped.
+    // Sets the text from code, without a check. A later refused change restores this text. Text that an input method is
+    // still composing is dropped.
     void putText(const QString &text);
 
-    // The start and end of an editing session, which is as long as the field has the focus; a refusal goes back to the
-    // text that stands there at its start. Both answer true.
+    // Start and end of an editing session, which lasts while the field has the focus. The text at its start is the one
+    // that a refused change restores. Both return true.
     bool textShouldBeginEditing(QLineEdit *editor);
     bool textShouldEndEditing(QLineEdit *editor);
 
 public slots:
-    // The check after a change by the user. A refusal goes back to the last text that was accepted or named.
+    // Checks the text after a change by the user. A refused change restores the last text that was accepted or set.
     void textDidChange();
 
 protected:
@@ -47,11 +47,11 @@ protected:
 private:
     bool breaksALimit(const QString &text) const;
     void updateOperateControl();
-    // Gives the field another text and caret in the middle of a change; the change itself leaves no step to undo.
+    // Replaces text and caret (a UTF-16 index) during a change. The user's change itself leaves no undo step.
     void replaceText(const QString &text, qsizetype caret);
 
     QString oldValue;                // the last accepted text
-    QPointer<QLineEdit> textObj;     // the editor in use: the field itself while it is being edited
+    QPointer<QLineEdit> textObj;     // the field itself during an editing session, else null
     uint32_t maxLen = UINT32_MAX;    // limit of the whole text
     uint32_t maxExtension = 0;       // limit of the extension, 0 for none
     uint32_t inputkey = 0;           // which filter

@@ -25,7 +25,7 @@ void IconedCell::drawInteriorWithFrame(QPainter *painter, const QRect &frame, co
 
 void IconedCell::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
-    // The row's selection and focus belong to the table; the cell itself has nothing but its icon.
+    // The table draws the row's selection and focus. The cell itself has only an icon.
     QStyleOptionViewItem background = option;
     background.index = index;
     const QStyle *style = option.widget ? option.widget->style() : QApplication::style();

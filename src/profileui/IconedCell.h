@@ -14,8 +14,8 @@ class IconedCell : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    // Draws the image, if there is one, 16 by 16 points large, 3 points right of the frame's left edge and at its top,
-    // source over.
+    // Draws the image over the background, 16 by 16 points, at the frame's top and 3 points right of its left edge. A
+    // null image draws nothing.
     static void drawInteriorWithFrame(QPainter *painter, const QRect &frame, const QImage &image);
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;

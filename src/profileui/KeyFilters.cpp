@@ -5,10 +5,10 @@
 
 namespace {
 
-// A negative value that some keyboards' dead keys deliver; it passes the two ASCII filters.
+// A value that dead keys of some keyboards deliver. The two ASCII filters accept it.
 constexpr int32_t kDeadKey = -128;
 
-// What a printer's file system does not take in a file name, beside the space.
+// Characters that a printer's file system rejects in file names, besides the space.
 constexpr std::string_view kNotInFileNames = "\"*+,/:;<=>?@[\\]|";
 
 bool within(int32_t character, int32_t first, int32_t last)
@@ -64,7 +64,7 @@ bool FilterEditTextInputKey(int32_t character, uint32_t inputkey)
 
 uint32_t UCFindComposedCharAtIndex(const char16_t *units, uint32_t count, uint32_t index, uint32_t *next)
 {
-    // Always one unit on, also after a pair.
+    // Intended: only one unit further, also after a pair.
     *next = index + 1;
     const uint32_t unit = units[index];
     if (unit < 0xD800 || unit > 0xDFFF)

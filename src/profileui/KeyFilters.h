@@ -1,11 +1,11 @@
-// The character filters of the text fields, and the check of a whole text against one of them. Positions and lengths
-// count UTF-16 units.
+// The character filters of the text fields, and the check of a whole text with one of them. Positions and lengths are
+// in UTF-16 units.
 #pragma once
 
 #include <QString>
 #include <cstdint>
 
-// Filter numbers as a field knows them; every other number stands for WideCharKeyFilter.
+// The numbers of the filters. Every other number stands for WideCharKeyFilter.
 enum InputKeyFilter : uint32_t {
     kFilterAscii = 0,
     kFilterFileName = 1,
@@ -13,9 +13,9 @@ enum InputKeyFilter : uint32_t {
     kFilterNumeric = 3,
 };
 
-// Printable ASCII, 0x20 to 0x7E; -128 as well.
+// Printable ASCII, 0x20 to 0x7E, and -128.
 bool AsciiKeyFilter(int32_t character);
-// Printable ASCII without the space and " * + , / : ; < = > ? @ [ \ ] |; -128 as well.
+// Printable ASCII and -128, but not the space and " * + , / : ; < = > ? @ [ \ ] |.
 bool AsciiKeyFilterAppoint(int32_t character);
 // 0 to 9, A to Z, a to z.
 bool AlphaNumericKeyFilter(int32_t character);
@@ -23,14 +23,14 @@ bool AlphaNumericKeyFilter(int32_t character);
 bool NumericKeyFilter(int32_t character);
 // Everything but the double quote and the plus sign.
 bool WideCharKeyFilter(int32_t character);
-// Whether the filter of that number accepts a code point.
+// Whether the filter with that number accepts a code point.
 bool FilterEditTextInputKey(int32_t character, uint32_t inputkey);
 
-// The code point at `index` (below `count`), and in *next the index to go on with, always index + 1: the second unit
-// of a surrogate pair is looked at again by itself. Any surrogate is combined with the unit behind it, or with 0 where
-// there is none.
+// Returns the code point at `index`, which must be below `count`. A surrogate is combined with the unit after it, or
+// with 0 at the end. *next is always index + 1, also after a pair, so the pair's second unit is checked again by
+// itself. This is intended: CheckUniCharString relies on it.
 uint32_t UCFindComposedCharAtIndex(const char16_t *units, uint32_t count, uint32_t index, uint32_t *next);
 
-// Deletes from *text every unit at which the filter refuses the code point of `units`; *text starts as their copy.
-// The position in *text is kept in 16 bits, so a text beyond 65,535 units is not followed to its end.
+// Deletes every unit from *text whose code point in `units` the filter refuses. *text must start as a copy of `units`.
+// The position in *text is a 16-bit number and wraps, so texts beyond 65,535 units are not checked correctly.
 void CheckUniCharString(const char16_t *units, uint32_t count, uint32_t inputkey, QString *text);

@@ -50,7 +50,7 @@ void ManagementWindow::putTexts()
 
 void ManagementWindow::nameControls()
 {
-    // What a label or a button shows is its control's name as well, without mnemonic and colon.
+    // Accessible names are the visible labels without mnemonic and colon.
     const auto plain = [](QString text) {
         text.remove(u'&');
         return text.endsWith(u':') ? text.chopped(1) : text;

@@ -1,4 +1,4 @@
-// The profile management window as a form: its controls, their texts and names, and what Return and Escape press.
+// The form of the profile management window: its controls, their texts and names, and the keys Return and Escape.
 #pragma once
 
 #include "platform/ClassNames.h"
@@ -18,17 +18,18 @@ class ManagementWindow : public QDialog
 public:
     explicit ManagementWindow(QWidget *parent = nullptr);
 
-    // The form's controls under their outlets' names, and the model of its table.
+    // The form's controls by their outlet names, and the model of its table.
     Ui::ProfileManagement controls;
     ProfileTableModel *model = nullptr;
 
-    // Return presses the edit area's OK or the window's, unless another button has the focus.
+    // Sets which OK the Return key presses: the edit area's (true) or the window's. A focused button takes Return
+    // itself.
     void setReturnConfirmsEntry(bool entry);
-    // Says why Delete is not to be had; empty: nothing.
+    // Sets the tool tip and accessible description that say why Delete is greyed out. Empty: none.
     void explainDelete(const QString &reason);
 
 signals:
-    // Escape was pressed; the window stays open unless someone closes it.
+    // Escape was pressed. The window does not close by itself.
     void escapePressed();
 
 protected:

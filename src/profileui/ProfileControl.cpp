@@ -1,4 +1,4 @@
-// The window's life and its modes: opening, selecting, editing, closing.
+// The modes of the management window: opening, selecting, editing, closing.
 #include "profileui/ProfileControl.h"
 
 #include "colorrules/AdvancedColorOptions.h"
@@ -21,14 +21,14 @@
 
 namespace {
 
-// Where browsing for a profile begins.
+// The folder in which browsing for a profile starts.
 constexpr char kBrowseFolder[] = "/Library/Printers/BREVANE/QL70/Profiles";
 
 constexpr uint32_t kFileNameLimit = 31;
 constexpr uint32_t kExtensionLimit = 3;
 constexpr uint32_t kProfileNameLimit = 30;
 
-// A new entry's place in the printer's table, counted on from its slot; and what else it starts with.
+// Initial values of a new entry. Its index in the printer's table is kFirstOwnIndex plus its slot.
 constexpr int32_t kFirstOwnIndex = 500;
 constexpr int32_t kNewProfileClass = 2;
 constexpr int32_t kNewAvailability = 3;
@@ -44,7 +44,7 @@ void setField(char (&field)[kProfileTextBytes], const QString &text)
     bv::setFieldText(field, text.toStdString());
 }
 
-// Whether a file's name may go into the file name field without having been typed there.
+// Whether the name of a browsed file may be put into the file name field.
 bool isUsableFileName(const QString &name)
 {
     if (name.size() > static_cast<qsizetype>(kFileNameLimit) || name.count(u'.') > 1)
@@ -189,7 +189,7 @@ void ProfileControl::writeLists()
 
 void ProfileControl::updateAdvancedPane()
 {
-    // The menus follow the file, whether it was written or not.
+    // The menus show what the file holds, also when writing it failed.
     if (m_advanced) {
         m_advanced->rebuildProfileItems();
         m_advanced->getControlValueFromTicket();
@@ -265,7 +265,7 @@ void ProfileControl::selectionChanged()
     const ProfileRecord &record = currentProfileDict()->records[row];
     const bool onPrinter = bv::isOnPrinter(record.InMenu);
     showFields(textOf(record.FileName), textOf(record.ProfileName));
-    // Any other storage leaves the menu as it was.
+    // An unknown location leaves the menu unchanged.
     if (const int item = m_window->controls._locationMenu->findData(record.Location); item >= 0)
         m_window->controls._locationMenu->setCurrentIndex(item);
     enableListButtons(true, true, !onPrinter);
@@ -316,7 +316,7 @@ void ProfileControl::addButton()
     c._profileMenu->setEnabled(false);
     enableListButtons(false, false, false);
     enableEditArea(true, true);
-    // The file name field enables it once its text is usable.
+    // The file name field enables this button once its text is usable.
     c._localOK->setEnabled(false);
     c._fileNameEdit->setFocus();
 }
@@ -337,7 +337,7 @@ void ProfileControl::editButton()
 void ProfileControl::endEditing()
 {
     const Ui::ProfileManagement &c = m_window->controls;
-    // The table takes the focus before the edit area loses it to whatever stands next.
+    // Moves the focus to the table first. Disabling the edit area would pass it to the next control.
     c._profileTableView->setFocus();
     setMode(kIdle);
     c._profileMenu->setEnabled(true);
@@ -429,7 +429,7 @@ void ProfileControl::deleteButton()
     ProfileList *list = currentProfileDict();
     rememberDeleted(list->records[row]);
     std::copy(list->records + row + 1, std::end(list->records), list->records + row);
-    // Only the code says that the last slot is free; its other fields stay.
+    // Marks the last slot as free. Its other fields are left as they are.
     list->records[kProfileSlots - 1].InMenu = bv::kFreeSlot;
     --list->count;
     showFields({}, {});
@@ -441,7 +441,7 @@ void ProfileControl::deleteButton()
 void ProfileControl::browseButton()
 {
     const QString folder = QString::fromStdString(bv::mapRootPath(kBrowseFolder));
-    // Its parent may go while it is open, and takes it along.
+    // The parent window may be destroyed while the panel is open, and destroys the panel with it.
     const QPointer<QFileDialog> panel(new QFileDialog(m_window, localizedString("Choose a Profile"), folder));
     panel->setOption(QFileDialog::DontUseNativeDialog);
     panel->setFileMode(QFileDialog::ExistingFile);
@@ -459,7 +459,7 @@ void ProfileControl::takeBrowsedName(const QString &fileName)
     c._fileNameEdit->setFocus();
     c._fileNameEdit->putText({});
     c._localOK->setEnabled(false);
-    // A whole name of up to 31 units is taken even where typing would keep room for a dot and an extension.
+    // Intended: a browsed name may have 31 units without a dot. Typing allows fewer, to leave room for the extension.
     if (!isUsableFileName(fileName))
         return;
     c._fileNameEdit->putText(fileName);

@@ -26,20 +26,20 @@ public:
     explicit ProfileControl(QObject *parent = nullptr);
     ~ProfileControl() override;
 
-    // The outlets: the advanced pane, whose ticket and menus follow this window, and the widget over whose window this
-    // one stands. Both are borrowed and may be null.
+    // The advanced pane, whose ticket and menus are updated after OK, and a widget of the parent window. Both are
+    // borrowed and may be null.
     void setAdvancedColorOptions(AdvancedColorOptions *pane);
     void setParentWidget(QWidget *parent);
-    // The ticket and the print session (borrowed); the session says whether the queue is on the network.
+    // The ticket and the print session, both borrowed. The session tells whether the queue is on the network.
     void setPMPrint(PMPrintSettings settings, PMPrintSession session);
-    // The table to which the option rules are applied after OK (borrowed; null: none).
+    // The table that the option rules are applied to after OK. Borrowed; null: no rules are applied.
     void setConstTable(PDEControlTable table);
 
-    // Makes the window, in its idle state, and reads the lists.
+    // Creates the window in its idle state and reads the lists.
     void initWithProfileControl();
-    // The list of the class menu's item: 1 SIM, 2 DST, else RGB.
+    // The list that the class menu selects: 1 SIM, 2 DST, else RGB.
     ProfileList *currentProfileDict();
-    // Whether the selected row is a profile known from the printer; false without a selected row.
+    // Whether the selected row is a profile known from the printer. False when no row is selected.
     bool isCustomProfile();
 
 public slots:
@@ -50,7 +50,7 @@ public slots:
     void editButton();
     void deleteButton();
     void browseButton();
-    // The edit area's OK: takes the entry into the list, or does nothing.
+    // The edit area's OK. Takes the entry into the list; an invalid entry is ignored without a message.
     void profileOK();
     void profileCancel();
     // The window's OK: writes the lists, brings the advanced pane up to date, closes the window.
@@ -65,7 +65,7 @@ private:
     void escape();
     bool isLocalQueue() const;
     ProfileList *currentDeleteDict();
-    // The selected row where the current list has one there; else -1.
+    // The selected row, or -1 when none is selected or the current list is shorter.
     int selectedRow();
     void readLists();
     void reloadTable();
@@ -83,7 +83,7 @@ private:
     void writeLists();
     void updateAdvancedPane();
 
-    // One list a class as the window shows it, and the records deleted or replaced in a local queue's.
+    // One list for each class, as the window shows it. For local queues also the records that were deleted or replaced.
     ProfileList plistRGBDict{};
     ProfileList plistSIMDict{};
     ProfileList plistDSTDict{};
@@ -98,5 +98,5 @@ private:
     PMPrintSettings m_settings = nullptr;
     PMPrintSession m_session = nullptr;
     PDEControlTable m_constTable = nullptr;
-    QPointer<bv::ManagementWindow> m_window; // ours, or its parent window's
+    QPointer<bv::ManagementWindow> m_window; // owned; its parent window may destroy it first
 };

@@ -20,7 +20,7 @@ constexpr int kTextPoints = 12;
 
 struct ColumnRow
 {
-    const char *identifier; // by which scripts know the column
+    const char *identifier; // name of the column for scripts
     const char *title;      // localisation key
 };
 
@@ -39,13 +39,13 @@ QString textOf(std::string_view utf8)
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
-// Any value that means true: a boolean, a number other than 0, Qt::Checked.
+// Whether a value means true: the boolean, a number other than 0, Qt::Checked.
 bool meansTrue(const QVariant &value)
 {
     return value.toBool() || value.toInt() != 0;
 }
 
-// Empty for unknown storage.
+// Empty for an unknown location.
 QString storageName(int32_t location)
 {
     const ProfileStorage *storage = profileStorage(location);
@@ -96,7 +96,7 @@ QString ProfileTableModel::cellText(const ProfileRecord &record, int column) con
 
 QVariant ProfileTableModel::iconCell(const ProfileRecord &record, int role) const
 {
-    // Shown or not is a matter of the record; the image file may be missing all the same.
+    // The record alone decides whether the icon is shown. The image file may still be missing.
     const bool shown = m_showIcons && isOnPrinter(record.InMenu);
     switch (role) {
     case kIconShownRole:
@@ -166,7 +166,7 @@ QVariant ProfileTableModel::headerData(int section, Qt::Orientation orientation,
     const ColumnRow &column = kColumnRows[static_cast<size_t>(section)];
     if (role == kColumnIdentifierRole)
         return QString::fromLatin1(column.identifier);
-    // The icon's column is as narrow as its icon; its title is there for those who do not see it.
+    // The icon's column is too narrow for a title. Screen readers and tool tips still get it.
     if (role == Qt::AccessibleTextRole || role == Qt::ToolTipRole || (role == Qt::DisplayRole && section != kIcon))
         return localizedString(column.title);
     return {};

@@ -21,19 +21,19 @@ public:
 
     explicit ProfileTableModel(QObject *parent = nullptr);
 
-    // Answers which list is the current one (borrowed, may be null).
+    // Returns the current list (borrowed, may be null).
     using ListSource = std::function<ProfileList *()>;
 
-    // Shows the current list; the rows stand as they are stored. The source is asked at every access, so what is shown
-    // and what a check mark changes is always the list that is current then. Icons are shown only when asked for.
-    // Resets the model, which clears the selection: call it also after the list has changed.
+    // Shows the current list in its stored order. The source is asked at every access, so the model always shows and
+    // changes the list that is current at that moment. Resets the model, which clears the selection. Call it again
+    // after the list has changed.
     void setList(ListSource list, bool showIcons);
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
-    // Takes Qt::CheckStateRole in the last column: a value that means true puts the profile into the menus, any other
-    // takes it out. False, and nothing changed, where the state code has no other menu state (none of 1 to 6).
+    // Accepts Qt::CheckStateRole in the last column. A value that means true puts the profile into the menus; any other
+    // value takes it out. Returns false and changes nothing if the record's state code is not 1 to 6.
     bool setData(const QModelIndex &index, const QVariant &value, int role) override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;

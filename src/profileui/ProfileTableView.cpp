@@ -99,14 +99,14 @@ void ProfileTableView::fitColumns()
 {
     const QFontMetrics metrics(model()->index(0, ProfileTableModel::kFileName).data(Qt::FontRole).value<QFont>());
     verticalHeader()->setDefaultSectionSize(metrics.height() + kRowPadding);
-    // Asking the delegate for each of 500 rows would take longer than a frame; the widths of the texts do not.
+    // Measuring the texts is fast. Asking the delegate for the size of each of 500 rows takes longer than a frame.
     for (int column = 0; column < model()->columnCount(); ++column)
         setColumnWidth(column, std::max(horizontalHeader()->sectionSizeHint(column), widestText(column, metrics)));
 }
 
 int ProfileTableView::widestText(int column, const QFontMetrics &metrics) const
 {
-    QSet<QString> measured; // storage names and many profile names stand in row after row
+    QSet<QString> measured; // locations and many profile names repeat in many rows
     int widest = 0;
     for (int row = 0; row < model()->rowCount(); ++row) {
         const QString text = model()->index(row, column).data().toString();
@@ -125,7 +125,7 @@ void ProfileTableView::keyboardSearch(const QString &search)
     const bool goesOn = m_sinceTyped.isValid() && m_sinceTyped.elapsed() <= QApplication::keyboardInputInterval();
     m_sinceTyped.start();
     m_typed = goesOn ? m_typed + search : search;
-    // The same letter again and again walks through the rows that begin with it.
+    // Typing the same letter repeatedly walks through the rows that begin with it.
     const bool sameLetter = m_typed.count(m_typed.at(0), Qt::CaseInsensitive) == m_typed.size();
     const QString wanted = sameLetter ? m_typed.left(1) : m_typed;
     int start = std::max(selectedRow(), 0);
@@ -154,7 +154,7 @@ int ProfileTableView::rowForKey(int key) const
         return rows > 0 ? 0 : -1;
     if (key == Qt::Key_End)
         return rows - 1;
-    // The cursor stands on the first row already when the table gets the focus, so an arrow key would pass it by.
+    // The current row is already the first one when the table gets the focus, so an arrow key would skip it.
     const bool arrow = key == Qt::Key_Down || key == Qt::Key_Up;
     return arrow && selectedRow() < 0 && rows > 0 ? 0 : -1;
 }
@@ -163,7 +163,7 @@ void ProfileTableView::keyPressEvent(QKeyEvent *event)
 {
     const bool plain = event->modifiers() == Qt::NoModifier;
     const int row = plain ? rowForKey(event->key()) : -1;
-    // Space is for the row's check mark, in whichever column the cursor is.
+    // Space toggles the row's check mark, whatever the current column.
     if (plain && event->key() == Qt::Key_Space)
         toggleCheckMark();
     else if (row >= 0)

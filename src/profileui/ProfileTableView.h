@@ -1,4 +1,4 @@
-// The management window's table as the user handles it: one row at a time, type-ahead, check marks by mouse and space.
+// The management window's table: selection of one row, search by typing, check marks by mouse and space bar.
 #pragma once
 
 #include "platform/ClassNames.h"
@@ -9,7 +9,7 @@
 
 namespace bv {
 
-// A selection that can be held fast: while it is, no way of selecting (mouse, keys, code) changes it.
+// A selection that can be locked. While it is held, neither mouse, keys nor code can change it.
 class GuardedSelectionModel : public QItemSelectionModel
 {
     Q_OBJECT
@@ -38,16 +38,16 @@ public:
     explicit ProfileTableView(QWidget *parent = nullptr);
 
     void setModel(QAbstractItemModel *model) override;
-    // While held, the selection stays as it is.
+    // Locks or unlocks the selection.
     void setSelectionHeld(bool held);
     // The selected row, or -1.
     int selectedRow() const;
-    // No selected and no current row.
+    // Clears the selection and the current row.
     void deselectRow();
-    // Makes the columns as wide as the texts of the rows ask for.
+    // Fits the column widths to the texts of the rows.
     void fitColumns();
 
-    // Selects the first row from the current one on whose file name begins with what was typed.
+    // Selects the next row, starting at the current one, whose file name begins with the typed text.
     void keyboardSearch(const QString &search) override;
 
 protected:
@@ -57,7 +57,7 @@ protected:
 private:
     int widestText(int column, const QFontMetrics &metrics) const;
     void toggleCheckMark();
-    // The row that a key goes to where the table's own keys would go elsewhere, or -1.
+    // The row that a key moves to where this table differs from Qt's; -1 where Qt's own handling applies.
     int rowForKey(int key) const;
 
     QString m_typed;

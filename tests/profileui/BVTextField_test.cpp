@@ -17,7 +17,7 @@ namespace {
 
 const QString kStem27 = QStringLiteral("abcdefghijklmnopqrstuvwxyz1");
 
-// A window with a field set up as one for file names, the button that it controls, and another place for the focus.
+// A window with a file name field, the button it controls, and another widget that can take the focus.
 class TextField : public testing::Test
 {
 protected:
@@ -56,7 +56,7 @@ protected:
         QApplication::clipboard()->setText(text);
         key(QKeySequence::Paste);
     }
-    // Drops a text from elsewhere before the unit at that position.
+    // Drops a text from another widget before the UTF-16 unit at that position.
     void drop(const QString &text, int at)
     {
         int x = 0;
@@ -96,7 +96,7 @@ TEST_F(TextField, AFileNameHas27UnitsThenADotThenThreeMore)
     EXPECT_FIELD(kStem27, 27);
     type(QStringLiteral(".iccx"));
     EXPECT_FIELD(kStem27 + QStringLiteral(".icc"), 31);
-    // A second dot, wherever; a longer stem.
+    // A second dot at any position, or a longer stem.
     for (const int caret : {0, 5, 27, 28, 31}) {
         field.setCursorPosition(caret);
         type(QStringLiteral("."));
@@ -196,7 +196,7 @@ TEST_F(TextField, TheControlledButtonFollowsTheText)
     EXPECT_TRUE(button.isEnabled());
 }
 
-TEST_F(TextField, ATextPutByCodeIsNotCheckedAndIsWhatARefusalGoesBackTo)
+TEST_F(TextField, ATextSetByCodeIsNotCheckedAndIsRestoredByARefusal)
 {
     const QString odd = QString::fromUtf8("\xC3\xA9t\xC3\xA9 .a.b ") + kStem27;
     button.setEnabled(false);
@@ -205,12 +205,12 @@ TEST_F(TextField, ATextPutByCodeIsNotCheckedAndIsWhatARefusalGoesBackTo)
     EXPECT_FALSE(button.isEnabled());
     type(QStringLiteral("x"));
     EXPECT_FIELD(odd, 2);
-    // Without a change of the focus in between, a text that the owner names is gone back to.
+    // While the focus stays, a refusal restores the text set with setOldString.
     field.setText(QStringLiteral("abc"));
     field.setOldString(QStringLiteral("old"));
     paste(kStem27);
     EXPECT_EQ(field.text(), QStringLiteral("old"));
-    // An editing session starts from the text that stands there.
+    // A new editing session starts from the current text.
     elsewhere.setFocus();
     field.setText(QStringLiteral("new"));
     field.setFocus();
@@ -218,7 +218,7 @@ TEST_F(TextField, ATextPutByCodeIsNotCheckedAndIsWhatARefusalGoesBackTo)
     EXPECT_EQ(field.text(), QStringLiteral("new"));
 }
 
-TEST_F(TextField, ACheckWithoutAnEditingSessionGoesBackToTheTextThatWasNamed)
+TEST_F(TextField, ACheckOutsideAnEditingSessionRestoresTheOldString)
 {
     elsewhere.setFocus();
     for (const QString &forbidden : {kStem27 + u'2', QStringLiteral("a.icc4"), QStringLiteral("a.b.c")}) {
@@ -236,7 +236,7 @@ TEST_F(TextField, ACheckWithoutAnEditingSessionGoesBackToTheTextThatWasNamed)
     EXPECT_EQ(field.text(), QStringLiteral("ab")) << "the checked text is what is remembered";
 }
 
-TEST_F(TextField, UndoAfterARefusalGoesBackBehindItAndNeverLoops)
+TEST_F(TextField, UndoAfterARefusalSkipsTheRefusedTextAndEnds)
 {
     put({}, 0);
     type(QStringLiteral("ab"));
@@ -244,7 +244,7 @@ TEST_F(TextField, UndoAfterARefusalGoesBackBehindItAndNeverLoops)
     type(QStringLiteral("12"));
     paste(kStem27); // refused
     EXPECT_FIELD(QStringLiteral("a12b"), 3);
-    // Every step shows a text that was there before or a part of it, and it ends.
+    // Every step shows an earlier text or a part of it, and the steps end.
     int steps = 0;
     for (; field.isUndoAvailable() && steps < 10; ++steps) {
         key(QKeySequence::Undo);
@@ -292,7 +292,7 @@ TEST_F(TextField, AnInputMethodsTextIsCheckedWhenItIsCommitted)
     EXPECT_FIELD(QStringLiteral("az"), 2);
     compose({}, kStem27);
     EXPECT_FIELD(QStringLiteral("az"), 2);
-    // A commit with more text under way behind it, and one that replaces what stands before it.
+    // A commit followed by more composing, and one that replaces the text before it.
     compose(QStringLiteral("next"), QStringLiteral("b:"));
     EXPECT_EQ(field.text(), QStringLiteral("azb"));
     QInputMethodEvent replacing;

@@ -44,7 +44,7 @@ TEST(KeyFilters, AcceptExactlyTheirCharacters)
     EXPECT_FALSE(AlphaNumericKeyFilter(-128));
 }
 
-TEST(KeyFilters, ASurrogateIsCombinedWithWhateverFollowsAndTheNextIndexIsOneOn)
+TEST(KeyFilters, ASurrogateIsCombinedWithTheNextUnitAndTheIndexAdvancesByOne)
 {
     struct Row
     {
@@ -55,7 +55,7 @@ TEST(KeyFilters, ASurrogateIsCombinedWithWhateverFollowsAndTheNextIndexIsOneOn)
     const Row rows[] = {
         {u"a", 0, 'a'},
         {u"\xD83D\xDE00", 0, 0x1F600},
-        // The second unit of the pair, by itself, with nothing behind it.
+        // The second unit of the pair by itself, at the end.
         {u"\xD83D\xDE00", 1, 0x10000 + ((0xDE00U << 10) & 0xFFC00)},
         // A lead unit before a letter.
         {u"\xD83D"
@@ -81,16 +81,16 @@ TEST(KeyFilters, CheckingATextDeletesUnitByUnit)
               QStringLiteral("ab"));
     // Combining and bidirectional marks, and a NUL in the middle.
     EXPECT_EQ(checked(QString::fromUtf16(u"e\x0301\x202Ex\0y", 6), kFilterAscii), QStringLiteral("exy"));
-    // Filter 4 looks at the pair as one character, and at its second unit as another: neither is refused.
+    // Filter 4 checks the pair, then its second unit again. It accepts both.
     EXPECT_EQ(checked(QString::fromUtf8("\"\xF0\x9F\x98\x80+"), 4), QString::fromUtf8("\xF0\x9F\x98\x80"));
-    // A lone lead unit swallows nothing but itself.
+    // Only a lone lead unit itself is deleted.
     EXPECT_EQ(checked(QString(QChar(0xD83D)) + u'a', kFilterAscii), QStringLiteral("a"));
     EXPECT_EQ(checked({}, kFilterAscii), QString());
 }
 
 TEST(KeyFilters, ThePositionWrapsAt16Bits)
 {
-    // The unit at index 65,536 is refused, the one at position 0 goes.
+    // The unit at index 65,536 is refused, but the one at position 0 is deleted.
     QString text(65537, u'b');
     text[0] = u'a';
     text[65536] = u':';

@@ -1,4 +1,4 @@
-// The window as the panel opens it: the advanced pane's menus and rules follow what OK leaves behind.
+// The window as the panel opens it: the advanced pane's menus and rules are updated after OK.
 #include "platform/Bundle.h"
 #include "plugin/PDEPlugInInterface.h"
 #include "profileui/ProfileWindowFixture.h"
@@ -16,7 +16,7 @@ protected:
     {
         ProfileWindow::SetUp();
         writeFile();
-        // A network queue whose printer is not asked.
+        // A network queue of a kind whose printer is not asked.
         useUri("socket://192.0.2.1");
         callback.settings = &ticket;
         callback.session = &session;
@@ -85,12 +85,12 @@ TEST_F(PanelWindow, MenusFollowAtOnceAndKeepAChoiceThatStillExists)
     for (QComboBox *each : {source, text, menu("menu_gRGBSource")})
         EXPECT_EQ(profileItems(each).join(u' '), after);
     EXPECT_EQ(source->currentText(), QStringLiteral("four.icc(Four)Disk"));
-    // The deleted one gives way to the PPD's default.
+    // The PPD's default replaces the deleted profile.
     EXPECT_FALSE(text->currentText().contains(u'('));
     EXPECT_GE(text->currentIndex(), 0);
 }
 
-TEST_F(PanelWindow, AHelperThatIsGoneLeavesTheMenusTrueToTheFile)
+TEST_F(PanelWindow, WithoutAHelperTheMenusStillShowTheFile)
 {
     QComboBox *source = menu("menu_iRGBSource");
     const QStringList before = profileItems(source);
@@ -105,7 +105,7 @@ TEST_F(PanelWindow, AHelperThatIsGoneLeavesTheMenusTrueToTheFile)
     EXPECT_EQ(fileBytes(), file);
 }
 
-TEST_F(PanelWindow, BelongsToTheWindowThatHoldsThePaneJustNow)
+TEST_F(PanelWindow, BelongsToTheWindowThatCurrentlyHoldsThePane)
 {
     QDialog dialog;
     for (QWidget *holder : {view, static_cast<QWidget *>(&dialog)}) {
@@ -120,7 +120,7 @@ TEST_F(PanelWindow, BelongsToTheWindowThatHoldsThePaneJustNow)
 
 TEST_F(PanelWindow, TheRulesRunAgainAfterOkAndNotAfterCancel)
 {
-    // A preset leaves nothing to adjust in the advanced pane, so its button is greyed out and says why.
+    // Under a preset nothing can be adjusted in the advanced pane, so its button is greyed out and says why.
     auto *toAdvanced = view->findChild<QPushButton *>(QStringLiteral("button_AdvanceColorOptions"));
     ASSERT_TRUE(toAdvanced);
     ASSERT_FALSE(toAdvanced->isEnabled());

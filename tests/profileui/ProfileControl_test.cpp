@@ -21,7 +21,7 @@ TEST_F(ProfileWindow, OpensWithTheStoredListAndNothingSelected)
             SCOPED_TRACE(row);
             EXPECT_EQ(cell(row, 1), QString::fromLatin1(fileNames[row]));
             EXPECT_EQ(cell(row, 3), QString::fromLatin1(locations[row]));
-            // The image file is missing here; the cell says all the same that the row has the icon.
+            // The image file is missing here, but the cell still reports the icon.
             EXPECT_EQ(cell(row, 0, bv::kIconShownRole).toBool(), onPrinter[row]);
             EXPECT_EQ(cell(row, 4, Qt::CheckStateRole) == Qt::Checked, inMenu[row]);
         }
@@ -37,7 +37,7 @@ TEST_F(ProfileWindow, ALocalQueueShowsNoIconsNoUnlistedPrinterProfilesAndOwnsThe
             ASSERT_EQ(table()->model()->rowCount(), 5);
             for (int row = 0; row < 5; ++row)
                 EXPECT_FALSE(cell(row, 0, bv::kIconShownRole).toBool());
-            // What the printer had in the menus counts as the user's.
+            // A printer's profile that is in the menus counts as the user's.
             clickRow(2);
             EXPECT_EQ(cell(2, 1), QStringLiteral("four.icc"));
             EXPECT_TRUE(c()._deleteButton->isEnabled());
@@ -47,7 +47,7 @@ TEST_F(ProfileWindow, ALocalQueueShowsNoIconsNoUnlistedPrinterProfilesAndOwnsThe
     inWindow([&] { EXPECT_EQ(table()->model()->rowCount(), 6); });
 }
 
-TEST_F(ProfileWindow, SelectingARowShowsItAndEnablesWhatMayBeDoneWithIt)
+TEST_F(ProfileWindow, SelectingARowShowsItAndEnablesItsPossibleActions)
 {
     writeFile();
     inWindow([&] {
@@ -60,7 +60,7 @@ TEST_F(ProfileWindow, SelectingARowShowsItAndEnablesWhatMayBeDoneWithIt)
             EXPECT_EQ(c()._fileNameEdit->text(), cell(row, 1).toString());
             EXPECT_EQ(c()._profileNameEdit->text(), cell(row, 2).toString());
             const int32_t location = lists->rgb.records[row].Location;
-            // An unknown storage leaves the menu alone.
+            // An unknown location leaves the menu unchanged.
             EXPECT_EQ(c()._locationMenu->currentIndex(), location == 4 ? 0 : location == 5 ? 1 : before);
             EXPECT_EQ(c()._deleteButton->isEnabled(), deletable[row]);
             EXPECT_EQ(c()._deleteButton->accessibleDescription().isEmpty(), deletable[row]);
@@ -91,7 +91,7 @@ TEST_F(ProfileWindow, TheClassMenuChangesTheList)
         add(QStringLiteral("new.icc"), QStringLiteral("New"));
         press(c()._localOK);
         add(QStringLiteral("half.icc"), QStringLiteral("Half"));
-        press(c()._windowOK); // takes nothing that was not confirmed
+        press(c()._windowOK); // saves nothing that was not confirmed
     });
     const auto file = readFile();
     EXPECT_EQ(summary(file->dst), QStringLiteral("dst.icc:3:4 new.icc:6:4"));
@@ -112,7 +112,7 @@ TEST_F(ProfileWindow, AnEntryIsAddedWithTheKeyboardAlone)
         EXPECT_EQ(enabledControls().join(u' '),
                   QStringLiteral("fileNameEdit browse profileNameEdit locationMenu localCancel"));
         EXPECT_EQ(c()._fileNameEdit->text() + c()._profileNameEdit->text(), QString());
-        // The selection stays, and nothing changes it.
+        // Nothing can change the selection now.
         clickRow(2);
         table()->selectRow(0);
         table()->clearSelection();
@@ -174,7 +174,7 @@ TEST_F(ProfileWindow, RefusalsAreSilentAndLeaveEverythingAsItWas)
     });
 }
 
-TEST_F(ProfileWindow, APrintersProfileChangesOnlyItsName)
+TEST_F(ProfileWindow, OnlyTheNameOfAPrintersProfileCanBeChanged)
 {
     writeFile();
     inWindow([&] {
@@ -194,7 +194,7 @@ TEST_F(ProfileWindow, APrintersProfileChangesOnlyItsName)
     EXPECT_EQ(file->rgb.records[1].IndexOnDevice, 2);
 }
 
-TEST_F(ProfileWindow, AnEntryOfTheUsersChangesAsAWhole)
+TEST_F(ProfileWindow, EveryFieldOfAUsersEntryCanBeChanged)
 {
     writeFile();
     inWindow([&] {
@@ -202,7 +202,7 @@ TEST_F(ProfileWindow, AnEntryOfTheUsersChangesAsAWhole)
         press(c()._editButton);
         EXPECT_EQ(enabledControls().join(u' '),
                   QStringLiteral("fileNameEdit browse profileNameEdit locationMenu localOK localCancel"));
-        // Its own name and storage are no hindrance; another row's are.
+        // Its own name and location may stay; those of another row are refused.
         key(Qt::Key_Return);
         EXPECT_EQ(enabledControls(), kIdleControls);
         clickRow(5);
@@ -223,7 +223,7 @@ TEST_F(ProfileWindow, AnEntryOfTheUsersChangesAsAWhole)
     EXPECT_EQ(file->rgb.records[5].IndexOnDevice, 505);
 }
 
-TEST_F(ProfileWindow, ALocalQueuesChangesAreMergedIntoTheFileOfTheMoment)
+TEST_F(ProfileWindow, ALocalQueuesChangesAreMergedIntoTheCurrentFile)
 {
     writeFile();
     useUri("usb://BREVANE/QL70");
@@ -246,7 +246,7 @@ TEST_F(ProfileWindow, ALocalQueuesChangesAreMergedIntoTheFileOfTheMoment)
         writeFile();
         press(c()._windowOK);
     });
-    // The printer's profiles of the file that were neither shown nor deleted come first; the deleted one is out.
+    // The file's printer profiles that were neither shown nor deleted come first. The deleted one is gone.
     EXPECT_EQ(summary(readFile()->rgb),
               QStringLiteral("two.icc:2:5 late.icc:2:4 one.icc:1:4 three.icc:3:4 five.icc:5:7 seven.icc:6:5"));
     EXPECT_EQ(readFile()->sim.count, 0);
@@ -263,7 +263,7 @@ TEST_F(ProfileWindow, CheckMarksFollowMouseAndSpaceBar)
             table()->selectRow(row);
             key(Qt::Key_Space);
         }
-        // Also while an entry is being made, and twice is as before.
+        // Also works while an entry is being added. Two clicks restore the mark.
         press(c()._addButton);
         clickCell(4, bv::ProfileTableModel::kInMenu);
         clickCell(4, bv::ProfileTableModel::kInMenu);
@@ -292,7 +292,7 @@ TEST_F(ProfileWindow, CancelEscapeAndClosingWriteNothing)
     }
 }
 
-TEST_F(ProfileWindow, OpensAnewWhateverWasGoingOnWhenItWasClosed)
+TEST_F(ProfileWindow, ReopensInTheIdleStateAfterClosingInAnyState)
 {
     useUri("usb://BREVANE/QL70");
     writeFile();
@@ -304,8 +304,8 @@ TEST_F(ProfileWindow, OpensAnewWhateverWasGoingOnWhenItWasClosed)
         add(QStringLiteral("half.icc"), QStringLiteral("Half"));
         window->close();
     });
-    // The profile that was deleted and given back by closing goes out of the file, and comes back while the window is
-    // open: it is as new as any other profile of the printer.
+    // Closing took back the deletion of this profile. It is removed from the file, and added again while the window is
+    // open. It then counts as a new profile of the printer.
     lists->sim = {};
     writeFile();
     inWindow([&] {
@@ -327,7 +327,7 @@ TEST_F(ProfileWindow, ReturnAndEscapeBelongToTheEntryWhileItIsMade)
     writeFile();
     inWindow([&] {
         press(c()._addButton);
-        key(Qt::Key_Return); // the entry's OK is not to be had yet
+        key(Qt::Key_Return); // the entry's OK is not enabled yet
         EXPECT_TRUE(window->isVisible());
         EXPECT_TRUE(c()._localCancel->isEnabled());
         key(Qt::Key_Escape);
@@ -352,7 +352,7 @@ TEST_F(ProfileWindow, WithoutAFileTheListsAreEmptyAndOkMakesOne)
     EXPECT_EQ(summary(readFile()->rgb), QStringLiteral("first:6:4"));
 }
 
-TEST_F(ProfileWindow, AFullListTakesNoMoreAndGivesUpARow)
+TEST_F(ProfileWindow, AFullListRefusesAnEntryButAllowsDeleting)
 {
     while (lists->rgb.count < kProfileSlots)
         append(lists->rgb, 6, "p" + std::to_string(lists->rgb.count) + ".icc", "Filler");
@@ -396,7 +396,7 @@ TEST_F(ProfileWindow, NamesAtTheLimitsAndOfAnyScriptAreShownAndKept)
             clickRow(row);
             EXPECT_EQ(c()._fileNameEdit->text().toStdString(), names[row]);
             press(c()._editButton);
-            // Nothing that was put there is touched until the user changes it.
+            // The field leaves a text from the list unchanged until the user edits it.
             key(Qt::Key_Return);
         }
         press(c()._windowOK);

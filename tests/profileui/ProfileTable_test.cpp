@@ -1,4 +1,4 @@
-// The window's table and controls as hands, screen readers and scripts meet them.
+// The window's table and controls as used by hand, by screen readers and by scripts.
 #include "profileui/IconedCell.h"
 #include "profileui/ProfileTableView.h"
 #include "profileui/ProfileWindowFixture.h"
@@ -12,7 +12,7 @@
 namespace bvtest {
 namespace {
 
-// Picks a file in the panel that the window opens next; an empty path cancels it. Tells the panel's folder.
+// Picks a file in the next file panel; an empty path cancels it. Stores the panel's folder in *folder.
 void answerFilePanel(QObject *context, const QString &path, QString *folder = nullptr)
 {
     QTimer::singleShot(0, context, [=] {
@@ -61,7 +61,7 @@ TEST_F(ProfileWindow, ABrowsedNameIsTakenWholeOrNotAtAll)
         // The last one is shown but not taken into the list.
         key(Qt::Key_Return);
         EXPECT_EQ(table()->model()->rowCount(), 0);
-        // A refused change goes back to the browsed name; a cancelled panel changes nothing.
+        // A refused change restores the browsed name. A cancelled panel changes nothing.
         answerFilePanel(window, folder + QStringLiteral("/sRGB.icc"));
         press(c()._browse);
         c()._fileNameEdit->setFocus();
@@ -73,7 +73,7 @@ TEST_F(ProfileWindow, ABrowsedNameIsTakenWholeOrNotAtAll)
     });
 }
 
-// How a screen reader calls a control. A pop-up menu's own name is its text here, and its label counts.
+// The name that a screen reader speaks. A pop-up menu's own name is its text, so its label is used.
 QString spokenName(QWidget *control)
 {
     QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(control);
@@ -116,7 +116,7 @@ TEST_F(ProfileWindow, TableAndButtonsWorkOnTheListThatTheClassMenuNamesNow)
         c()._profileMenu->setCurrentIndex(kProfileSIM); // by code: nothing is reloaded
         EXPECT_EQ(table()->model()->rowCount(), 1);
         EXPECT_EQ(cell(0, 1), QStringLiteral("sim.icc"));
-        press(c()._deleteButton); // row 3 is none of this list
+        press(c()._deleteButton); // this list has no row 3
         press(c()._editButton);
         EXPECT_TRUE(table()->model()->setData(table()->model()->index(0, bv::ProfileTableModel::kInMenu), false,
                                               Qt::CheckStateRole));
@@ -202,7 +202,7 @@ TEST_F(ProfileWindow, TypingALetterAgainWalksThroughTheRowsThatBeginWithIt)
             type(table(), QStringLiteral("t"));
             EXPECT_EQ(table()->selectedRow(), row);
         }
-        type(table(), QStringLiteral("h")); // "ttth" is none
+        type(table(), QStringLiteral("h")); // no name begins with "ttth"
         EXPECT_EQ(table()->selectedRow(), 1);
         table()->model()->setData(table()->model()->index(0, bv::ProfileTableModel::kInMenu), Qt::Unchecked,
                                   Qt::CheckStateRole);

@@ -1,4 +1,4 @@
-// A root of its own with the real helper and a list file in it, and the management window driven by keys and mouse.
+// Fixture: a separate root with the real helper and a list file, and the management window driven by keys and mouse.
 #pragma once
 
 #include "profileui/ManagementWindow.h"
@@ -79,7 +79,7 @@ protected:
         return read;
     }
 
-    // Opens the window, carries out the steps in it, and closes it where they have not.
+    // Opens the window, runs the steps, and closes the window if they have not.
     void inWindow(const std::function<void()> &steps)
     {
         bool ran = false;
@@ -99,7 +99,7 @@ protected:
     const Ui::ProfileManagement &c() const { return window->controls; }
     bv::ProfileTableView *table() const { return c()._profileTableView; }
     static void press(QPushButton *button) { QTest::mouseClick(button, Qt::LeftButton); }
-    // To whatever has the focus.
+    // Sends a key to the widget that has the focus.
     void key(Qt::Key which, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
         QTest::keyClick(window->focusWidget() ? window->focusWidget() : window, which, modifiers);
@@ -121,7 +121,7 @@ protected:
     {
         return table()->model()->index(row, column).data(role);
     }
-    // Adds an entry by the keyboard, the focus being anywhere.
+    // Adds an entry with the keyboard. The focus may be anywhere.
     void add(const QString &fileName, const QString &profileName, bool onCard = false)
     {
         press(c()._addButton);
@@ -130,7 +130,7 @@ protected:
         c()._locationMenu->setFocus();
         key(onCard ? Qt::Key_End : Qt::Key_Home);
     }
-    // The names of the enabled ones among the buttons, fields and menus.
+    // The names of the enabled buttons, fields and menus.
     QStringList enabledControls() const
     {
         QStringList names;
