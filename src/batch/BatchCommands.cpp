@@ -20,17 +20,17 @@ namespace bv {
 
 namespace {
 
-// What must be there before a command.
+// What must exist before a command can run.
 enum class Needs { Nothing, Panel, View };
 
-// In place of a number of words:
-constexpr int kRestOfLine = -1; // the rest of the line is one argument as it stands
+// Special values for argument counts:
+constexpr int kRestOfLine = -1; // the rest of the line, unchanged, is one argument
 constexpr int kNoEnd = std::numeric_limits<int>::max();
 
 } // namespace
 
-// A command: its word and arguments as people write them, how many arguments it takes, what it needs, whether its
-// result is always null, who does it.
+// A command: its syntax, how many arguments it takes, what it needs, whether its result is always null, and the
+// function that runs it.
 struct BatchCommands::Command
 {
     const char *word;
@@ -88,7 +88,7 @@ BatchCommands::Outcome failure(const QString &sentence)
     return {QJsonValue::Null, sentence};
 }
 
-// Innermost first: a layout takes the sizes of those within it.
+// Innermost layouts first, because an outer layout uses the sizes of the inner ones.
 void settleLayouts(QWidget *widget)
 {
     for (QObject *child : widget->children())
@@ -105,7 +105,7 @@ BatchCommands::Outcome nothing(const QString &error = {})
     return {QJsonValue::Null, error};
 }
 
-// What a panel answers to a question that it may refuse with a text.
+// The outcome of a call that the panel may refuse with a text.
 BatchCommands::Outcome answerOf(bool taken, const QString &error)
 {
     return taken ? result(true) : failure(error.isEmpty() ? QStringLiteral("The panel refuses.") : error);
@@ -194,7 +194,7 @@ BatchCommands::Outcome BatchCommands::panelView(const QStringList &)
         return failure(QStringLiteral("The panel has no view."));
     if (m_view != view) {
         m_view = view;
-        // Nothing shows the view here, so nothing else gives it a size.
+        // In a batch the view is not shown, so it gets its size here.
         m_view->adjustSize();
     }
     return result(view->objectName());
@@ -335,12 +335,12 @@ BatchCommands::Outcome BatchCommands::screenshot(const QStringList &words)
     const ControlRoot root = roots().front();
     if (words[0].isEmpty())
         return failure(QStringLiteral("The picture has no name."));
-    // No window lays the view out, so what came into it since the last picture is settled here.
+    // The view is not shown in a window, so its layouts must be updated here.
     if (!root.isWindow) {
         settleLayouts(root.widget);
         root.widget->adjustSize();
     }
-    // Without a buffer, whose last write would fail unseen.
+    // Unbuffered, because a failing last write of a buffer would go unnoticed.
     QFile file(words[0]);
     return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && root.widget->grab().save(&file, "PNG")
                ? nothing()

@@ -14,8 +14,8 @@ namespace bv {
 class JobSink;
 class PanelLoader;
 
-// One panel serves all commands: it is asked for before the first one that needs it, and no call is made to it that no
-// command stands for. The session, the loader and the sink are borrowed and outlive this object.
+// One panel serves all commands. It is requested before the first command that needs it, and receives only the calls
+// that commands ask for. The session, the loader and the sink are borrowed and outlive this object.
 class BatchCommands
 {
 public:
@@ -24,19 +24,19 @@ public:
     BatchCommands(const BatchCommands &) = delete;
     BatchCommands &operator=(const BatchCommands &) = delete;
 
-    // What a command came to.
+    // The outcome of a command.
     struct Outcome
     {
         QJsonValue result = QJsonValue::Null;
-        QString error; // not empty: the command failed, and result means nothing
+        QString error; // not empty: the command failed, and result is undefined
     };
-    // line.command is not empty.
+    // Runs one command. line.command must not be empty.
     Outcome run(const BatchLine &line);
 
-    // Whether the command's result is null whenever it does not fail.
+    // Whether the command's result is null whenever it succeeds.
     static bool answersNull(const QString &command);
 
-    // Every command as it is written, its arguments in capitals: "set NAME [ROW] VALUE".
+    // The syntax of every command, with arguments in capitals: "set NAME [ROW] VALUE".
     static QStringList usages();
 
 private:
@@ -69,23 +69,23 @@ private:
     Outcome screenshot(const QStringList &words);
     Outcome print(const QStringList &words);
 
-    // Where controls are looked for, in order: the open modal windows from the top one down, then the view.
+    // Where controls are searched, in order: the open modal windows, topmost first, then the view.
     std::vector<ControlRoot> roots() const;
     struct Found
     {
         ControlRoot root;
-        QWidget *control = nullptr; // null: there is none of that name
+        QWidget *control = nullptr; // null: no control has that name
     };
     Found findEverywhere(const QString &name) const;
-    // Finds a control that a user could reach now, in the open modal window or else in the view, and has something done
-    // with it.
+    // Finds a control that a user could reach now, in the open modal window or else in the view, and applies `action`
+    // to it.
     Outcome onControl(const QString &name, const std::function<QString(QWidget *)> &action) const;
 
     QueueSession &m_session;
     PanelLoader &m_loader;
     JobSink &m_sink;
     std::unique_ptr<PrintPanel> m_panel; // null until a command needs it
-    QPointer<QWidget> m_view;            // the panel's; null until panelView
+    QPointer<QWidget> m_view;            // owned by the panel; null until panelView
 };
 
 } // namespace bv

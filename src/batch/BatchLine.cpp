@@ -49,7 +49,7 @@ BatchLine splitBatchLine(const QString &line)
         return split;
     qsizetype position = 0;
     readWord(text, position, split.command);
-    // A pair of quotes with nothing in it is a word, and no command.
+    // An empty pair of quotes is a word, but not a command.
     if (split.command.isEmpty())
         split.command = QStringLiteral("\"\"");
     skipBlanks(text, position);

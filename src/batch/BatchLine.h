@@ -1,4 +1,4 @@
-// One line of a batch: its command's word and what follows.
+// Splitting of a batch line into the command word and its arguments.
 #pragma once
 
 #include "platform/Result.h"
@@ -10,14 +10,14 @@ namespace bv {
 struct BatchLine
 {
     QString command; // empty: a blank line or a comment
-    QString rest;    // what follows the command's word, blanks around it taken away, as it stands in the line
+    QString rest;    // the unchanged text after the command word, without surrounding blanks
 };
 
-// Splits off the command's word, which may stand in double quotes like any other.
+// Splits off the command word. It may be quoted like any other word.
 BatchLine splitBatchLine(const QString &line);
 
-// The words of a line's rest: separated by blanks. A word or a part of it may stand in double quotes, where a backslash
-// in front of a quote or a backslash takes it as it is; any other backslash stands for itself.
+// Splits the rest of a line into words at blanks. A word or a part of it may be in double quotes. Inside quotes, \" and
+// \\ stand for a quote and a backslash; any other backslash is literal. An unclosed quote is an error.
 Result<QStringList> batchWords(const QString &rest);
 
 } // namespace bv

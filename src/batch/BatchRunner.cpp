@@ -15,8 +15,8 @@ namespace bv {
 
 namespace {
 
-// A command that closes a window ends the event loop that ran it, and that loop may still serve one round of events.
-// So a command is carried out in the second round after the one before: by then the code behind the window has run.
+// A command that closes a window ends the event loop that ran it, and that loop may still process one round of events.
+// So each command runs two rounds after the previous one. By then the code that opened the window has finished.
 constexpr int kTurnsBetweenCommands = 2;
 
 } // namespace
@@ -87,7 +87,7 @@ void BatchRunner::turn()
         m_turn.start();
         return;
     }
-    // A command is still being carried out: it opened a window, and its answer is not to wait for that to be closed.
+    // If a command is still running here, it opened a window. Its answer must not wait until that window is closed.
     answerOpenCommand();
     if (m_lines.empty()) {
         if (m_atEnd)
@@ -96,7 +96,7 @@ void BatchRunner::turn()
     }
     const QByteArray line = std::move(m_lines.front());
     m_lines.pop_front();
-    // Before the command, not after it: it may come back only when later commands have closed its window.
+    // Scheduled before the command runs, because it may return only after later commands have closed its window.
     scheduleTurn();
     carryOut(line);
 }
@@ -109,7 +109,8 @@ void BatchRunner::carryOut(const QByteArray &line)
     const bool mayAnswerEarly = BatchCommands::answersNull(split.command);
     if (mayAnswerEarly) {
         m_openCommand = split.command;
-        // Whoever waits for the answer before sending the next line gets it from the loop of a window that opens.
+        // If the command opens a window, that window's event loop sends the answer. A caller may wait for it before
+        // sending the next line.
         scheduleTurn();
     }
     const BatchCommands::Outcome outcome = m_commands.run(split);
@@ -151,7 +152,7 @@ void BatchRunner::endUnanswered()
     std::fprintf(stderr, "bvprint: The answers cannot be written: %s.\n", strerror(errno));
     m_cannotAnswer = true;
     m_failed = true;
-    // What is left is not carried out: nobody would learn what came of it.
+    // The remaining commands are not run, because their answers could not be written.
     m_notifier->setEnabled(false);
     m_lines.clear();
     m_atEnd = true;

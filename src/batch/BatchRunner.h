@@ -1,4 +1,4 @@
-// Reads a batch's commands as events, has them carried out and answers each with a line of JSON.
+// Reads a batch's commands as events, runs them and answers each with a line of JSON.
 #pragma once
 
 #include "batch/BatchCommands.h"
@@ -11,7 +11,7 @@
 
 namespace bv {
 
-// Commands go on being carried out while a modal window is open: they are events like a user's.
+// Commands keep running while a modal window is open, because they are events like a user's.
 class BatchRunner final : public QObject
 {
     Q_OBJECT
@@ -21,12 +21,12 @@ public:
     explicit BatchRunner(BatchCommands &commands);
     ~BatchRunner() override;
 
-    // Opens the script, or standard input for "-"; a sentence when it cannot be read, else empty.
+    // Opens the script, or standard input for "-". Returns a sentence when it cannot be read, else an empty string.
     QString open(const QString &script);
 
-    // Carries out the whole script in the application's event loop, ending modal windows that are still open after its
-    // last command. 0 when no command failed, else 1. An answer that cannot be written is said on standard error and
-    // ends the batch at once, with 1.
+    // Runs the whole script in the application's event loop, then closes modal windows that are still open. Returns 0
+    // when no command failed, else 1. If an answer cannot be written, the batch ends at once with 1 and a message on
+    // standard error.
     int run();
 
 private:
@@ -45,11 +45,11 @@ private:
     QTimer m_turn;
     int m_turnsToWait = 0;
     QByteArray m_unfinished;        // the beginning of a line
-    std::deque<QByteArray> m_lines; // read and not carried out
+    std::deque<QByteArray> m_lines; // read, but not yet run
     bool m_atEnd = false;
     bool m_failed = false;
     bool m_cannotAnswer = false;
-    QString m_openCommand; // being carried out and not answered, with nothing but null to come; else empty
+    QString m_openCommand; // running, not yet answered, and sure to answer null; else empty
 };
 
 } // namespace bv

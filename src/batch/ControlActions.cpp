@@ -31,7 +31,7 @@ std::optional<int> number(const QString &text)
     return isNumber ? std::optional(value) : std::nullopt;
 }
 
-// The number within first and last; else none, and the sentence in error.
+// The number, if it is from first to last. Otherwise nothing, with a sentence in *error.
 std::optional<int> numberWithin(const QString &text, int first, int last, QString *error)
 {
     const std::optional<int> value = number(text);
@@ -91,7 +91,7 @@ QString setField(QLineEdit *field, const QString &value)
     if (field->isReadOnly())
         return QStringLiteral("%1 cannot be changed.").arg(field->objectName());
     takeFocus(field);
-    // What pasting comes to, without touching the clipboard, which may be somebody's who works on this display.
+    // Has the effect of pasting, but leaves the clipboard alone: it may belong to a user of this display.
     field->selectAll();
     field->insert(value);
     return {};
@@ -162,7 +162,7 @@ QString setTableMark(QWidget *table, const QString &column, const QString &row, 
     const Qt::ItemFlags flags = view->model()->flags(index);
     if (!(flags & Qt::ItemIsUserCheckable) || !(flags & Qt::ItemIsEnabled))
         return QStringLiteral("The cell %1 of row %2 has no check mark to set.").arg(column).arg(*at);
-    // A mark that stands as wanted is left alone: what flips a mark may do so whatever it is told.
+    // A mark that is already as wanted is not set again, because some models toggle it on every call.
     const bool isSet = view->model()->data(index, Qt::CheckStateRole).toInt() == Qt::Checked;
     if (isSet != (*mark == 1) &&
         !view->model()->setData(index, *mark == 1 ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole))
@@ -180,7 +180,7 @@ QString typeIntoControl(QWidget *control, const QString &text)
     takeFocus(field);
     const QPointer<QLineEdit> kept(field);
     for (qsizetype i = 0; kept && i < text.size();) {
-        // A character outside the first plane is two units and one key.
+        // A character outside the BMP is two UTF-16 units, but one key.
         const qsizetype length = text[i].isHighSurrogate() && i + 1 < text.size() ? 2 : 1;
         const QString character = text.mid(i, length);
         const int key =

@@ -1,5 +1,5 @@
-// Does with a control what a user does with it, its action included. Each function answers with a sentence when it
-// cannot be done, and then nothing was changed; an empty answer is success.
+// Operates a control as a user would, and triggers its action. Each function returns an empty string on success.
+// Otherwise it returns a sentence, and nothing was changed.
 #pragma once
 
 #include <QString>
@@ -9,7 +9,7 @@ class QWidget;
 
 namespace bv {
 
-// Chooses an item, sets a check mark, replaces a text or shows a tab. The value is a number but for text fields.
+// Chooses an item, sets a check mark, replaces a text or shows a tab. The value is a number, except for text fields.
 QString setControl(QWidget *control, const QString &value);
 
 // Sets the check mark of a table's cell.
@@ -18,10 +18,10 @@ QString setTableMark(QWidget *table, const QString &column, const QString &row, 
 // Types into a text field key by key.
 QString typeIntoControl(QWidget *control, const QString &text);
 
-// Selects a table row; -1 selects none. The table may decline, which is no failure.
+// Selects a table row; -1 selects none. It is not a failure if the table declines.
 QString selectTableRow(QWidget *table, const QString &row);
 
-// Clicks a button. Comes back when a modal window that the button opens is closed.
+// Clicks a button. If the button opens a modal window, returns after that window is closed.
 QString pressControl(QWidget *control);
 
 // Picks a file in an open file panel and closes it; "-" cancels the panel.

@@ -1,4 +1,4 @@
-// The kinds of controls and what is told of each.
+// The kinds of controls and how each is described.
 #include "batch/ControlCatalog.h"
 
 #include "platform/HostProtocol.h"
@@ -25,8 +25,7 @@ namespace bv {
 
 namespace {
 
-// Whether people take the widget for a control of its own. Containers are none, and neither are scroll bars, headers
-// and the tabs of a tab view.
+// Whether the widget is a control to its user. Containers, scroll bars, headers and the tabs of a tab view are not.
 bool isControlKind(const QWidget *widget)
 {
     if (qobject_cast<const QScrollBar *>(widget) || qobject_cast<const QHeaderView *>(widget))
@@ -40,7 +39,8 @@ bool isControlKind(const QWidget *widget)
            qobject_cast<const QPlainTextEdit *>(widget) || qobject_cast<const QTextEdit *>(widget);
 }
 
-// A part of another control: the field of a spin box, the list of a pop-up, a button of a tab bar or a table's corner.
+// Whether the widget is part of another control: the field of a spin box, the list of a pop-up, a button of a tab bar
+// or a table's corner.
 bool isPartOfControl(const QWidget *widget, const QWidget *root)
 {
     for (const QWidget *parent = widget->parentWidget(); parent && parent != root; parent = parent->parentWidget())
@@ -56,7 +56,7 @@ bool isNamedControl(const QWidget *widget, const QWidget *root)
     return !name.isEmpty() && !name.startsWith(u"qt_") && isControlKind(widget) && !isPartOfControl(widget, root);
 }
 
-// A title as it is read: "&" marks the key of a menu and is doubled where it stands for itself.
+// A title without its mnemonic mark "&". A doubled "&" stands for the character itself.
 QString withoutMarks(const QString &title)
 {
     QString text;
@@ -121,7 +121,7 @@ void describeTabs(const QTabWidget &tabs, QJsonObject &description)
     description[u"items"] = items;
 }
 
-// What only fits the control's kind.
+// Adds the entries that depend on the control's kind.
 void describeKind(QWidget *control, QJsonObject &description)
 {
     if (const auto *combo = qobject_cast<QComboBox *>(control))
@@ -154,8 +154,7 @@ void describeKind(QWidget *control, QJsonObject &description)
     }
 }
 
-// A window is a child of the one that it was opened from, and stays so after it was closed. What stands in it belongs
-// to it alone.
+// A window is a child of the window that opened it, also after it was closed. Its controls belong only to itself.
 bool standsIn(const ControlRoot &root, const QWidget *widget)
 {
     return widget->window() == root.widget->window() && isNamedControl(widget, root.widget);

@@ -1,5 +1,5 @@
-// Finds and describes the named controls below a widget, whatever panel they belong to. Controls are known by their
-// kind, never by name.
+// Finds and describes the named controls below a widget, for any panel. Code here depends on the kind of a control,
+// never on its name.
 #pragma once
 
 #include <QJsonArray>
@@ -11,26 +11,27 @@ class QAbstractItemView;
 
 namespace bv {
 
-// How the name of a control is looked up and how far it counts as seen.
+// A widget in which controls are looked up.
 struct ControlRoot
 {
     QWidget *widget = nullptr; // the view of a panel, or a modal window
-    bool isWindow = false;     // a modal window: seen is what is on the screen; a view need not be shown for that
+    bool isWindow = false;     // true: controls count as visible only on the screen; false: also in a view not shown
 };
 
 // The control of that name in the root's own window; null when there is none.
 QWidget *findControl(const ControlRoot &root, const QString &name);
 
-// A control with what fits its kind: name, class, enabled, visible, value, text, items, columns, rows, selected.
+// Describes a control with the entries that fit its kind, out of: name, class, enabled, visible, value, text, items,
+// columns, rows, selected.
 QJsonObject describeControl(const ControlRoot &root, QWidget *control);
 
-// Every named control, in the order in which they were made.
+// Describes every named control, in order of creation.
 QJsonArray describeControls(const ControlRoot &root);
 
-// The identifiers of a table's columns, in order: what the model names them for scripts, else the header's texts.
+// The identifiers of a table's columns, in order: the model's names for scripts, or else the header texts.
 QStringList columnIdentifiers(const QAbstractItemView &table);
 
-// A class name as people know it: without name space and without the suffix that keeps a plug-in's classes apart.
+// A class name without its namespace and without the plug-in's class suffix.
 QString bareClassName(const char *className);
 
 } // namespace bv

@@ -1,4 +1,4 @@
-// The batch, driven from outside on a panel that is not ours.
+// The batch, driven from outside with a test panel in place of the color options.
 #include "batch/ControlActions.h"
 #include "batch/ControlCatalog.h"
 #include "support/BatchProcess.h"
@@ -21,7 +21,7 @@ using ::testing::HasSubstr;
 const QStringList kStart = {"--plugin", BV_BUILD_DIR "/tests/testpanel.so", "--ppd",
                             BV_SOURCE_DIR "/tests/support/small.ppd"};
 
-TEST(Controls, AreDescribedByThemselvesAndDrivenFromTheEndOfWhatStandsThere)
+TEST(Controls, AreDescribedAloneAndTypingAppendsToTheirText)
 {
     QWidget view;
     QWidget box(&view);
@@ -56,7 +56,7 @@ protected:
     QJsonValue result(const QString &command) { return m_batch.result(command); }
     QString error(const QString &command) { return m_batch.error(command); }
     QJsonValue value(const QString &control) { return result("control " + control).toObject()["value"]; }
-    // A command whose result is null: that it is, rather than an error.
+    // Whether a command succeeds with a null result.
     bool does(const QString &command) { return result(command).isNull(); }
 
     QString logPath() const { return m_batch.home() + "/log"; }
@@ -94,11 +94,11 @@ TEST_F(Batch, TheSecondPanelAnswersThroughTheSameCommands)
     EXPECT_EQ(m_batch.standardError(), "");
 }
 
-TEST_F(Batch, OnePanelServesTheBatchAndNoCallIsMadeThatNoCommandStandsFor)
+TEST_F(Batch, OnePanelServesTheBatchAndGetsOnlyTheCallsOfCommands)
 {
     start();
     result("ticket");
-    EXPECT_EQ(log(), QStringList{"initWithBundle "}); // the locale is C: no language
+    EXPECT_EQ(log(), QStringList{"initWithBundle "}); // the locale C gives no language
     result("panelView");
     result("control tonerMenu");
     EXPECT_TRUE(does("set tonerMenu 1"));
@@ -106,7 +106,7 @@ TEST_F(Batch, OnePanelServesTheBatchAndNoCallIsMadeThatNoCommandStandsFor)
     EXPECT_EQ(log(), (QStringList{"initWithBundle ", "made", "panelView", "toner 1", "gone"}));
 }
 
-TEST_F(Batch, PanelsOfATypeAreCountedAndLetGo)
+TEST_F(Batch, PanelsOfATypeAreCountedAndDestroyed)
 {
     start();
     EXPECT_EQ(result("panels BDB091F4-E57F-11D3-B5CC-0050E4603277"), 1);
@@ -125,7 +125,7 @@ TEST_F(Batch, ControlsNeedTheView)
     EXPECT_EQ(m_batch.finish(), 1);
 }
 
-TEST_F(Batch, EveryNamedControlIsDescribedAsFits)
+TEST_F(Batch, EveryNamedControlIsDescribedByItsKind)
 {
     startWithView();
     QJsonObject byName;
@@ -150,7 +150,7 @@ TEST_F(Batch, EveryNamedControlIsDescribedAsFits)
     EXPECT_EQ(byName["paperTable"].toObject()["selected"], -1);
 }
 
-TEST_F(Batch, SettingDoesWhatAUserDoesActionIncluded)
+TEST_F(Batch, SettingAControlTriggersItsAction)
 {
     startWithView();
     EXPECT_TRUE(does("set tonerMenu 2"));
@@ -158,7 +158,7 @@ TEST_F(Batch, SettingDoesWhatAUserDoesActionIncluded)
     EXPECT_EQ(log().count("toner 2"), 2);
     EXPECT_TRUE(does("set stampCheck 1"));
     EXPECT_EQ(result("control stampText").toObject()["enabled"], true);
-    EXPECT_TRUE(does("set sheetSpin 4")); // on the tab that is not shown
+    EXPECT_TRUE(does("set sheetSpin 4")); // on a tab that is not shown
     EXPECT_EQ(value("sheetSpin"), 4);
     EXPECT_TRUE(does("set tabs 1"));
     EXPECT_EQ(result("control sheetSpin").toObject()["visible"], true);
@@ -183,7 +183,7 @@ TEST_F(Batch, PastingAndTypingRunTheFieldsOwnChecks)
     EXPECT_EQ(value("stampText"), "");
 }
 
-TEST_F(Batch, AModalWindowGoesFirstAndCommandsGoOnInWindowsWithinWindows)
+TEST_F(Batch, AModalWindowIsSearchedFirstAndCommandsWorkInNestedWindows)
 {
     startWithView();
     EXPECT_FALSE(error("controls modal").isEmpty());
@@ -215,7 +215,7 @@ TEST_F(Batch, AModalWindowGoesFirstAndCommandsGoOnInWindowsWithinWindows)
     EXPECT_EQ(log().count("editor closes"), 1);
 }
 
-TEST_F(Batch, TheEndOfInputEndsWindowsThatAreStillOpen)
+TEST_F(Batch, TheEndOfInputClosesOpenWindows)
 {
     startWithView();
     EXPECT_TRUE(does("press editButton"));
@@ -225,7 +225,7 @@ TEST_F(Batch, TheEndOfInputEndsWindowsThatAreStillOpen)
     EXPECT_EQ(log().last(), "gone");
 }
 
-// One behind the other, a bar between.
+// Separated by bars.
 const QString kWrongCommands =
     R"(bogus|PanelName|panelName x|set tonerMenu|set tonerMenu 3|set tonerMenu -1|set tonerMenu one|)"
     R"(set tonerMenu ""|set stampCheck 2|set stampText x|type stampText x|set nothing 1|set tabs 2|)"
@@ -255,7 +255,7 @@ TEST_F(Batch, AWrongCommandIsAnErrorThatChangesNothingAndDoesNotEndTheBatch)
 TEST_F(Batch, PicturesShowTheViewOrTheModalWindow)
 {
     startWithView();
-    const QString view = m_batch.home() + "/view.dat"; // PNG whatever the name
+    const QString view = m_batch.home() + "/view.dat"; // PNG for any file name
     const QString window = m_batch.home() + "/window.png";
     EXPECT_TRUE(does("screenshot " + view));
     EXPECT_TRUE(does("press editButton"));

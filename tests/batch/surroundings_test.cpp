@@ -1,4 +1,4 @@
-// What lies around the program: displays, locales, streams that take no answers, and programs that the pane starts.
+// The program's environment: displays, locales, streams that cannot be written, and programs started by the pane.
 #include "support/BatchProcess.h"
 
 #include <QDir>
@@ -80,7 +80,8 @@ TEST(Surroundings, OnlyABatchShowsTheKeysOfTextsAndOnlyInTheLocaleC)
 
 TEST(Surroundings, AnswersThatCannotBeWrittenEndTheBatchWithALine)
 {
-    // The pipe's reader is gone; more is answered than a pipe holds, so it does not matter when it went.
+    // The pipe has no reader. The answers exceed a pipe's capacity, so the moment at which the reader ended does not
+    // matter.
     for (const char *stream : {">/dev/full", ">&-", "| :"}) {
         BatchProcess home;
         QFile script(home.home() + "/script");
@@ -109,7 +110,7 @@ TEST(Surroundings, APictureThatCannotBeWrittenIsAnError)
 
 TEST(Surroundings, AProgramOfThePaneGetsNoStreamNoDescriptorAndNoVariableOfOurs)
 {
-    // One that this process forgot to close reaches bvprint, and must get no further.
+    // bvprint inherits a descriptor that this process left open. It must not pass it on.
     constexpr int kForgotten = 77;
     ASSERT_EQ(dup2(STDERR_FILENO, kForgotten), kForgotten);
     BatchProcess batch;
