@@ -17,12 +17,12 @@ struct CommandLine
     SessionRequest session; // --queue, --ppd, --device-uri, --ticket, --no-printer
     QString script;         // --batch: a file of commands, or "-" for standard input
     QString plugin;         // --plugin; empty: the installed or built plug-in
-    QString screenshot;     // --screenshot: a PNG file for the ready window, which is then closed
+    QString screenshot;     // --screenshot: a PNG file to save the window to; then it is closed
     QStringList documents;  // the files to print
 };
 
-// Reads the arguments, without the program's name. The sentence of a failure says which argument is wrong; the
-// program then ends with status 2.
+// Reads the arguments, without the program's name. The sentence of a failure names the wrong argument; the program then
+// ends with status 2.
 Result<CommandLine> parseCommandLine(const QStringList &arguments);
 
 // What --help prints.

@@ -12,14 +12,14 @@ namespace bv {
 
 namespace {
 
-// Beginnings of remarks that tell the user of this program nothing.
+// Beginnings of remarks that are of no use to the user.
 constexpr std::array<const char *, 3> kDropped = {
-    "Detected locale ",                        // the locale "C" is one that this program is to work in
-    "This plugin does not support ",           // a window system without a display says so of each window
-    "QStandardPaths: XDG_RUNTIME_DIR not set", // nothing is kept there
+    "Detected locale ",                        // the program supports the locale "C"
+    "This plugin does not support ",           // repeated for each window when there is no display
+    "QStandardPaths: XDG_RUNTIME_DIR not set", // the program stores nothing there
 };
 
-// The beginning of Qt's last words when no window system will have it.
+// The beginning of Qt's fatal message when no window system works.
 constexpr const char *kNoWindowSystem = "This application failed to start";
 
 constexpr qsizetype kMostComplaints = 8;
@@ -30,25 +30,25 @@ QtMessageHandler &previousHandler()
     return handler;
 }
 
-// Whether the window system speaks. The Wayland plug-in does so under no name of its own.
+// Whether a message is from the window system. The Wayland plug-in uses no logging category of its own.
 bool isOfWindowSystem(const QMessageLogContext &context, const QString &text)
 {
     return (context.category && std::strncmp(context.category, "qt.qpa.", 7) == 0) ||
            text.startsWith(u"Failed to create wl_display");
 }
 
-// What the window system complained about so far, should it turn out that the program cannot start for it.
+// Messages of the window system so far. They are shown if the program cannot start.
 QStringList &complaints()
 {
     static QStringList texts;
     return texts;
 }
 
-// In place of Qt's own end, which is a list of plug-ins and a core dump.
+// Replaces Qt's own exit, which prints a list of plug-ins and dumps core.
 [[noreturn]] void endWithoutWindow()
 {
     QStringList reasons = complaints();
-    // Where the display's own complaint is known, that its plug-in did not load says nothing more.
+    // If the display itself gave a reason, the message that its plug-in did not load adds nothing.
     if (reasons.size() > 1)
         reasons.removeIf([](const QString &text) { return text.startsWith(u"Could not load the Qt platform plugin"); });
     QString text = QStringLiteral("No window can be opened: %1.").arg(reasons.join(QStringLiteral("; ")).simplified());

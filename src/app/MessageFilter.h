@@ -1,10 +1,10 @@
-// Keeps the toolkit's remarks about its own surroundings off standard error, but for why there is no window.
+// Keeps Qt's remarks about its environment off standard error, except the reason why no window can be opened.
 #pragma once
 
 namespace bv {
 
-// To be called before the application object is made. Where that finds no window system the program ends with status 2
-// and one line on standard error that says why. Other messages go where they went before.
+// Call before the application object is made. If Qt then finds no window system, the program ends with status 2 and one
+// line on standard error that says why. Other messages are passed on.
 void installMessageFilter();
 
 } // namespace bv

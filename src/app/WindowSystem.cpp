@@ -12,7 +12,7 @@ Result<QByteArray> windowSystem(const CommandLine &line)
     const bool isBatch = line.mode == CommandLine::Mode::Batch;
     if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || (!isBatch && (isWayland || isX11)))
         return QByteArray();
-    // A batch needs no window: it shows some where it can, and a display that does not answer is like none.
+    // A batch shows windows if it can, but does not need to. A display that does not answer counts as none.
     if (isBatch)
         return QByteArray(isWayland ? "wayland;" : "") + (isX11 ? "xcb;" : "") + "offscreen";
     if (!line.screenshot.isEmpty())

@@ -9,7 +9,7 @@
 namespace bv {
 
 // The value of Qt's option -platform for this command line and environment; empty where the choice is left to Qt. A
-// failure's sentence says that there is no display for the window. QT_QPA_PLATFORM, where set, decides alone.
+// failure means that there is no display for the window. If QT_QPA_PLATFORM is set, it alone decides.
 Result<QByteArray> windowSystem(const CommandLine &line);
 
 } // namespace bv

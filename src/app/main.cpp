@@ -21,7 +21,7 @@ namespace {
 
 constexpr int kBadStart = 2;
 
-// One line, whatever the sentence holds.
+// Prints the sentence as one line, even if it holds line breaks.
 int refuse(const QString &sentence)
 {
     std::fprintf(stderr, "bvprint: %s\n", sentence.simplified().toUtf8().constData());
@@ -45,7 +45,8 @@ int runBatch(const bv::CommandLine &line, bv::PanelLoader &loader)
     bv::FolderSink nowhere;
     bv::JobSink &sink = line.session.usesServer() ? static_cast<bv::JobSink &>(printServer) : nowhere;
     bv::BatchCommands commands(*session.value(), loader, sink);
-    // A pipe that nobody reads, or a file that has reached its limit, is an error of the write and not the end.
+    // With these signals ignored, a closed pipe or a file at its size limit is a write error and does not kill the
+    // program.
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
     bv::BatchRunner runner(commands);
@@ -58,8 +59,8 @@ int runBatch(const bv::CommandLine &line, bv::PanelLoader &loader)
 
 int main(int argc, char **argv)
 {
-    // A stream that was closed before the start would lend its number to the next file that is opened, and a batch
-    // would read that.
+    // If a standard stream is closed at the start, the next opened file would get its number, and a batch would read
+    // that file.
     if (!bv::openStandardDescriptors(O_RDONLY))
         return kBadStart;
     QStringList arguments;
@@ -77,8 +78,8 @@ int main(int argc, char **argv)
         return refuse(platform.error());
 
     bv::installMessageFilter();
-    // Our own options are read already; Qt gets none of them, so a document may have any name. The window system is an
-    // option and no variable, which every program that the pane starts would inherit.
+    // Qt gets none of our arguments, so that a document may have any name. The window system is passed as an option,
+    // because programs started by the pane would inherit a variable.
     QByteArray option("-platform");
     QByteArray value = platform.value();
     std::array<char *, 4> words = {argv[0], option.data(), value.data(), nullptr};
@@ -86,13 +87,13 @@ int main(int argc, char **argv)
     const QApplication application(wordCount, words.data());
     QCoreApplication::setApplicationName(QStringLiteral("bvprint"));
 
-    // In the locale C a script reads the keys of texts. People in front of a window always read words.
+    // In the locale C a batch shows the keys of texts. A window always shows words.
     const QString language = line.mode == Mode::Batch && bv::isLocaleC() ? QString() : bv::messageLocale();
     bv::PanelLoader loader;
     if (const auto loaded = loader.load(line.plugin, language); !loaded)
         return refuse(loaded.error());
     if (line.mode == Mode::Batch) {
-        // A file panel of the desktop could not be driven.
+        // A batch cannot operate the desktop's own file panel.
         QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         return runBatch(line, loader);
     }

@@ -1,5 +1,5 @@
-// What is read from outside before anything runs: the command line, the words of a batch line, display and locale; and
-// the page that says how commands are written.
+// Input read before anything runs: command line, batch lines, display and locale. Also checks the page that documents
+// the batch commands.
 #include "app/CommandLine.h"
 #include "app/WindowSystem.h"
 #include "batch/BatchCommands.h"
@@ -50,7 +50,7 @@ TEST(CommandLine, IsRefusedInASentenceThatNamesTheArgument)
     }
 }
 
-TEST(WindowSystem, IsOffscreenOnlyWhereNoDisplayIsAndNoWindowIsWaitedFor)
+TEST(WindowSystem, IsOffscreenOnlyWithoutADisplayAndWithoutAUserAtTheWindow)
 {
     struct Row
     {
@@ -77,7 +77,7 @@ TEST(WindowSystem, IsOffscreenOnlyWhereNoDisplayIsAndNoWindowIsWaitedFor)
     }
 }
 
-// The first cell of each row in the page's tables of commands.
+// Compares the first cell of each row in the page's tables of commands.
 TEST(BatchPage, ShowsEveryCommandAsTheProgramTakesIt)
 {
     QFile page(BV_SOURCE_DIR "/docs/batch.md");
@@ -117,8 +117,8 @@ TEST(BatchWords, AnOpenQuoteIsAnErrorAndTheRestOfALineStaysAsItStands)
     EXPECT_EQ(bv::splitBatchLine(" setTicket  {\"a\": \"b  \\\" c\"} ").rest, "{\"a\": \"b  \\\" c\"}");
 }
 
-// Each test is a process of its own, so the variables need no putting back.
-TEST(MessageLocale, IsTheFirstOfTheThreeThatIsSetAndWordsAreEnglishWithoutOne)
+// Each test runs in a separate process, so the variables are not restored.
+TEST(MessageLocale, IsTheFirstVariableSetAndEnglishWithoutOne)
 {
     struct Row
     {
