@@ -5,7 +5,7 @@
 
 namespace bv {
 
-// The job attributes that the rows send.
+// The job attributes that those rows send.
 inline constexpr char kCopiesKey[] = "copies";
 inline constexpr char kPageRangesKey[] = "page-ranges";
 
@@ -13,7 +13,7 @@ inline constexpr char kPageRangesKey[] = "page-ranges";
 inline constexpr char kPpdCopiesKey[] = "Copies";
 inline constexpr char kPpdPageRangesKey[] = "PageRanges";
 
-// Takes them all out of a ticket that outlives a job, or that one begins with.
+// Removes these keys from a ticket. Done when a ticket is stored, and when the dialog starts from one.
 inline void removeJobOnlyKeys(PrintDictionary *ticket)
 {
     for (const char *key : {kCopiesKey, kPageRangesKey, kPpdCopiesKey, kPpdPageRangesKey})

@@ -7,7 +7,7 @@ namespace bv {
 
 namespace {
 
-// Without codeset and modifier; empty where none is set.
+// The locale's name without codeset and modifier; empty when none is set.
 QString localeName()
 {
     for (const char *variable : {"LC_ALL", "LC_MESSAGES", "LANG"})

@@ -1,4 +1,4 @@
-// Opening a PPD file so that every later reader finds it in one state.
+// Opens a PPD file and brings it into a uniform state for all later readers.
 #include "queues/PpdFile.h"
 
 #include "queues/Locale.h"
@@ -24,8 +24,8 @@ QString tr(const char *text)
     return QCoreApplication::translate("PpdFile", text);
 }
 
-// Whether a compressed file ends before its text does, which libcups does not tell from the end of the text: such a
-// file closes with the length of the text (RFC 1952, 2.3.1), or of its last part where it was put together of several.
+// Whether a compressed file is cut off. libcups reports this as a normal end. A complete file ends with the length of
+// its text, or of its last member if it has several (RFC 1952, 2.3.1).
 bool endsEarly(const QString &path, qint64 length)
 {
     QFile file(path);
@@ -40,7 +40,7 @@ struct CloseCupsFile
     void operator()(cups_file_t *file) const { cupsFileClose(file); }
 };
 
-// The text as libcups reads it, that of a compressed file included; nothing when it is damaged.
+// The text as libcups reads it, decompressed if necessary. Nothing when the file is damaged.
 std::optional<QByteArray> readText(const QString &path)
 {
     const std::unique_ptr<cups_file_t, CloseCupsFile> file(cupsFileOpen(QFile::encodeName(path).constData(), "r"));
@@ -55,14 +55,15 @@ std::optional<QByteArray> readText(const QString &path)
             break;
         text.append(bytes, count);
     }
-    // The end and an error are one answer; only the error has a number.
+    // The read function returns the same value for the end and for an error. Only an error sets errno.
     if (errno != 0 || (cupsFileCompression(file.get()) && endsEarly(path, text.size())))
         return std::nullopt;
     return text;
 }
 
-// What a text that ends too early leaves open. libcups takes such a text for a smaller printer; "" when all is closed.
-// Keywords begin their line, and a quoted value may go over several lines (PPD 4.3, sections 3.2 and 3.6).
+// Names what is still open at the end of a truncated text; "" when nothing is. libcups would accept such a text as a
+// printer with fewer options. Keywords begin their line, and a quoted value may go over several lines (PPD 4.3,
+// sections 3.2 and 3.6).
 QString leftOpen(QByteArray text)
 {
     QByteArray option;
@@ -80,7 +81,7 @@ QString leftOpen(QByteArray text)
             group = line;
         else if (!quoted && line.startsWith("*CloseGroup"))
             group.clear();
-        // A translation in front of the colon may hold a quote that opens nothing.
+        // A translation before the colon may contain a quote that does not open a value.
         const QByteArray value = quoted ? line : line.mid(line.indexOf(':') + 1).trimmed();
         if (quoted || value.startsWith('"'))
             quoted = quoted != (value.count('"') % 2 == 1);
@@ -96,7 +97,7 @@ Result<PpdFile> PpdFile::open(const QString &path, const QString &name)
 {
     using Ppd = Result<PpdFile>;
     const QString called = name.isEmpty() ? path : name;
-    // libcups would open a folder, a device or a pipe as well, and wait for it.
+    // libcups would also open a folder, a device or a pipe, and could block.
     if (const QFileInfo info(path); info.exists() && !info.isFile())
         return Ppd::failure(tr("The PPD %1 is no file.").arg(called));
     ppd_file_t *file = ppdOpenFile(QFile::encodeName(path).constData());
@@ -114,8 +115,8 @@ Result<PpdFile> PpdFile::open(const QString &path, const QString &name)
         return Ppd::failure(tr("The PPD %1 is damaged or cut off.").arg(called));
     if (const QString open = leftOpen(*text); !open.isEmpty())
         return Ppd::failure(tr("The PPD %1 is cut off: %2 is not closed.").arg(called, open));
-    // libcups has converted every text to UTF-8, whether the file says what it was in or not, but tells so only in the
-    // first case. The PPD owns the string and frees it with free(3).
+    // libcups converts every text to UTF-8, but sets lang_encoding only if the file names its encoding. The PPD owns
+    // the string and frees it with free(3).
     if (!file->lang_encoding)
         file->lang_encoding = strdup("UTF-8");
     if (!isLocaleC())

@@ -11,9 +11,8 @@ namespace bv {
 class PpdFile
 {
 public:
-    // Opens a file; the sentence of a failure calls it by its name, or by its path where that is empty, and says the
-    // line where libcups knows one. The PPD's texts are localised for the locale of messages, unless that is "C",
-    // "POSIX" or "C.UTF-8".
+    // Opens a file. The sentence of a failure contains `name`, or the path if `name` is empty, and the line if libcups
+    // reports one. The PPD's texts are localised for the locale of messages, unless that is "C", "POSIX" or "C.UTF-8".
     static Result<PpdFile> open(const QString &path, const QString &name = QString());
 
     // Owned by this object; never null.

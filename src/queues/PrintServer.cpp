@@ -13,7 +13,7 @@ QString tr(const char *text)
     return QCoreApplication::translate("PrintServer", text);
 }
 
-// The list that cupsGetDests2 hands out, freed with it.
+// The list from cupsGetDests2, freed with this object.
 struct Destinations
 {
     cups_dest_t *first = nullptr;

@@ -19,8 +19,8 @@ using HttpConnection = std::unique_ptr<http_t, HttpClose>;
 struct PrintQueue
 {
     QString name;
-    QString description;              // as people named it; empty where nobody did
-    QString location;                 // empty where nobody gave one
+    QString description;              // for people; may be empty
+    QString location;                 // may be empty
     std::optional<QString> deviceUri; // without user name and password
     bool isDefault = false;
     bool isStopped = false; // jobs wait until someone resumes it
@@ -28,11 +28,11 @@ struct PrintQueue
     QString stateMessage; // the server's words on its state; may be empty
 };
 
-// How a queue is called on screen: its description where it has one, else its name.
+// The queue's title on screen: its description, or its name if it has none.
 QString queueTitle(const PrintQueue &queue);
 
-// Every call makes a connection of its own and may wait for the server, at most kConnectMilliseconds to connect.
-// The server is the one that libcups names (CUPS_SERVER, client.conf).
+// Every call opens its own connection and may block. Connecting takes at most kConnectMilliseconds. The server is the
+// one that libcups names (CUPS_SERVER, client.conf).
 class PrintServer
 {
 public:

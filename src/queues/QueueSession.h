@@ -9,15 +9,15 @@
 
 namespace bv {
 
-// Names the queue of a session.
+// Identifies the queue of a session.
 struct QueueIdentity
 {
     QString name;
-    std::optional<QString> deviceUri; // nothing when the print server gives none
+    std::optional<QString> deviceUri; // nothing when the print server reports none
     bool hasPrinter = true;           // false: the session has no current printer
 };
 
-// The callback object of the panels that are made for this queue; it outlives them.
+// The callback object of this queue's panels. It must outlive them.
 class QueueSession final : public PrintSession, public PrintPanelCallback
 {
 public:

@@ -1,4 +1,4 @@
-// Where the dialog's printers come from: the print server, or one PPD file that stands in for it.
+// Where the dialog's printers come from: the print server, or one PPD file in its place.
 #pragma once
 
 #include "queues/PrintServer.h"
@@ -16,18 +16,18 @@ public:
 
     // The queues to choose from. May wait for the network.
     virtual Result<std::vector<PrintQueue>> queues() = 0;
-    // A queue's PPD, opened anew by each call. May wait for the network; also called from a thread that looks through
-    // the queues in the background.
+    // A queue's PPD. Each call opens it again and may wait for the network. Must be thread-safe: a background thread
+    // that examines all queues calls it as well.
     virtual Result<PpdFile> ppd(const QString &queue) const = 0;
-    // False where a session is to have no current printer.
+    // False: sessions have no current printer.
     virtual bool hasPrinter() const { return true; }
 };
 
 // The print server that libcups names.
 std::unique_ptr<QueueSource> makeServerSource();
 
-// The one queue that a PPD file describes; location is what people read as its place. The failure's sentence says why
-// the PPD cannot be used.
+// The single queue that a PPD file describes. `location` is its place as shown to people. The sentence of a failure
+// says why the PPD cannot be used.
 Result<std::unique_ptr<QueueSource>> makePpdSource(const SessionRequest &request, const QString &location);
 
 } // namespace bv

@@ -16,7 +16,7 @@ namespace bv {
 
 namespace {
 
-// File names hold at most 255 bytes; the rest is room for what is put behind.
+// File names have at most 255 bytes. The difference leaves room for suffixes.
 constexpr qsizetype kLongestName = 200;
 
 void logLine(const QString &text)

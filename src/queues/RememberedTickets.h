@@ -1,4 +1,4 @@
-// The tickets that the dialog remembers between runs, one JSON file a queue.
+// The tickets that the dialog remembers between runs, one JSON file per queue.
 #pragma once
 
 #include "platform/PrintValue.h"
@@ -15,15 +15,15 @@ public:
     explicit RememberedTickets(QString folder = defaultFolder());
     static QString defaultFolder();
 
-    // The ticket last stored for a queue; nothing when there is none. A file that cannot be read as a ticket is kept
-    // aside under its name with ".unreadable" behind it, and leaves a line in the diagnostic log.
+    // The ticket last stored for a queue; nothing when there is none. If the file is not a valid ticket, it is renamed
+    // by appending ".unreadable", with a line in the diagnostic log.
     std::optional<PrintDictionary> load(const QString &queue) const;
 
-    // Stores a ticket, whole or not at all, without what belongs to one job only (copies, page range). Returns false,
-    // with a line in the diagnostic log, when it cannot be written.
+    // Stores a ticket atomically, without the keys that belong to one job only (copies, page range). If it cannot be
+    // written, returns false and leaves a line in the diagnostic log.
     bool store(const QString &queue, const PrintDictionary &ticket) const;
 
-    // The file for a queue: a name that is safe and different for every queue name.
+    // The path of a queue's file. Its name is safe for any queue name and different for each.
     QString filePath(const QString &queue) const;
 
 private:

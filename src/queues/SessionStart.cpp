@@ -39,7 +39,7 @@ Session sessionOfQueue(const SessionRequest &request)
 
 Session startSession(const SessionRequest &request)
 {
-    // The ticket is read first: it costs nothing, and a wrong one is said before a server is asked.
+    // The ticket is read first, so that a faulty one is reported before a server is contacted.
     PrintDictionary ticket;
     if (!request.ticket.isEmpty()) {
         Result<PrintDictionary> read = ticketFromFile(request.ticket);

@@ -1,4 +1,4 @@
-// Makes the session that a request asks for: from a PPD file alone, or from a queue of the print server.
+// Creates the requested session from a PPD file alone or from a queue of the print server.
 #pragma once
 
 #include "queues/QueueSession.h"
@@ -6,7 +6,7 @@
 
 namespace bv {
 
-// With a PPD file no print server is asked. The sentence of a failure says what to do about it.
+// If the request names a PPD file, no print server is contacted. The sentence of a failure says what to do about it.
 Result<std::unique_ptr<QueueSession>> startSession(const SessionRequest &request);
 
 } // namespace bv

@@ -5,7 +5,7 @@ namespace bv {
 
 void Ticket::setValue(const QString &key, const PrintValue &value)
 {
-    // "No value" is what an absent key yields, so storing it takes the key away.
+    // An absent key reads as "no value", so storing "no value" removes the key.
     if (value.isNone())
         m_entries->entries.erase(key);
     else

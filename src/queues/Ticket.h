@@ -5,7 +5,7 @@
 
 namespace bv {
 
-// Owns the dictionary for its whole life: panels keep a pointer to the ticket, so it is emptied and filled in place.
+// Owns one dictionary for its whole life. It is changed in place, because panels keep a pointer to the ticket.
 class Ticket final : public PrintSettings
 {
 public:
@@ -14,7 +14,7 @@ public:
 
     const PrintDictionary &entries() const { return *m_entries; }
     void clear();
-    // Takes over the entries of another dictionary; nested dictionaries are shared with it.
+    // Replaces all entries by those of another dictionary. Nested dictionaries are shared, not copied.
     void replace(const PrintDictionary &entries);
 
 private:

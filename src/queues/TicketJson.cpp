@@ -9,7 +9,7 @@ namespace bv {
 
 namespace {
 
-// The value, or none with the sentence in error. where names the place for that sentence.
+// The converted value. On failure none, with a sentence in *error; `where` is the place it names.
 PrintValue fromJson(const QJsonValue &value, const QString &where, QString *error);
 
 std::optional<PrintDictionary> dictionaryFromJson(const QJsonObject &object, const QString &where, QString *error)
@@ -45,7 +45,7 @@ PrintValue fromJson(const QJsonValue &value, const QString &where, QString *erro
     case QJsonValue::Bool:
         return PrintValue::boolean(value.toBool());
     case QJsonValue::Double: {
-        // Qt keeps whole numbers apart from others, and so do we: only integers become job options.
+        // Whole numbers must stay integers, because only integers become job options.
         const QVariant number = value.toVariant();
         return number.typeId() == QMetaType::LongLong ? PrintValue::integer(number.toLongLong())
                                                       : PrintValue::real(number.toDouble());

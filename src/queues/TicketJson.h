@@ -9,11 +9,11 @@
 
 namespace bv {
 
-// The ticket in a JSON text, whose root is to be an object. A number that is whole becomes an integer. JSON null is
-// no ticket value and refused wherever it stands.
+// Reads a ticket from a JSON text, whose root must be an object. A whole number becomes an integer. JSON null is not a
+// ticket value and is refused at any place.
 Result<PrintDictionary> ticketFromJson(const QByteArray &json);
 
-// The ticket in a JSON file.
+// Reads a ticket from a JSON file.
 Result<PrintDictionary> ticketFromFile(const QString &path);
 
 QJsonValue toJson(const PrintValue &value);

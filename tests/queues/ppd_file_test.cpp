@@ -1,4 +1,4 @@
-// Opening PPD files: what the loader settles for later readers, and what it refuses.
+// Opening PPD files: what the loader prepares for later readers, and what it refuses.
 #include "queues/PpdFile.h"
 
 #include <QFile>
@@ -31,7 +31,7 @@ protected:
     QTemporaryDir m_folder;
 };
 
-TEST_F(PpdFileTest, TextsAreUtf8AndSaidToBeEvenWithoutALanguageEncoding)
+TEST_F(PpdFileTest, TextsAreUtf8AndMarkedSoEvenWithoutALanguageEncoding)
 {
     const auto ppd = open(kHead + kOption);
     ASSERT_TRUE(ppd) << ppd.error().toStdString();
@@ -43,7 +43,7 @@ TEST_F(PpdFileTest, TextsAreUtf8AndSaidToBeEvenWithoutALanguageEncoding)
 TEST_F(PpdFileTest, AFileThatEndsInsideAnOptionIsRefusedWhereverItIsCut)
 {
     const QByteArray whole = kHead + kOption;
-    // From behind the line that opens the option to before the line that closes it.
+    // From after the line that opens the option to before the line that closes it.
     const qsizetype from = whole.indexOf("PickOne\n") + 8;
     const qsizetype to = whole.indexOf("*CloseUI");
     for (qsizetype length = from; length <= to; ++length)
@@ -58,7 +58,7 @@ TEST_F(PpdFileTest, ACompressedFileIsJudgedByItsTextAndRefusedWhereverItIsCut)
     ASSERT_TRUE(source.open(QIODevice::ReadOnly));
     const QByteArray text = source.readAll();
     QByteArray whole;
-    // The bytes of a compressed file are different at each level; none of them may be taken for the text.
+    // Each compression level gives different bytes. None of them may be mistaken for the text.
     for (const char *mode : {"w1", "w6", "w9"}) {
         cups_file_t *file = cupsFileOpen(path.toUtf8().constData(), mode);
         cupsFileWrite(file, text.constData(), static_cast<size_t>(text.size()));
@@ -70,7 +70,7 @@ TEST_F(PpdFileTest, ACompressedFileIsJudgedByItsTextAndRefusedWhereverItIsCut)
         ASSERT_TRUE(compressed.open(QIODevice::ReadOnly));
         whole = compressed.readAll();
     }
-    // Up to the closing check sum and length, in front of which the text is whole.
+    // Up to the check sum and length at the end; the text before them is complete.
     for (qsizetype length = 1; length < whole.size() - 8; length += 37)
         EXPECT_FALSE(open(whole.left(length))) << length;
     QByteArray damaged = whole;
@@ -79,7 +79,7 @@ TEST_F(PpdFileTest, ACompressedFileIsJudgedByItsTextAndRefusedWhereverItIsCut)
     EXPECT_TRUE(open(whole)) << "the name says nothing";
 }
 
-TEST_F(PpdFileTest, WhatIsNoPpdIsNamedInASentence)
+TEST_F(PpdFileTest, AFileThatIsNotAPpdIsRefusedByName)
 {
     EXPECT_THAT(open("%PDF-1.4\n").error().toStdString(), HasSubstr("test.ppd"));
     EXPECT_THAT(open(kHead + "*OpenUI *A: PickOne\n*OpenUI\n").error().toStdString(), HasSubstr("test.ppd"));

@@ -1,4 +1,4 @@
-// What is kept for a queue: its session without a print server, and the choices remembered between runs.
+// A queue's session without a print server, and the choices remembered between runs.
 #include "queues/QueueSource.h"
 #include "queues/RememberedTickets.h"
 #include "queues/SessionStart.h"
@@ -17,7 +17,7 @@ using bv::PrintValue;
 using bv::RememberedTickets;
 using bv::SessionRequest;
 
-// The window takes its queue from a source, a batch from a session; both are to say the same.
+// The window gets its queue from a source, a batch from a session. Both must agree.
 TEST(WithoutAServer, TheQueueIsWhatTheRequestSays)
 {
     SessionRequest request;
@@ -42,7 +42,7 @@ TEST(WithoutAServer, TheQueueIsWhatTheRequestSays)
     expectQueue("Lab", request.deviceUri);
 }
 
-TEST(StateFolder, IsTheHomesWhereTheVariableNamesNoAbsolutePath)
+TEST(StateFolder, IsInHomeUnlessTheVariableIsAnAbsolutePath)
 {
     const QByteArray before = qgetenv("XDG_STATE_HOME");
     for (const char *set : {"", "state"}) {
@@ -80,7 +80,7 @@ TEST(RememberedTickets, KeepEachQueueApartUnderAnyName)
     EXPECT_FALSE(remembered.load("never stored"));
 }
 
-TEST(RememberedTickets, LeaveOutWhatBelongsToOneJob)
+TEST(RememberedTickets, LeaveOutTheKeysOfOneJob)
 {
     const QTemporaryDir folder;
     const RememberedTickets remembered(folder.path());

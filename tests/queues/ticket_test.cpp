@@ -42,7 +42,7 @@ TEST(TicketJson, IsRefusedInASentence)
     }
 }
 
-TEST(Ticket, NoValueTakesTheKeyAway)
+TEST(Ticket, StoringNoValueRemovesTheKey)
 {
     bv::Ticket ticket;
     ticket.setValue("a", "1");
