@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Measures the milliseconds of one step, and takes the median of several.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Opens the pane through the host protocol, from loading the plug-in to the shown and restored view, and measures each
 // step.
 #pragma once

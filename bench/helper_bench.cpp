@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Runs the helper as the dialog does, and /bin/true in the same way for comparison. Measures one request that changes
 // nothing, and the requests that write a full list (3 x 500 records) against as many runs of /bin/true and one
 // fsync(2). Prints medians in microseconds and ratios. Both take turns, so the machine's load affects both alike.

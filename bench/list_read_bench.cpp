@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Reads a full list file (3 x 500 records). The yardsticks are a bare parse of the same text and Python's plistlib.
 // Prints medians in microseconds and ratios. The three take turns, so the machine's load affects all alike.
 #include "platform/FileContents.h"

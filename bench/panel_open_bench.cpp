@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Time from loading the plug-in to the shown and restored pane, by step. Prints medians of 20 openings for three PPDs:
 // the project's own, one with ten times the options, one with ten times the choices. Marking conflicts is done by
 // libcups and is also measured alone.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Compares the pane with other programs that open the same PPD: `lpoptions -l` and Qt's own print dialog with its page
 // of options, both on a private print server. Also measures the whole print dialog on that server. Prints medians of 20
 // rounds in milliseconds, and ratios to the pane. The start of the application object is not counted.

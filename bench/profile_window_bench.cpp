@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Opens the profile management window with three full lists and with empty ones, and changes its class menu with 500
 // rows. Prints medians and ratios. Full and empty lists take turns, so the machine's load affects both alike.
 #include "profileui/ManagementWindow.h"

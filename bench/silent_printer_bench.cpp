@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Measures how long a silent printer delays the dialog: the time of panelView, which refreshes the profiles. The cases
 // are a queue without an address, a printer that answers, a silent printer (with the SNMP library's default time-outs,
 // and with one second and no retry), and Bonjour names that do not resolve. Prints medians, differences from the

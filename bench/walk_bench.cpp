@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Compares the walk with the standard snmpwalk command: a table of 500 rows and 7 columns from the same simulated
 // printer, in paired runs. Prints medians of wall and CPU time, their ratios, and the number of requests. QL70Helper
 // also reads, reconciles and writes the stored lists.

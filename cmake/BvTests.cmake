@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
 # bv_add_test(NAME sources... [QT] [LIBS libraries...] [ENV name=value...] [TIMEOUT seconds] [LABELS labels...] [ROOT regex])
 # Adds a GoogleTest executable. Each test case becomes a CTest entry of its own, runs with a fixed locale and without a
 # display, and counts as skipped if it calls GTEST_SKIP. The first label is the name of the folder, so that

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
 # The places of an installed system. Programs are below the prefix. Files shared with the printer's other software are
 # at fixed paths below /Library, whatever the prefix. BV_INSTALL_ROOT puts a directory in front of these paths, as
 # BVCO_ROOT does at run time; a package uses DESTDIR instead.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
 # Stops an installation before anything is copied if a program is not built or a folder cannot be written. Then creates
 # the folders, readable for everybody whatever the umask (CMake itself does not do so for parent folders).
 # Input: places (folders; relative ones are below the prefix), programs (the built files).

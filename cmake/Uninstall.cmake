@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-2.0-or-later
 # Removes the files in the manifest, then our own folders that are empty. Input: manifest, library (the fixed /Library
 # path), lists (the folder of the profile lists).
 if(NOT EXISTS "${manifest}")

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Reads any bytes as a list file. All counts and texts must be within their bounds. Writing and reading the result
 // again may change only texts that no file can hold.
 #include "profiles/ProfileListFile.h"

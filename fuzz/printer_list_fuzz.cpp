@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Reads any bytes as the simulated printer's list. The result must be sorted rows, or a sentence about the wrong line.
 #include "simulator/ProfileFile.h"
 

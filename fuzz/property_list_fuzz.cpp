@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Any text that is parsed must be safe to search, copy, write and free. Readers must accept what a commit accepts.
 #include "platform/PropertyList.h"
 

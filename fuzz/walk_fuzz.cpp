@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Takes any bytes as the variables of a walk and merges the resulting spool into a list. Memory outside the slots must
 // not change, and no list may get a profile with a name that the name rule refuses.
 #include "discovery/FileNameRule.h"

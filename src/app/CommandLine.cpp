@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The table of bvprint's options, how they are read, and the text of --help.
 #include "app/CommandLine.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // A message handler that drops a few known remarks, and keeps those that say why there is no window.
 #include "app/MessageFilter.h"
 

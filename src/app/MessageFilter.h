@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Keeps Qt's remarks about its environment off standard error, except the reason why no window can be opened.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The choice between a display and none.
 #include "app/WindowSystem.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Which window system the program asks Qt for.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // bvprint: the print dialog, as a window or driven by a batch of commands.
 #include "app/CommandLine.h"
 #include "app/MessageFilter.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Carries out the commands of a batch on one panel and one session.
 #pragma once
 

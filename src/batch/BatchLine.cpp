@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Cutting a batch line into words.
 #include "batch/BatchLine.h"
 

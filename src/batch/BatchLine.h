@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Splitting of a batch line into the command word and its arguments.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The batch's event loop.
 #include "batch/BatchRunner.h"
 

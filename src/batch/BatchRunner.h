@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Reads a batch's commands as events, runs them and answers each with a line of JSON.
 #pragma once
 

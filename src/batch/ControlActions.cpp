@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Driving controls by their kind.
 #include "batch/ControlActions.h"
 

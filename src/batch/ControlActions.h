@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Operates a control as a user would, and triggers its action. Each function returns an empty string on success.
 // Otherwise it returns a sentence, and nothing was changed.
 #pragma once

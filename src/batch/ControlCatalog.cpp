@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The kinds of controls and how each is described.
 #include "batch/ControlCatalog.h"
 

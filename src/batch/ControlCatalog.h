@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Finds and describes the named controls below a widget, for any panel. Code here depends on the kind of a control,
 // never on its name.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The Advanced Color Options pane's control table, menus, presets and buttons.
 #include "colorrules/AdvancedColorOptions.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // AdvancedColorOptions: the pane with the settings for images, text and graphics and for the CMYK simulation.
 #pragma once
 

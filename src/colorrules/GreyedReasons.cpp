@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Texts for greyed-out controls, worded from the rule table.
 #include "colorrules/GreyedReasons.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Explains greyed-out controls: the tool tip and the accessible description say why a control is not available and how
 // to make it available again.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The rule table. Only the rules 1 and 2 change a value; the others keep it, so that users find their choice again when
 // the control is available again. Rule 19 uses the two-condition expression but has a single condition: Economy must
 // not grey out text edge enhancement, because its users rely on crisp text.

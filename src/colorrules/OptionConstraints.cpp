@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Evaluates the rules and applies them to the live controls of a table.
 #include "colorrules/OptionConstraints.h"
 

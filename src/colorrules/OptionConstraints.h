@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Rules between options: a constant table says which settings make another setting meaningless, and a pass applies it
 // to a control table. Rules name controls by the identifier of their row. If the table lacks the target's row, the rule
 // has no effect.

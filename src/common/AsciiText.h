@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Keys and names of control tables and PPD choices as texts: they are ASCII by contract, and anything else gives none.
 #pragma once
 

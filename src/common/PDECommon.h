@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // PDECommon: the operations that both views share, grouped by subject. Each group is defined in the folder of its
 // subject. Functions return a status for a failure, also when memory runs out, and write a line to the diagnostic log.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The record of a control table: one control on the screen, the PPD option it is bound to, and its texts.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The Color Options pane's control table.
 #include "controls/ColorOptions.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // ColorOptions: the pane that opens first, with Quick Color, Brightness and the other everyday choices.
 #pragma once
 

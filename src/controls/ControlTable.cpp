@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // PDECommon: operations on whole control tables.
 #include "common/PDECommon.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Building, freeing and forwarding of a pane's control table.
 #include "controls/ControlTableView.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // ControlTableView: the base class of both panes. A pane names its controls in a constant table; this class turns it
 // into the control table and hands all PPD, ticket and summary work to PDECommon.
 #pragma once

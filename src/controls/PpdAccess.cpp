@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // PDECommon: choice lists from the PPD, conflict marks, encodings and identity.
 #include "common/PDECommon.h"
 

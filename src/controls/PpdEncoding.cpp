@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The encoding table of PPD texts, and decoding through iconv.
 #include "controls/PpdEncoding.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The text encodings that a PPD can name in LanguageEncoding, and decoding of its texts.
 #pragma once
 

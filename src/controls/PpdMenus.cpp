@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // PDECommon: fills pop-up menus, sets control titles, and reads current values as PPD choices.
 #include "common/PDECommon.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // PDECommon: the items of the panel's summary.
 #include "common/PDECommon.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // PDECommon: writes control values into the print settings and reads them back.
 #include "common/PDECommon.h"
 

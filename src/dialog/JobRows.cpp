@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Copies and page range. The range is checked while the user types.
 #include "dialog/JobRows.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The rows for copies and page range. They apply to one job and are never remembered.
 #pragma once
 

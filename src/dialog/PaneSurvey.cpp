@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // One thread fetches one PPD after another, so a slow print server does not block the window.
 #include "dialog/PaneSurvey.h"
 

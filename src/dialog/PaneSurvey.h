@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Checks the queues in the background and reports those that have none of the panel's options.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Creates and ends a panel, and passes on the ownership of its view.
 #include "dialog/PanelHolder.h"
 

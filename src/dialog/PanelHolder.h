@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Owns one panel and its view for their whole life. Uses only the host protocol.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Builds the rows from the PPD with libcups. Keeps rows, ticket and conflict line consistent.
 #include "dialog/PpdOptionRows.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The dialog's own rows for paper size, tray, two-sided printing and resolution. The choices come from the PPD. The
 // ticket holds them as top-level strings under the PPD's keywords.
 #pragma once

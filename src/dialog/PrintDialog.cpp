@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The dialog's behavior. Any step that may wait for the network runs after the window has announced it and was painted.
 #include "dialog/PrintDialog.h"
 

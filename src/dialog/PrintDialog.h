@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The print dialog's window: user actions, and the order in which queues, pane and job are handled.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Builds the layout, keeps the tab order, and moves the summary when the window's width changes.
 #include "dialog/PrintDialogLayout.h"
 

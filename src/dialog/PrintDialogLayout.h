@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The layout of the print dialog's window: printer at the top, job settings and summary at the side, pane in the
 // middle, buttons at the bottom.
 #pragma once

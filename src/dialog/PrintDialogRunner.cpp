@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Opens the dialog for a request and turns its result into an exit status.
 #include "dialog/PrintDialogRunner.h"
 

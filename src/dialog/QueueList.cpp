@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Fills the pop-up of printers and the line beside it.
 #include "dialog/QueueList.h"
 

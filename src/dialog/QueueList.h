@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The list of printers, with a line about the chosen one.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The steps for one queue: opening, preparing the pane, printing.
 #include "dialog/QueueRoom.h"
 

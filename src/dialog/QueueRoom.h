@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Everything that the dialog keeps for one queue while it is open: session, ticket, option rows and panel.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Finds the kind of connection and the host address of a print queue.
 #include "platform/ClassNames.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // From a print queue's device URI to the printer's host: parts of a URI, and the host for a walk.
 #pragma once
 

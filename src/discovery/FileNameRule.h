@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The printer's rule for profile file names. Core: free of Qt, libcups and Net-SNMP.
 #pragma once
 

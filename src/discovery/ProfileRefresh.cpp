@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Brings the stored profile lists up to date: has the helper walk the session's printer.
 #include "platform/ClassNames.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Fills the spool from the variables of a walk.
 #include "discovery/ProfileSpool.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The spool: the rows that a walk of the printer's profile table found, and the columns that it keeps. These are
 // process globals without locks: run one walk at a time, on one thread.
 #pragma once

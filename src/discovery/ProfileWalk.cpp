@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The walk loop: sends GETNEXT from the root of the table on, until the table ends or a limit is reached.
 #include "discovery/ProfileWalk.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The walk of the printer's profile table over SNMP version 1, for the helper. Core with Net-SNMP.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The kinds of connection between a print queue and its printer. Free of Qt and libcups.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Brings the stored profile lists in line with the rows of the latest walk.
 #include "discovery/Reconciliation.h"
 

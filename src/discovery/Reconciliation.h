@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Merges the result of a walk, in the spool of ProfileSpool.h, into the stored profile lists.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Removes variables from the environment that the SNMP library reads with getenv(3), even in a set-id process.
 #include "discovery/SnmpEnvironment.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Controls which environment variables reach the SNMP library.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The arguments of a walk request: the model, the login name, and the words of the walk. Free of Qt.
 #pragma once
 

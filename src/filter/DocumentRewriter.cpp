@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Follows the structuring comments of a document from section to section.
 #include "filter/DocumentRewriter.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Copies PostScript documents from one descriptor to another and adds a job's settings to each. Only structuring
 // comments are interpreted (Document Structuring Conventions, version 3.0). The code between them is copied unread, so
 // memory use does not depend on its size.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Reads ahead and delays writing, with one buffer for both.
 #include "filter/DocumentStream.h"
 

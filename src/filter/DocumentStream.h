@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Copies one descriptor to another. Reads ahead, and can leave bytes out or insert some.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Marks the job's choices in the PPD and derives the settings from the marks.
 #include "filter/JobSettings.h"
 

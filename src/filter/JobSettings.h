@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Converts a job's options to printer settings.
 #pragma once
 

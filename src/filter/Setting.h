@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // One printer setting, as it is written to a document.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // bvql70: the print server's filter that writes a job's color options into its documents.
 #include "filter/DocumentRewriter.h"
 #include "filter/JobSettings.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Finds the list that a path, URL or login name stands for.
 #include "helper/Caller.h"
 

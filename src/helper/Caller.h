@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The calling user, and the list that a path, URL or login name in a request stands for.
 #pragma once
 

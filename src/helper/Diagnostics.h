@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The helper's diagnostics: one line on standard error for each refusal and failure.
 #pragma once
 

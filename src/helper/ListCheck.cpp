@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // What a text must be to become a list file.
 #include "helper/ListCheck.h"
 

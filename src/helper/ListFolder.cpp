@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Opens, creates and replaces files relative to the folder's descriptor.
 #include "helper/ListFolder.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The folder of the list files. It is held open, and all operations are relative to its descriptor.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Prepares standard descriptors, signals and ids.
 #include "helper/ProcessStart.h"
 

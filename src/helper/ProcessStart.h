@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Prepares the helper's own process before a request is read.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Runs one request from the command line.
 #include "helper/RequestProgram.h"
 

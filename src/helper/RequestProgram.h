@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Common parts of QL70Helper and QL70Walk: read one request from the command line, print one verdict.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The table of the helper's requests, and how a request is answered.
 #pragma once
 

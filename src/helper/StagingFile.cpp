@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Writes pieces and their note, and commits the text.
 #include "helper/StagingFile.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The file that collects the pieces of a list until they are committed.
 #pragma once
 

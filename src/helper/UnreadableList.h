@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Decides when an unreadable current list is kept aside, so that it never replaces the last good previous list.
 #pragma once
 

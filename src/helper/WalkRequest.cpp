@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The request to walk the printer's profile table. It is a program of its own, because only this one of the seven
 // requests needs the SNMP library. That library would more than double the start time of the others.
 #include "helper/WalkRequest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The request to walk the printer's profile table: its checks, and the start of the program that runs it.
 #pragma once
 

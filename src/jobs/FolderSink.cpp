@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Stores jobs in folders.
 #include "jobs/FolderSink.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Takes the place of a print server: stores each job in a folder of its own.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // A print job, and the interface of its receivers.
 #pragma once
 

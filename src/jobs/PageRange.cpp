@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Reads page ranges run by run, then sorts and joins them.
 #include "jobs/PageRange.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Reads page ranges as users write them ("1-3, 8-"), checks them, and converts them to the print server's form.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Turns a ticket into a submitted job.
 #include "jobs/PrintJob.h"
 

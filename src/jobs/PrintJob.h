@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Makes a job's options from a ticket, and prints: checks the documents, asks the panel, submits the job.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Sends jobs over IPP with libcups (RFC 8011: Create-Job, Send-Document, Cancel-Job).
 #include "jobs/PrintServerSink.h"
 

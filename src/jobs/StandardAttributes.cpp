@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The table of PPD choices that have a matching standard attribute.
 #include "jobs/StandardAttributes.h"
 

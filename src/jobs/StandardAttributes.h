@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The standard job attributes that tell the print server what a PPD option tells the printer.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Existence test and detached start of an application.
 #include "platform/ApplicationLauncher.h"
 

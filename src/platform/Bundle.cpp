@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Looks up localized strings of the plug-in in the translation tables of its resources.
 #include "platform/Bundle.h"
 

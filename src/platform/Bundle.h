@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The plug-in's bundle: its path and its localized strings.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Child processes by posix_spawn(3).
 #include "platform/ChildProcess.h"
 

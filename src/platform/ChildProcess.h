@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Runs a program as a child process and collects its output, or starts a program that runs on by itself. Free of Qt and
 // libcups.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Gives every class of the plug-in its fixed suffix, so that it can never clash with a class of another plug-in in the
 // same process. Include it first in each header that declares such a class. Code, forms and moc use the bare names; the
 // linker and the meta objects see the names with the suffix.

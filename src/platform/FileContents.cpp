@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Reads a whole file. Type and size are checked on the open descriptor, so the file cannot change in between.
 #include "platform/FileContents.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Reads a whole regular file. Free of Qt and libcups.
 #pragma once
 

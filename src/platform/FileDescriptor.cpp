@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Complete reads and writes with read(2), write(2), pread(2) and pwrite(2).
 #include "platform/FileDescriptor.h"
 

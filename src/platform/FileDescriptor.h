@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Owns an open file descriptor; reads and writes whole texts through descriptors. Free of Qt and libcups.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Percent-encoding of file paths.
 #include "platform/FileUrl.h"
 

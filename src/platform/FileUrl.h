@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // File URLs of logical paths. Free of Qt and libcups.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The protocol between a print dialog and the panels that it loads: factory, panel and the dialog's callback object.
 // The dialog includes no other header of a plug-in. All calls come from the dialog's main thread, and none throws.
 #pragma once

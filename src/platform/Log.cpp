@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Formatting of log texts, their conversion to the system's encoding, and the diagnostic log.
 #include "platform/Log.h"
 

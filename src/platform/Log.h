@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Formatting of log texts and the diagnostic log. Free of Qt, so that the helper can use it.
 #pragma once
 

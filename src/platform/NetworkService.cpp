@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Resolves a Bonjour service with the Avahi client library.
 #include "platform/NetworkService.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Bonjour services: from a service's name to the addresses of the machine that offers it, within a time limit.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Turns running out of memory into a status. Free of Qt and libcups.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Decodes percent escapes.
 #include "platform/Percent.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Percent escapes (RFC 3986, section 2.1). Free of Qt and libcups.
 #pragma once
 

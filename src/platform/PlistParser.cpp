@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Checks the grammar of property lists on the events of Expat. The first fault stops the parser.
 #include "platform/PlistParser.h"
 

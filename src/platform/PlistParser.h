@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Parsing of an XML property list. Free of Qt and libcups.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The data behind the nodes of a property list, for the code that parses and writes lists.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Print settings (the ticket) and print session as a panel sees them: pure interfaces that the dialog implements, and
 // the printing system's calls on them under their own names. The dialog owns both; a panel borrows them.
 #pragma once

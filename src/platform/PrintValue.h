@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Values of the print settings: strings, numbers, booleans, arrays and dictionaries. Dictionaries are shared by
 // reference, so that one fetched from the settings can be changed in place. Everything is in this header because the
 // dialog and the plug-in both use it and neither links the other.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Reads values from property lists, builds lists and writes their XML text.
 #include "platform/PropertyList.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // XML property lists: owned lists, borrowed nodes, reading and writing. Free of Qt and libcups.
 #pragma once
 

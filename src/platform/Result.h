@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The outcome of an operation that can fail: a value, or one sentence that tells the user what went wrong.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The only place that turns logical paths into real ones.
 #include "platform/RootPath.h"
 

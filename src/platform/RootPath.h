@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Maps the system's fixed logical paths ("/Library/…", "/Applications/…") to where they lie on this machine.
 // Free of Qt and libcups.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The 32-bit statuses of the printing system that this project uses. Free of Qt and libcups.
 #pragma once
 

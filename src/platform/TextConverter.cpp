@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The loop around iconv(3).
 #include "platform/TextConverter.h"
 

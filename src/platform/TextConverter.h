@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Conversion of texts between character sets through iconv(3). Free of Qt and libcups.
 #pragma once
 

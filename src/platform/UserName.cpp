@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The login name from the password database.
 #include "platform/UserName.h"
 

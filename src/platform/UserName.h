@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The login name of the user who runs this process. Free of Qt and libcups.
 #pragma once
 

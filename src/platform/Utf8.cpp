@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // UTF-8 checked by the table of well-formed byte sequences in RFC 3629, section 4.
 #include "platform/Utf8.h"
 

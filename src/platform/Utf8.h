@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // UTF-8 basics: validity of texts and length of characters. Free of Qt and libcups.
 #pragma once
 

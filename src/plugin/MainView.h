@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // MainView: the panel's container view, the root of the interface file.
 #pragma once
 

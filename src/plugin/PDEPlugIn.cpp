@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The plug-in's entry point.
 #include "plugin/PDEPlugIn.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // PDEPlugIn: the root object of the plug-in, which hands out the panel.
 #pragma once
 

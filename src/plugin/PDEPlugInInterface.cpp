@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Translates the dialog's calls into calls on the views, the controller and the rules.
 #include "plugin/PDEPlugInInterface.h"
 

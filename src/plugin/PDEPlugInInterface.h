@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // PDEPlugInInterface: the panel object that a print dialog drives.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Swapping the panes, and forwarding to both.
 #include "plugin/PainChangeController.h"
 

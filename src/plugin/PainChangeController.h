@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // PainChangeController: swaps the two panes in the container, and forwards the panel's calls to both in a fixed order.
 #pragma once
 

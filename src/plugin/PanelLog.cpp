@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Descriptions of objects and values, and the bracketing lines.
 #include "plugin/PanelLog.h"
 

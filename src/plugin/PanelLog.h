@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The panel's part of the diagnostic log: lines that mark begin and end, and a counter of control-table records.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Encodes and decodes device paths.
 #include "profiles/DevicePath.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Encoding of the paths of profiles on the printer, as a ticket stores them. Free of Qt and libcups.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Running the helper: as a child process, unless another transport is set.
 #include "profiles/HelperRequest.h"
 

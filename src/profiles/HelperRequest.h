@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Requests to the helper, over a transport that can be replaced. Free of Qt and libcups. In the dialog the transport is
 // a child process; inside the helper it is a direct call.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The seven states that a stored profile's InMenu can have, and what follows from them. Free of Qt and libcups.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Finds the list and the folder of the profiles that a row can choose.
 #include "profiles/ProfileKinds.h"
 

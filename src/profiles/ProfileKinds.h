@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The list and the printer folder of the stored profiles of a row of the advanced pane.
 #pragma once
 

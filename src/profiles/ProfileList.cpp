@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Reads and fills the 32-byte text fields of a profile record.
 #include "profiles/ProfileList.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // One class of the stored color profiles in memory: 500 fixed records and a count. Free of Qt and libcups. Records are
 // plain data, so they can be zeroed, copied and compared as a whole.
 #pragma once

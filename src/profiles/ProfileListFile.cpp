@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Conversion between list files and lists in memory.
 #include "profiles/ProfileListFile.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The list file: its keys, its dictionaries, and the conversion between them and lists in memory. Free of Qt and
 // libcups. The file is an XML property list: the root holds three class dictionaries. Each has the count and six field
 // dictionaries of 500 slots ("InMenu0000" to "InMenu0499").

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Merges edited lists with the lists of the file.
 #include "profiles/ProfileOperations.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Reads lists from the list file and corrects their counts after each read.
 #include "profiles/ProfileListRead.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Converts an open list file to lists in memory. ProfileOperations.h has the functions that also open the file. Free of
 // Qt and libcups.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Tidies a list after a walk of the printer: clean-up, salvage, padding.
 #include "profiles/ProfileOperations.h"
 

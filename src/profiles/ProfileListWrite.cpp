@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Writes lists: sends the file's text to the helper in pieces and then asks it to commit them.
 #include "profiles/ProfileOperations.h"
 

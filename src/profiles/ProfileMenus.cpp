@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // PDECommon: adds the stored profiles after the PPD's choices in the profile menus.
 #include "common/PDECommon.h"
 

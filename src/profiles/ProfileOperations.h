@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Operations on the stored profile lists. Free of Qt and libcups. Lists belong to the caller, who zeroes them before a
 // read. Each operation reads or writes the whole file. A failure is reported by the result and one line in the
 // diagnostic log, never to the user.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Forms the names of the list files from the login name.
 #include "profiles/ProfilePaths.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Where the list files of a user lie. Free of Qt and libcups.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Asks the helper about the list files, and has it remove and swap them.
 #include "profiles/ProfileOperations.h"
 

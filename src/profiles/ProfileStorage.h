@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The storages of the printer that can hold profiles: their codes, names and folders. Free of Qt and libcups.
 #pragma once
 

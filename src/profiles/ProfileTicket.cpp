@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // PDECommon: stores a chosen profile in the queue's dictionary of the ticket and reads it back.
 #include "common/PDECommon.h"
 

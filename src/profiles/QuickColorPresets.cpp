@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The preset table and its Economy overrides.
 #include "profiles/QuickColorPresets.h"
 

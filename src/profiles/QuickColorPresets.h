@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The advanced settings that each Quick Color stands for, as positions of choices in the PPD. The dialog shows them and
 // the filter applies them. Free of Qt and libcups.
 #pragma once

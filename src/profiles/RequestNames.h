@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Names of the helper's requests and marks of its answers, shared by the plug-in and the helper. Free of Qt.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Cuts UTF-8 text by its length in UTF-16.
 #include "profiles/TextPieces.h"
 

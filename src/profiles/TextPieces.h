@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Cuts a text into pieces that each fit one argument of a request. Free of Qt and libcups.
 #pragma once
 

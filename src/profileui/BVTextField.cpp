@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The check of a text field after each change, including caret and undo steps.
 #include "profileui/BVTextField.h"
 

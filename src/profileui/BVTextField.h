@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // A text field that checks its whole text after every change by the user. It drops characters outside its filter and
 // undoes a change that breaks a length limit. File names have separate limits for stem and extension. The field also
 // enables one other control while its text is usable.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Drawing of the icon cell.
 #include "profileui/IconedCell.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The table cell that shows a 16 by 16 icon and nothing else.
 #pragma once
 

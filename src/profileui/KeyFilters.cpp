@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The character filters and the walk over a text's UTF-16 units.
 #include "profileui/KeyFilters.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The character filters of the text fields, and the check of a whole text with one of them. Positions and lengths are
 // in UTF-16 units.
 #pragma once

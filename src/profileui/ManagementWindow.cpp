@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Texts, names and keys of the profile management window.
 #include "profileui/ManagementWindow.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The form of the profile management window: its controls, their texts and names, and the keys Return and Escape.
 #pragma once
 

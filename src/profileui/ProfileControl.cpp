@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The modes of the management window: opening, selecting, editing, closing.
 #include "profileui/ProfileControl.h"
 

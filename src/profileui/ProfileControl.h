@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The profile management window: shows the three stored profile lists, edits copies of them, and writes them on OK.
 #pragma once
 

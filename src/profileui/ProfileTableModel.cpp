@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Cells of the management window's table.
 #include "profileui/ProfileTableModel.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The management window's table over one profile list: icon, names, location and the check mark of the profile menus.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Keys, mouse and columns of the management window's table.
 #include "profileui/ProfileTableView.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The management window's table: selection of one row, search by typing, check marks by mouse and space bar.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The ticket keys that belong to one job only: the dialog's own rows set them anew for each job.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The locale of messages as the environment sets it.
 #pragma once
 

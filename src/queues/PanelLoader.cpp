@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Loading a plug-in through Qt and talking to its factory.
 #include "queues/PanelLoader.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Loads a plug-in of print panels and asks its factory for panels.
 #pragma once
 

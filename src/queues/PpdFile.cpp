@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Opens a PPD file and brings it into a uniform state for all later readers.
 #include "queues/PpdFile.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // A PPD file opened with libcups, ready for a panel: texts in UTF-8, defaults marked, localised.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The print server through libcups (cupsGetDests2, cupsGetPPD3, httpConnect2).
 #include "queues/PrintServer.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The print server as libcups reaches it: its queues, their PPD files, and the connection that jobs are sent over.
 #pragma once
 

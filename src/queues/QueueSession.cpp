@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The session's printer and its life.
 #include "queues/QueueSession.h"
 

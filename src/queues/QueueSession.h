@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // One print queue as the dialog works with it: its ticket, its PPD and what a panel is told about its printer.
 #pragma once
 

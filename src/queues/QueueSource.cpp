@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The two sources of queues.
 #include "queues/QueueSource.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Where the dialog's printers come from: the print server, or one PPD file in its place.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Reads and writes the remembered tickets.
 #include "queues/RememberedTickets.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The tickets that the dialog remembers between runs, one JSON file per queue.
 #pragma once
 

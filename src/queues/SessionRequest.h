@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // What a command line says about the queue to work with.
 #pragma once
 

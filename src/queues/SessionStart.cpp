@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // From a request to a session.
 #include "queues/SessionStart.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Creates the requested session from a PPD file alone or from a queue of the print server.
 #pragma once
 

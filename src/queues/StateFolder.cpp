@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Finds the user's state folder.
 #include "queues/StateFolder.h"
 

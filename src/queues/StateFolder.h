@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Where the user's programs keep state between runs.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The ticket's dictionary, changed in place.
 #include "queues/Ticket.h"
 

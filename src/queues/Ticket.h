@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The ticket of a job: the dialog's implementation of the print settings.
 #pragma once
 

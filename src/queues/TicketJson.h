@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Tickets and summaries as JSON (RFC 8259): strings, integers, numbers, booleans, arrays and objects.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Serves the cells of the profile table with the agent library.
 #include "simulator/Agent.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The SNMP agent of the simulated printer, built on the Net-SNMP agent library. The library has global state, so a
 // process can have only one agent.
 #pragma once

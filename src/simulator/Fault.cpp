@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The table of faults, and how each changes the cells or the order of answers.
 #include "simulator/Fault.h"
 

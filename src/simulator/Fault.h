@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The faults that the simulated printer can have.
 #pragma once
 

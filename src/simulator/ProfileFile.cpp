@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Parses the text file with the profiles.
 #include "simulator/ProfileFile.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The text file with the profiles of the simulated printer. Each line is one row of the table.
 #pragma once
 

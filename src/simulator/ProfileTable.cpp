@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Builds and searches the cells of the profile table.
 #include "simulator/ProfileTable.h"
 

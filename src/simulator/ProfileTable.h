@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The printer's profile table as SNMP cells, sorted by identifier.
 #pragma once
 

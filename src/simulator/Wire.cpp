@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Decodes an SNMP message by the Basic Encoding Rules (X.690) and encodes it again.
 #include "simulator/Wire.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Changes outgoing SNMP messages, for answers that the agent library cannot produce.
 #pragma once
 

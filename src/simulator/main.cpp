@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // ql70sim: the simulated printer. Serves its table of color profiles over SNMP version 1.
 #include "simulator/Agent.h"
 

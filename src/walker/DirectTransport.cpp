@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Passes list requests to the helper's request table.
 #include "walker/DirectTransport.h"
 

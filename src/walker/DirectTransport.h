@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Answers list requests inside the helper's own process, without starting another one.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Connects to the change signals of Qt's standard controls, and to widgets as they are added.
 #include "widgets/ChangeWatcher.h"
 

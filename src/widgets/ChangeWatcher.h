@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Reports changes of all standard controls below a widget, also of controls that are created later. Several changes in
 // one turn of the event loop are reported once.
 #pragma once

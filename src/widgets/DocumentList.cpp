@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The list of documents, its two buttons, and the rules for adding files.
 #include "widgets/DocumentList.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The documents of the job. Files are added by a file dialog, by dropping them, or by the command line.
 #pragma once
 

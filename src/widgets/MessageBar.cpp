@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The message bar: icon, text, action button and close button.
 #include "widgets/MessageBar.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // A bar at the top of a window that shows a note or a problem without a message box.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The sizes of the scroll area.
 #include "widgets/PaneArea.h"
 

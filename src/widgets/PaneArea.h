@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // A scroll area that is as large as its content where there is room, and follows the content's size.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Updates a button and the texts that explain its state.
 #include "widgets/ReasonLabel.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // A label beside a button that says why the button is greyed.
 #pragma once
 

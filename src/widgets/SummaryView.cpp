@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Shows the summary as a table of two columns with wrapped texts.
 #include "widgets/SummaryView.h"
 

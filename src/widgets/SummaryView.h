@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Shows the panel's summary of its settings, in the panel's order.
 #pragma once
 

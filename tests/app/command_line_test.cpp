@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Input read before anything runs: command line, batch lines, display and locale. Also checks the page that documents
 // the batch commands.
 #include "app/CommandLine.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The batch, driven from outside with a test panel in place of the color options.
 #include "batch/ControlActions.h"
 #include "batch/ControlCatalog.h"

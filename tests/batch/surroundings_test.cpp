@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The program's environment: displays, locales, streams that cannot be written, and programs started by the pane.
 #include "support/BatchProcess.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // A control table with all controls that the rules name. It needs no interface file and no PPD.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Reasons shown for greyed-out controls, and their removal.
 #include "RuleTable.h"
 #include "colorrules/GreyedReasons.h"

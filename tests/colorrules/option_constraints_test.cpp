@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The rules applied to live controls, and the evaluator on expressions that the rule table does not contain.
 #include "RuleTable.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Control tables: joining, constraint units, keywords and titles.
 #include "common/PDECommon.h"
 #include "platform/Bundle.h"

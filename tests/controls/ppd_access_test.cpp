@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The PPD through libcups: encodings, choice lists, conflict marks, menus, defaults and current values.
 #include "controls/PpdEncoding.h"
 #include "common/PDECommon.h"

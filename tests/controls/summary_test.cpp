@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Summary items of a table and single items.
 #include "platform/Bundle.h"
 #include "common/PDECommon.h"

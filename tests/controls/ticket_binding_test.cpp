@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Control values written to the ticket and read back: the carried value, and tickets of unusual structure.
 #include "common/PDECommon.h"
 #include "support/PaneFixture.h"

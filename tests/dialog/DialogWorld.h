@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Fixture of the dialog's tests: a scratch folder, PPD files, a source of queues that can fail, and a panel that is not
 // ours.
 #pragma once

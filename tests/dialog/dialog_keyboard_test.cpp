@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Keyboard access: tabs through the whole dialog, with a foreign pane and with ours. Every control must be reached and
 // must have an accessible name.
 #include "DialogWorld.h"

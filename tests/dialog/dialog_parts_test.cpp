@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The parts of the dialog by themselves: summary, change watcher, document list, survey of queues, option rows.
 #include "DialogWorld.h"
 

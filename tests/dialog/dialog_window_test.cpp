@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The dialog from the user's side, with a panel that is not ours: opening, changing, switching, printing.
 #include "DialogWorld.h"
 

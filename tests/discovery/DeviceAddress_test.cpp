@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Kind of connection and host of a queue, from ordinary and odd URIs.
 #include "platform/ClassNames.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The printer's rule for profile file names.
 #include "discovery/FileNameRule.h"
 

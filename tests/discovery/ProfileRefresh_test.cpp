@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The refresh: the requests to the helper, and the complete way from a queue to the list file.
 #include "platform/ClassNames.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Which values the spool stores, and where.
 #include "discovery/ProfileSpool.h"
 

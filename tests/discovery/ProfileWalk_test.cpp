@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The walk of the simulated printer with every fault, and of an agent with another SNMP implementation.
 #include "support/ProgramUnderTest.h"
 

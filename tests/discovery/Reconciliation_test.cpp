@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The merge of a walk's rows into the stored lists, on the test's own list files.
 #include "discovery/Reconciliation.h"
 

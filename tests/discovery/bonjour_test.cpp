@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Publishes Bonjour services with the Avahi daemon of this network namespace, resolves them, and walks a printer that
 // one of them names. Run by in_bonjour_namespace.sh.
 #include "platform/ClassNames.h"

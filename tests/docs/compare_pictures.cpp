@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // compare_pictures WANTED FOUND: checks that every picture in the folder WANTED looks the same in the folder FOUND.
 // Compares colors and edges in cells of about 16 by 16 pixels. Letters drawn a little darker or half a pixel off make a
 // small difference. A missing control changes the edges, a greyed one the colors.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Settings added to the kinds of PostScript documents that a print chain produces.
 #include "filter/DocumentRewriter.h"
 

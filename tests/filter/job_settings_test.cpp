@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Settings that result from a job's options.
 #include "filter/JobSettings.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Runs the built helper as a child of the test, in a scratch root.
 #pragma once
 

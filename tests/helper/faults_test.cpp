@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The helper is killed or the disk fails at every step. Afterwards the list is the whole old or the whole new one, and
 // the next write sequence works.
 #include "helper/HelperFixture.h"

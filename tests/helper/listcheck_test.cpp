@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Texts that may and may not become a list file.
 #include "helper/HelperFixture.h"
 #include "helper/ListCheck.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The helper uses an existing list, copy or staging file only if it is a plain file of the user.
 #include "helper/HelperFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The answer to each request, and its effect on the folder.
 #include "helper/HelperFixture.h"
 

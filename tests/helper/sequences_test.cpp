@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The owner of a write sequence, and what happens to a sequence that was given up.
 #include "helper/Caller.h"
 #include "helper/HelperFixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Two users of one group, and root, in one folder. Needs root, because only root can act as other users.
 #include "helper/HelperFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The walk request: its words, its login name, and the list it writes when no printer answers.
 #include "helper/HelperFixture.h"
 

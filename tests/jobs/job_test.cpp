@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // From tickets to jobs: the options of a job, page ranges, and the sink that stores jobs in a folder.
 #include "jobs/FolderSink.h"
 #include "jobs/PageRange.h"

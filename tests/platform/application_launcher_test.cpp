@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Applications that the panel starts: bundles, plain programs and files that are no programs.
 #include "platform/ApplicationLauncher.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Root mapping, file URLs, child processes, the guard in front of property lists.
 #include "platform/ChildProcess.h"
 #include "platform/FileContents.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Complete reads and writes through descriptors.
 #include "platform/FileDescriptor.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The log: formatting that is safe with wrong arguments, and output in the system's encoding.
 #include "platform/Log.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // How the log describes dictionaries and null.
 #include "plugin/PanelLog.h"
 

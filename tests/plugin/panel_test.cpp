@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The panel as a dialog drives it, with the project's own PPD and with incomplete ones.
 #include "plugin/PDEPlugInInterface.h"
 #include "support/PaneFixture.h"

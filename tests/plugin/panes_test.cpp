@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The view switching controller before and after the panes have their tables.
 #include "plugin/PainChangeController.h"
 

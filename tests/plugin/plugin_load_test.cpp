@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The built plug-in through the host protocol alone: loading, its entry, class names and exported symbols.
 #include "support/PaneFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Stored profiles in the menus of profile rows, and a chosen profile in the ticket.
 #include "colorrules/AdvancedColorOptions.h"
 #include "platform/Bundle.h"

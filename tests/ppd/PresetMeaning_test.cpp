@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Quick Color selects choices by position. These tests check that the choices at these positions in the PPD fit the
 // names of the presets.
 #include "profiles/QuickColorPresets.h"

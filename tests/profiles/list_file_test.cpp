@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The list file: writing, reading back, and the handling of wrong, damaged and hostile files.
 #include "profiles/ProfileListFile.h"
 #include "profiles/ProfileOperations.h"

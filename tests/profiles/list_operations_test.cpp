@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Merging, tidying and checking of lists in memory.
 #include "profiles/ProfileOperations.h"
 #include "profiles/ProfileListFile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Requests to the helper: which are sent, in which order, and the effect of their answers.
 #include "profiles/HelperRequest.h"
 #include "profiles/ProfileListFile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The text field under real keys, the clipboard, undo, drops and an input method.
 #include "profileui/BVTextField.h"
 

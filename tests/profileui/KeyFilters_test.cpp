@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The character filters over the whole of ASCII and the check of texts unit by unit.
 #include "profileui/KeyFilters.h"
 

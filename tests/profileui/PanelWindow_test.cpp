@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The window as the panel opens it: the advanced pane's menus and rules are updated after OK.
 #include "platform/Bundle.h"
 #include "plugin/PDEPlugInInterface.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Adding, editing and deleting in the management window, and the file that its OK writes.
 #include "profileui/ProfileWindowFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The window's table and controls as used by hand, by screen readers and by scripts.
 #include "profileui/IconedCell.h"
 #include "profileui/ProfileTableView.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Fixture: a separate root with the real helper and a list file, and the management window driven by keys and mouse.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Opening PPD files: what the loader prepares for later readers, and what it refuses.
 #include "queues/PpdFile.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // A queue's session without a print server, and the choices remembered between runs.
 #include "queues/QueueSource.h"
 #include "queues/RememberedTickets.h"

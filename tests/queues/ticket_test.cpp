@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The ticket: JSON in and out, and changes in place.
 #include "queues/Ticket.h"
 #include "queues/TicketJson.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The text file with the profiles, and mistakes in it.
 #include "simulator/ProfileFile.h"
 

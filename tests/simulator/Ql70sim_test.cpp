@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The program from outside: its arguments, reloading its list, and the answers that a standard client gets.
 #include "support/ProgramUnderTest.h"
 

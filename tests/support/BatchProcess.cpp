@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Runs bvprint as a child process.
 #include "support/BatchProcess.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Runs bvprint in batch mode for a test: sends commands one by one and reads each answer.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Preloaded into a program under test: makes a file operation fail, write less, or end the process.
 //
 // FAULT=CALL:N:ACTION   applies to the N-th call (from 1) of CALL; "any" counts all calls

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // A scratch root with the built helper installed in it.
 #pragma once
 

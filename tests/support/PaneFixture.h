@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The environment of a pane in a test: a PPD (from text or the project's own), a ticket, a session, and the dialog's
 // callback.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Starts and stops the private print server.
 #include "support/PrivateCupsd.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // A private print server for a test: a copy of cupsd on a socket in a scratch folder, with a backend that records its
 // jobs. Works as root and as an ordinary user. Does not touch the machine's own print server.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Starts programs with posix_spawn(3) and reads their output from a pipe.
 #include "support/ProgramUnderTest.h"
 

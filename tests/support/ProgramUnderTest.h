@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // A program that runs during a test, such as an agent or a daemon. The destructor stops it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // main() of the tests that need Qt. Sets a private home folder and a fixed locale, so that the developer's settings
 // have no effect. Creates an application object (platform offscreen unless the environment names another), then runs
 // GoogleTest.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Profile lists for tests and benchmarks.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // A scratch root for one test: a folder that BVCO_ROOT names, removed with its contents at the end.
 #pragma once
 

@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: GPL-2.0-or-later
 # in_bonjour_namespace.sh COMMAND [ARGUMENT...]: runs a command in a new network namespace with its own D-Bus and Avahi
 # daemons. The machine's address inside is 10.99.0.1. Exit status: the command's, or 77 when no such namespace can be
 # created.

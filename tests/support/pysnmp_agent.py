@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-2.0-or-later
 """An SNMPv1 agent on pysnmp that serves a small profile table, and can send broken replies.
 
 Prints "ready PORT" when it listens on a free port of 127.0.0.1, and "asked COMMUNITY" for each request. The community

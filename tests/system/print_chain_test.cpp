@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The whole print chain: jobs from other programs and from ours go through the print server's own filters and bvql70 to
 // a backend that records what the printer would get.
 #include "support/BatchProcess.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Real printing: bvprint and its sink with a private print server, our plug-in, our PPD, and a backend that records
 // what it gets.
 #include "support/BatchProcess.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The dialog's window with a private print server. Keys and mouse make choices in our pane; the test checks the
 // server's job and the next opening.
 #include "support/PrivateCupsd.h"

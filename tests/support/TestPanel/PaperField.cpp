@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Refuses digits in the test panel's text field.
 #include "PaperField.h"
 

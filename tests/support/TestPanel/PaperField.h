@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The test panel's text field. It accepts no digits, neither typed nor pasted. Like all classes of plug-ins, its class
 // has a suffix.
 #pragma once

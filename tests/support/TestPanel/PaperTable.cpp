@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The model of the test panel's table.
 #include "PaperTable.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The test panel's table: three kinds of paper with a check mark each, one of them with an icon.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The test panel: a combo box, a check box, two text fields, a spin box, a table and a modal window.
 #include "TestPanel.h"
 

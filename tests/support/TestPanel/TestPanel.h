@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // A panel of another maker. It has only the host protocol in common with our plug-in, and shows that the dialog works
 // with any panel. Each call is logged as a line in the file that TESTPANEL_LOG names.
 #pragma once
