@@ -132,10 +132,15 @@ Outcome answerSwap(const Caller &caller, RequestArguments arguments)
     if (source.standing != Standing::Usable)
         return outcomeOf(false);
     // The last good copy stays where the current list cannot be read; that one goes aside, once.
-    if (keepCurrent && wouldLoseGoodList(source.file, *folder, caller, *target))
+    const bool readable = isReadableList(source.file, keepCurrent ? current : previous);
+    if (keepCurrent && !readable && hasReadablePrevious(*folder, caller, *target))
         return outcomeOf(hasFreshUnreadable(*folder, caller, *target) ||
                          copyOver(*folder, caller, *target, source.file, target->unreadableName()));
-    return outcomeOf(copyOver(*folder, caller, *target, source.file, keepCurrent ? previous : current));
+    const bool copied = copyOver(*folder, caller, *target, source.file, keepCurrent ? previous : current);
+    // A readable list can also come back by a swap, or by hand and not through this program.
+    if (copied && readable)
+        noteReadableWritten(*folder, caller, *target);
+    return outcomeOf(copied);
 }
 
 Outcome answerPiece(const Caller &caller, RequestArguments arguments)

@@ -16,21 +16,18 @@ namespace {
 
 constexpr mode_t kReplaceable = 0444;
 
-bool isReadable(const FileDescriptor &file, const std::string &name)
+} // namespace
+
+bool isReadableList(const FileDescriptor &file, const std::string &name)
 {
     const auto text = fileContents(file.get(), name, kPlistMaximumBytes);
     return lseek(file.get(), 0, SEEK_SET) == 0 && text && isCompleteProfileList(*text);
 }
 
-} // namespace
-
-bool wouldLoseGoodList(const FileDescriptor &current, const ListFolder &folder, const Caller &caller,
-                       const ListTarget &target)
+bool hasReadablePrevious(const ListFolder &folder, const Caller &caller, const ListTarget &target)
 {
-    if (isReadable(current, target.currentName()))
-        return false;
     const FoundFile previous = folder.find(target.previousName(), O_RDONLY, caller, target);
-    return previous.standing == Standing::Usable && isReadable(previous.file, target.previousName());
+    return previous.standing == Standing::Usable && isReadableList(previous.file, target.previousName());
 }
 
 bool hasFreshUnreadable(const ListFolder &folder, const Caller &caller, const ListTarget &target)

@@ -6,10 +6,13 @@
 
 namespace bv {
 
-// Whether the open current list is unreadable while the previous list is readable. The caller must then keep the
-// current list aside and leave the previous one in place. Afterwards the open file is at its start, as before.
-bool wouldLoseGoodList(const FileDescriptor &current, const ListFolder &folder, const Caller &caller,
-                       const ListTarget &target);
+// Whether the open file is a readable list. The file must be at its start, and is there again afterwards. The name is
+// for the log.
+bool isReadableList(const FileDescriptor &file, const std::string &name);
+
+// Whether the previous list is there and readable. An unreadable current list must then go aside, and the previous one
+// stay in place.
+bool hasReadablePrevious(const ListFolder &folder, const Caller &caller, const ListTarget &target);
 
 // Whether an unreadable list is kept aside and no readable list has been written since. The kept list must then stay.
 bool hasFreshUnreadable(const ListFolder &folder, const Caller &caller, const ListTarget &target);

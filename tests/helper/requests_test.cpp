@@ -94,6 +94,16 @@ TEST_F(Requests, AnUnreadableListGoesAsideInsteadOfOverTheLastGoodCopy)
     put(current(), cut);
     EXPECT_TRUE(swap());
     expect(listText("fresh"), cut);
+    // A readable list that comes back by a swap, or by hand, counts as well.
+    EXPECT_TRUE(answers(true, {kSwap, "3", current(), previous()}));
+    put(current(), "after a swap");
+    EXPECT_TRUE(swap());
+    expect(listText("fresh"), "after a swap");
+    put(current(), good);
+    EXPECT_TRUE(swap());
+    put(current(), "after a copy");
+    EXPECT_TRUE(swap());
+    expect(good, "after a copy");
     EXPECT_EQ(names(), m_login + "-QL70-profile.plist " + m_login + "-QL70-profile.prev.plist " + m_login +
                            "-QL70-profile.unreadable.plist");
 }
