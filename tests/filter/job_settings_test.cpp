@@ -9,6 +9,13 @@
 #include <gtest/gtest.h>
 #include <map>
 #include <memory>
+#include <utility>
+
+// libcups does not free all that it makes of a PPD's printer presets (under the leak checker only).
+extern "C" [[gnu::visibility("default")]] const char *__lsan_default_suppressions()
+{
+    return "leak:_ppdCacheCreateWithPPD\nleak:cupsAddOption\n";
+}
 
 namespace {
 
@@ -114,8 +121,9 @@ TEST_F(JobSettings, PrintColorModeGrayTurnsOnThePrintersGrayOption)
 TEST_F(JobSettings, APresetKeepsTheJobsChoiceWhenThePpdLacksItsOwn)
 {
     ppd_option_t *halftone = ppdFindOption(m_ppd.get(), "BVTextHalftone");
-    halftone->num_choices = 1;
+    const int all = std::exchange(halftone->num_choices, 1);
     EXPECT_THAT(choices("BVQuickColor=Photo"), SizeIs(20));
+    halftone->num_choices = all; // libcups frees as many as it counts
 }
 
 } // namespace
