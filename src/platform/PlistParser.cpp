@@ -225,7 +225,7 @@ private:
             stop("a key has no value");
         if (!ended->sorted)
             std::stable_sort(ended->value.entries.begin(), ended->value.entries.end(),
-                             [](const PlistEntry &a, const PlistEntry &b) { return a.first < b.first; });
+                             [](const PlistEntry &a, const PlistEntry &b) { return a.key < b.key; });
     }
 
     void endValue(Open *ended)
@@ -269,7 +269,7 @@ private:
             *m_root = std::move(value);
         } else if (parent.element == Element::Dict) {
             std::vector<PlistEntry> &entries = parent.value.entries;
-            parent.sorted = parent.sorted && (entries.empty() || entries.back().first <= parent.key);
+            parent.sorted = parent.sorted && (entries.empty() || entries.back().key <= parent.key);
             entries.emplace_back(std::move(parent.key), std::move(value));
             parent.keyPending = false;
         }

@@ -10,8 +10,7 @@
 
 namespace bv {
 
-struct PlistValue;
-using PlistEntry = std::pair<std::string, PlistValue>;
+struct PlistEntry;
 
 struct PlistValue
 {
@@ -21,6 +20,15 @@ struct PlistValue
     std::optional<int32_t> number;
     std::string text;
     std::vector<PlistEntry> entries; // sorted by key; equal keys in the order of the text
+};
+
+// One entry of a dictionary. A pair would not do: clang 14 wants the types of a pair complete where it is named.
+struct PlistEntry
+{
+    PlistEntry(std::string entryKey, PlistValue entryValue) : key(std::move(entryKey)), value(std::move(entryValue)) {}
+
+    std::string key;
+    PlistValue value;
 };
 
 } // namespace bv

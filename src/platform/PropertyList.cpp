@@ -20,8 +20,8 @@ constexpr std::string_view kTail = "</plist>\n";
 
 struct ByKey
 {
-    bool operator()(const PlistEntry &entry, std::string_view key) const { return entry.first < key; }
-    bool operator()(std::string_view key, const PlistEntry &entry) const { return key < entry.first; }
+    bool operator()(const PlistEntry &entry, std::string_view key) const { return entry.key < key; }
+    bool operator()(std::string_view key, const PlistEntry &entry) const { return key < entry.key; }
 };
 
 auto entriesOf(const PlistValue *value, std::string_view key)
@@ -35,7 +35,7 @@ void put(PlistValue *dictionary, const std::string &key, PlistValue value)
 {
     std::vector<PlistEntry> &entries = dictionary->entries;
     // Most lists are built in key order, so first try the end.
-    if (entries.empty() || entries.back().first < key) {
+    if (entries.empty() || entries.back().key < key) {
         entries.emplace_back(key, std::move(value));
         return;
     }
@@ -104,7 +104,7 @@ bool PropertyListNode::isDictionary() const
 PropertyListNode PropertyListNode::item(std::string_view key) const
 {
     const auto [first, last] = entriesOf(m_value, key);
-    return first == last ? PropertyListNode() : PropertyListNode(&std::prev(last)->second);
+    return first == last ? PropertyListNode() : PropertyListNode(&std::prev(last)->value);
 }
 
 bool PropertyListNode::repeats(std::string_view key) const
