@@ -4,6 +4,7 @@
 
 #include "platform/ApplicationLauncher.h"
 #include "platform/Bundle.h"
+#include "platform/PlainTip.h"
 #include "profiles/ProfileOperations.h"
 #include "profiles/QuickColorPresets.h"
 
@@ -89,7 +90,7 @@ void AdvancedColorOptions::createPDEControlTable()
         const QString reason =
             allowed ? QString() : localizedString("Only administrators of the print system can manage profiles.");
         manage->setEnabled(allowed);
-        manage->setToolTip(reason);
+        bv::setPlainTip(manage, reason);
         manage->setAccessibleDescription(reason);
     }
 }

@@ -4,6 +4,7 @@
 
 #include "colorrules/OptionConstraints.h"
 #include "platform/Bundle.h"
+#include "platform/PlainTip.h"
 
 #include <QComboBox>
 #include <QWidget>
@@ -55,7 +56,7 @@ void explainGreyedControls(PDEControlTable table)
         if (!row || !row->control)
             continue;
         const QString reason = matchRule(*rule, table) ? reasonFor(*rule, table) : QString();
-        row->control->setToolTip(reason);
+        setPlainTip(row->control, reason);
         row->control->setAccessibleDescription(reason);
     }
 }

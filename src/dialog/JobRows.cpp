@@ -3,6 +3,7 @@
 #include "dialog/JobRows.h"
 
 #include "jobs/PageRange.h"
+#include "platform/PlainTip.h"
 #include "queues/JobOnlyKeys.h"
 
 #include <QFormLayout>
@@ -72,7 +73,7 @@ QString JobRows::problem() const
 void JobRows::update()
 {
     const QString wrong = problem();
-    m_range->setToolTip(wrong.isEmpty() ? tr("Pages and ranges between commas, for example 1-3, 8, 12-") : wrong);
+    setPlainTip(m_range, wrong.isEmpty() ? tr("Pages and ranges between commas, for example 1-3, 8, 12-") : wrong);
     m_range->setAccessibleDescription(m_range->toolTip());
     emit changed();
 }

@@ -2,6 +2,8 @@
 // Builds the rows from the PPD with libcups. Keeps rows, ticket and conflict line consistent.
 #include "dialog/PpdOptionRows.h"
 
+#include "platform/PlainTip.h"
+
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
@@ -98,7 +100,7 @@ void PpdOptionRows::addRow(ppd_option_t *option, const QString &label, const QSt
     m_form->addRow(label, popUp);
     const QString keyword = QString::fromUtf8(option->keyword);
     connect(popUp, &QComboBox::currentIndexChanged, this, [this, popUp, keyword] {
-        popUp->setToolTip(popUp->currentText());
+        setPlainTip(popUp, popUp->currentText());
         emit choiceMade(keyword, popUp->currentData().toString());
     });
     m_rows.push_back({option, popUp, name});
@@ -130,7 +132,7 @@ void PpdOptionRows::restoreDefaults()
     for (const Row &row : m_rows) {
         if (!choose(row.popUp, QString::fromUtf8(row.option->defchoice)))
             choose(row.popUp, QString::fromUtf8(row.option->choices[0].choice));
-        row.popUp->setToolTip(row.popUp->currentText());
+        setPlainTip(row.popUp, row.popUp->currentText());
     }
 }
 

@@ -5,6 +5,7 @@
 #include "dialog/JobRows.h"
 #include "dialog/PpdOptionRows.h"
 #include "dialog/QueueList.h"
+#include "platform/PlainTip.h"
 #include "widgets/DocumentList.h"
 #include "widgets/MessageBar.h"
 #include "widgets/PaneArea.h"
@@ -37,6 +38,7 @@ constexpr int kPaneCharacters = 66;       // the pane needs this much before the
 QLabel *heading(const QString &text, QWidget *parent)
 {
     auto *label = new QLabel(text, parent);
+    label->setTextFormat(Qt::PlainText);
     QFont font = label->font();
     font.setBold(true);
     label->setFont(font);
@@ -149,7 +151,7 @@ QBoxLayout *PrintDialogLayout::makeButtons(QDialog *dialog)
 {
     restore = new QPushButton(tr("Restore De&faults"), this);
     restore->setObjectName(QStringLiteral("restoreDefaults"));
-    restore->setToolTip(tr("Put all of the printer's settings back to what its driver proposes"));
+    setPlainTip(restore, tr("Put all of the printer's settings back to what its driver proposes"));
     restore->setAutoDefault(false);
     cancel = new QPushButton(tr("Cancel"), this);
     cancel->setObjectName(QStringLiteral("cancel"));

@@ -2,6 +2,8 @@
 // Fills the pop-up of printers and the line beside it.
 #include "dialog/QueueList.h"
 
+#include "platform/PlainTip.h"
+
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -93,7 +95,7 @@ void QueueList::markWithoutPane(const QString &queue, const QString &reason)
     const int index = m_popUp->findData(queue, kNameRole);
     if (index < 0 || !m_popUp->itemData(index, Qt::ToolTipRole).toString().isEmpty())
         return;
-    m_popUp->setItemData(index, reason, Qt::ToolTipRole);
+    m_popUp->setItemData(index, plainTip(reason), Qt::ToolTipRole);
     m_popUp->setItemText(index, tr("%1: no color options").arg(m_popUp->itemText(index)));
 }
 
@@ -101,7 +103,7 @@ void QueueList::showNote()
 {
     const QString note = m_popUp->currentData(kNoteRole).toString();
     m_note->setText(note);
-    m_note->setToolTip(note);
+    setPlainTip(m_note, note);
     m_popUp->setAccessibleDescription(note);
 }
 

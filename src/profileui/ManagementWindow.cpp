@@ -3,6 +3,7 @@
 #include "profileui/ManagementWindow.h"
 
 #include "platform/Bundle.h"
+#include "platform/PlainTip.h"
 #include "profileui/ProfileTableModel.h"
 
 #include <QKeyEvent>
@@ -71,7 +72,7 @@ void ManagementWindow::setReturnConfirmsEntry(bool entry)
 
 void ManagementWindow::explainDelete(const QString &reason)
 {
-    controls._deleteButton->setToolTip(reason);
+    setPlainTip(controls._deleteButton, reason);
     controls._deleteButton->setAccessibleDescription(reason);
 }
 

@@ -4,6 +4,7 @@
 
 #include "platform/Bundle.h"
 #include "platform/HostProtocol.h"
+#include "platform/PlainTip.h"
 #include "platform/RootPath.h"
 #include "profiles/MenuState.h"
 
@@ -136,8 +137,9 @@ QVariant ProfileTableModel::data(const QModelIndex &index, int role) const
         return checkCell(record, role);
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
         return cellText(record, index.column());
+    case Qt::ToolTipRole:
+        return plainTip(cellText(record, index.column()));
     case Qt::FontRole:
         return m_font;
     default:

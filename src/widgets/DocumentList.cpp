@@ -2,6 +2,8 @@
 // The list of documents, its two buttons, and the rules for adding files.
 #include "widgets/DocumentList.h"
 
+#include "platform/PlainTip.h"
+
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
@@ -71,10 +73,10 @@ DocumentList::DocumentList(QWidget *parent)
     m_list->setTextElideMode(Qt::ElideMiddle);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_add->setObjectName(QStringLiteral("documentAdd"));
-    m_add->setToolTip(tr("Choose files to print"));
+    setPlainTip(m_add, tr("Choose files to print"));
     m_add->setAutoDefault(false);
     m_remove->setObjectName(QStringLiteral("documentRemove"));
-    m_remove->setToolTip(tr("Take the selected files out of the job; the files themselves stay"));
+    setPlainTip(m_remove, tr("Take the selected files out of the job; the files themselves stay"));
     m_remove->setAutoDefault(false);
 
     auto *grid = new QGridLayout(this);
@@ -113,7 +115,7 @@ void DocumentList::addDocuments(const QStringList &paths)
         known << absolute;
         auto *item = new QListWidgetItem(file.fileName(), m_list);
         item->setData(kPathRole, absolute);
-        item->setToolTip(absolute);
+        item->setToolTip(plainTip(absolute));
         added = true;
     }
     if (!m_list->currentItem() && m_list->count() > 0)

@@ -2,6 +2,8 @@
 // The message bar: icon, text, action button and close button.
 #include "widgets/MessageBar.h"
 
+#include "platform/PlainTip.h"
+
 #include <QAccessible>
 #include <QEvent>
 #include <QHBoxLayout>
@@ -40,7 +42,7 @@ MessageBar::MessageBar(QWidget *parent)
     m_close->setFocusPolicy(Qt::TabFocus);
     m_close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
     m_close->setAccessibleName(tr("Close this message"));
-    m_close->setToolTip(tr("Close this message"));
+    setPlainTip(m_close, tr("Close this message"));
     connect(m_close, &QToolButton::clicked, this, &MessageBar::clear);
     m_act->setObjectName(QStringLiteral("messageAction"));
     m_act->setAutoDefault(false);

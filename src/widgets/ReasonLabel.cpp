@@ -2,6 +2,8 @@
 // Updates a button and the texts that explain its state.
 #include "widgets/ReasonLabel.h"
 
+#include "platform/PlainTip.h"
+
 #include <QAbstractButton>
 
 namespace bv {
@@ -21,7 +23,7 @@ void ReasonLabel::explain(const QString &reason)
     if (!m_button)
         return;
     m_button->setEnabled(reason.isEmpty());
-    m_button->setToolTip(reason.isEmpty() ? m_usualTip : reason);
+    setPlainTip(m_button, reason.isEmpty() ? m_usualTip : reason);
     m_button->setAccessibleDescription(reason.isEmpty() ? m_usualTip : reason);
 }
 

@@ -2,6 +2,7 @@
 // Reasons shown for greyed-out controls, and their removal.
 #include "RuleTable.h"
 #include "colorrules/GreyedReasons.h"
+#include "support/MarkupProbe.h"
 
 #include <gtest/gtest.h>
 
@@ -20,6 +21,12 @@ TEST(GreyedReasons, NameTheCurrentConditionAndDisappearWithIt)
     EXPECT_EQ(intent->accessibleDescription(), intent->toolTip());
     EXPECT_EQ(t.control("GoToAdvancedOptionsButton")->toolTip(),
               "Available only while QuickColorPopup is set to fourth. Choose that to use this setting.");
+
+    // The item's text comes from the PPD.
+    t.menu("ImageRGBSourcePopup")->setItemText(0, bvtest::kMarkup);
+    bv::explainGreyedControls(t.table());
+    EXPECT_TRUE(intent->accessibleDescription().contains(bvtest::kMarkup));
+    EXPECT_FALSE(bvtest::showsImage(intent->toolTip())) << qPrintable(intent->toolTip());
 
     t.menu("ImageRGBSourcePopup")->setCurrentIndex(1);
     bv::explainGreyedControls(t.table());

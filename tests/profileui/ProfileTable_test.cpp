@@ -3,6 +3,7 @@
 #include "profileui/IconedCell.h"
 #include "profileui/ProfileTableView.h"
 #include "profileui/ProfileWindowFixture.h"
+#include "support/MarkupProbe.h"
 
 #include <QAccessible>
 #include <QFileDialog>
@@ -158,6 +159,17 @@ TEST_F(ProfileWindow, TheTabKeyReachesEveryControlInOrderAndEachHasAName)
                              "_windowCancel"));
     EXPECT_EQ(reached[1], QStringLiteral("_profileTableView _fileNameEdit _browse _profileNameEdit _locationMenu "
                                          "_localOK _localCancel _windowOK _windowCancel"));
+}
+
+TEST_F(ProfileWindow, MarkupInANameIsShownLetterByLetter)
+{
+    append(lists->rgb, 3, "odd.icc", kMarkup);
+    writeFile();
+    inWindow([&] {
+        const QAbstractItemModel *model = c()._profileTableView->model();
+        EXPECT_EQ(model->index(model->rowCount() - 1, 2).data().toString(), kMarkup);
+        EXPECT_EQ(imagesShown(window), QStringList());
+    });
 }
 
 TEST_F(ProfileWindow, EveryCellAndColumnCanBeSpoken)
