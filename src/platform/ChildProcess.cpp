@@ -60,9 +60,9 @@ public:
         m_ready = m_ready && posix_spawn_file_actions_addopen(&m_actions, stream, "/dev/null", mode, 0) == 0;
     }
     // Call it last. Returns 0 or an error number as in errno.
-    int start(pid_t *child, const std::string &program, char *const *words)
+    int start(pid_t *child, const std::string &program, char *const *words, int lastDescriptor = STDERR_FILENO)
     {
-        if (!m_ready || posix_spawn_file_actions_addclosefrom_np(&m_actions, STDERR_FILENO + 1) != 0)
+        if (!m_ready || posix_spawn_file_actions_addclosefrom_np(&m_actions, lastDescriptor + 1) != 0)
             return ENOMEM;
         return posix_spawn(child, program.c_str(), &m_actions, &m_attributes, words, environ);
     }
@@ -177,6 +177,23 @@ bool startProgram(const std::string &program)
         report(program, "nobody waits for it", EAGAIN);
     }
     return true;
+}
+
+std::optional<pid_t> startWorker(const std::string &program, const WorkerDescriptors &descriptors)
+{
+    constexpr int kThird = STDERR_FILENO + 1;
+    Spawn spawn(0);
+    spawn.streamTo(STDIN_FILENO, descriptors.input);
+    spawn.streamTo(STDOUT_FILENO, descriptors.output);
+    spawn.streamTo(kThird, descriptors.third);
+    spawn.streamToNothing(STDERR_FILENO, O_WRONLY);
+    char *words[] = {const_cast<char *>(program.c_str()), nullptr};
+    pid_t child = -1;
+    if (const int error = spawn.start(&child, program, words, kThird)) {
+        report(program, "not started", error);
+        return std::nullopt;
+    }
+    return child;
 }
 
 } // namespace bv

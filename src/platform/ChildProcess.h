@@ -6,6 +6,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <sys/types.h>
 
 namespace bv {
 
@@ -24,5 +25,17 @@ std::optional<ChildResult> runChild(const std::string &program, std::span<const 
 // Starts `program` (a real path) in a session of its own and does not wait for it. It inherits only the environment and
 // outlives this process. False, with the reason in the diagnostic log, when it cannot be started.
 bool startProgram(const std::string &program);
+
+// The descriptors that a worker inherits, at the numbers 0, 1 and 3. Its standard error is discarded.
+struct WorkerDescriptors
+{
+    int input = -1;
+    int output = -1;
+    int third = -1;
+};
+
+// Starts `program` (a real path) without arguments and returns its process id at once. It inherits the environment. The
+// caller ends it and waits for it. Nothing, with the reason in the diagnostic log, when it cannot be started.
+std::optional<pid_t> startWorker(const std::string &program, const WorkerDescriptors &descriptors);
 
 } // namespace bv
