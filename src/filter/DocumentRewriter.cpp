@@ -30,16 +30,13 @@ bool isLineEnd(char character)
 // The first line, including its line end.
 std::string_view firstLine(std::string_view text)
 {
-    const size_t end = text.find_first_of("\r\n");
-    if (end == text.npos)
-        return text;
+    const size_t end = size_t(std::find_if(text.begin(), text.end(), isLineEnd) - text.begin());
     return text.substr(0, text.substr(end, 2) == "\r\n" ? end + 2 : end + 1);
 }
 
 std::string_view lineEndOf(std::string_view line)
 {
-    const size_t end = line.find_first_of("\r\n");
-    return end == line.npos ? std::string_view() : line.substr(end);
+    return line.substr(size_t(std::find_if(line.begin(), line.end(), isLineEnd) - line.begin()));
 }
 
 bool isBlank(std::string_view line)
@@ -153,15 +150,15 @@ void DocumentRewriter::code(DocumentStream &stream, std::string_view line)
 
 void DocumentRewriter::comment(DocumentStream &stream, std::string_view line)
 {
-    const std::string kept(line); // reading ahead invalidates the view
-    if (m_nested == 0 && structure(stream, kept))
+    m_comment = line; // reading ahead invalidates the view
+    if (m_nested == 0 && structure(stream, m_comment))
         return;
-    if (kept.starts_with("%%BeginDocument"))
+    if (m_comment.starts_with("%%BeginDocument"))
         ++m_nested;
-    else if (kept.starts_with("%%EndDocument") && m_nested > 0)
+    else if (m_comment.starts_with("%%EndDocument") && m_nested > 0)
         --m_nested;
-    stream.pass(kept.size());
-    passData(stream, kept);
+    stream.pass(m_comment.size());
+    passData(stream, m_comment);
 }
 
 // Handles a comment of the document itself. Returns true when the line needs no copying.

@@ -61,6 +61,7 @@ private:
     Settings m_settings;
     PageNotice m_pageNotice;
     Place m_place = Place::Outside;
+    std::string m_comment; // the comment being handled
     std::string m_lineEnd = "\n";
     int m_nested = 0; // nesting depth of embedded documents
     int m_pages = 0;

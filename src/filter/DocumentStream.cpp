@@ -5,11 +5,33 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace bv {
 
-DocumentStream::DocumentStream(int input, int output) : m_input(input), m_output(output), m_buffer(kBufferBytes) {}
+namespace {
+
+// Bytes are passed on once so many have been read, so that the next program works at the same time.
+constexpr size_t kWriteBytes = size_t{128} * 1024;
+// Measured: with four times the default there are a quarter of the switches; larger pipes leave the processor's cache.
+constexpr int kPipeBytes = 256 * 1024;
+
+// A larger pipe means fewer switches between the programs at its ends. Anything but a pipe stays as it is.
+void enlargePipe(int descriptor)
+{
+    const int bytes = fcntl(descriptor, F_GETPIPE_SZ);
+    if (bytes > 0 && bytes < kPipeBytes)
+        fcntl(descriptor, F_SETPIPE_SZ, kPipeBytes);
+}
+
+} // namespace
+
+DocumentStream::DocumentStream(int input, int output) : m_input(input), m_output(output), m_buffer(kBufferBytes)
+{
+    enlargePipe(input);
+    enlargePipe(output);
+}
 
 std::string_view DocumentStream::ahead(size_t wanted)
 {
@@ -48,13 +70,13 @@ void DocumentStream::passToComment()
 {
     pass(1);
     while (!ahead(1).empty()) {
-        const char *start = m_buffer.data() + m_next;
-        const auto *found = static_cast<const char *>(std::memchr(start, '%', m_end - m_next));
+        const char *next = m_buffer.data() + m_next;
+        const auto *found = static_cast<const char *>(std::memchr(next, '%', m_end - m_next));
         if (!found) {
             advance(m_end - m_next);
             continue;
         }
-        advance(size_t(found - start));
+        advance(size_t(found - next));
         if (atLineStart())
             return;
         advance(1);
@@ -85,6 +107,10 @@ bool DocumentStream::refill()
 {
     if (m_atEnd || m_writeFailed)
         return false;
+    if (m_next - m_begin >= kWriteBytes)
+        flush();
+    if (m_begin == m_end)
+        m_begin = m_next = m_end = 0;
     if (m_end == m_buffer.size()) {
         flush();
         if (m_next == 0)

@@ -74,8 +74,8 @@ int main(int argc, char **argv)
     bv::DocumentRewriter rewriter(std::move(job.settings),
                                   // The server's page log needs these lines; no earlier filter writes them.
                                   [](int page, int copies) {
-                                      say("PAGE", std::to_string(page) + " " + std::to_string(copies));
-                                      say("INFO", "Printing page " + std::to_string(page) + ".");
+                                      std::fprintf(stderr, "PAGE: %d %d\nINFO: Printing page %d.\n", page, copies,
+                                                   page);
                                   });
     switch (rewriter.copy(input, STDOUT_FILENO)) {
     case bv::DocumentRewriter::Result::ReadError:
