@@ -21,7 +21,7 @@ struct ProcessIdentity
 std::optional<ProcessIdentity> identifyProcess(pid_t id);
 
 // The list of one user: the user's entry in the password database, and the logical paths of the two files.
-// currentName() and previousName() are the file names in the folder of the lists.
+// The names are those of the user's files in the folder of the lists.
 struct ListTarget
 {
     std::string login;
@@ -33,6 +33,10 @@ struct ListTarget
     std::string previousName() const;
     // Where a current list that cannot be read is kept aside.
     std::string unreadableName() const;
+    // The pieces of a list that is being written.
+    std::string stagingName() const { return currentName() + ".part"; }
+    // The temporary file of a swap.
+    std::string copyName() const { return currentName() + ".copy"; }
 };
 
 // The calling user, identified by the real user id of this process.

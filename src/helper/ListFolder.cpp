@@ -7,10 +7,7 @@
 #include "profiles/ProfilePaths.h"
 
 #include <cerrno>
-#include <chrono>
 #include <fcntl.h>
-#include <sys/file.h>
-#include <thread>
 #include <unistd.h>
 
 namespace bv {
@@ -18,8 +15,8 @@ namespace bv {
 namespace {
 
 constexpr mode_t kListFileMode = 0644;
-constexpr auto kLockLimit = std::chrono::seconds(10);
-constexpr auto kLockPause = std::chrono::milliseconds(5);
+constexpr mode_t kUnfinishedMode = 0600;
+constexpr int kAttempts = 100;
 constexpr int kNeverFollow = O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 
 bool isSameFile(const struct stat &a, const struct stat &b)
@@ -44,60 +41,67 @@ bool ListFolder::writableByCaller() const
     return faccessat(m_folder.get(), ".", W_OK | X_OK, 0) == 0;
 }
 
-bool ListFolder::lock()
-{
-    const auto end = std::chrono::steady_clock::now() + kLockLimit;
-    while (flock(m_folder.get(), LOCK_EX | LOCK_NB) != 0) {
-        if (errno == EINTR)
-            continue;
-        if (errno != EWOULDBLOCK || std::chrono::steady_clock::now() >= end) {
-            complain("cannot lock the folder of the lists", errno);
-            return false;
-        }
-        std::this_thread::sleep_for(kLockPause);
-    }
-    return true;
-}
-
 FoundFile ListFolder::find(const std::string &name, int access, const Caller &caller, const ListTarget &target) const
 {
+    // A commit or a swap of the same user may replace the file between two steps. The new one is then judged afresh.
     FoundFile found;
+    for (int attempt = 0; attempt < kAttempts && !findOnce(name, access, caller, target, &found); ++attempt)
+        found = {};
+    return found;
+}
+
+// False if the name went to another file meanwhile.
+bool ListFolder::findOnce(const std::string &name, int access, const Caller &caller, const ListTarget &target,
+                          FoundFile *found) const
+{
     // O_PATH opens nothing for reading, so a FIFO or a device has no effect before it is checked.
-    found.file = FileDescriptor(openat(m_folder.get(), name.c_str(), O_PATH | O_NOFOLLOW | O_CLOEXEC));
-    if (!found.file) {
-        found.standing = errno == ENOENT ? Standing::Missing : Standing::Foreign;
-        return found;
+    found->file = FileDescriptor(openat(m_folder.get(), name.c_str(), O_PATH | O_NOFOLLOW | O_CLOEXEC));
+    if (!found->file) {
+        found->standing = errno == ENOENT ? Standing::Missing : Standing::Foreign;
+        return true;
     }
-    found.standing = Standing::Foreign;
-    if (fstat(found.file.get(), &found.status) != 0 || !S_ISREG(found.status.st_mode) || found.status.st_nlink != 1 ||
-        !caller.acceptsOwner(found.status.st_uid, target)) {
-        complain("what stands in the place of a list file is not the user's regular file");
-        return found;
+    found->standing = Standing::Foreign;
+    if (fstat(found->file.get(), &found->status) != 0)
+        return true;
+    if (found->status.st_nlink == 0)
+        return false;
+    if (!S_ISREG(found->status.st_mode) || found->status.st_nlink != 1 ||
+        !caller.acceptsOwner(found->status.st_uid, target)) {
+        complain(name + " is no regular file of the user; its owner has the id " +
+                 std::to_string(found->status.st_uid));
+        return true;
     }
     if (access != O_PATH) {
-        const struct stat judged = found.status;
-        found.file = FileDescriptor(openat(m_folder.get(), name.c_str(), access | kNeverFollow));
-        if (!found.file || fstat(found.file.get(), &found.status) != 0 || !isSameFile(judged, found.status) ||
-            found.status.st_nlink != 1) {
+        const struct stat judged = found->status;
+        found->file = FileDescriptor(openat(m_folder.get(), name.c_str(), access | kNeverFollow));
+        if (!found->file || fstat(found->file.get(), &found->status) != 0) {
+            if (errno == ENOENT)
+                return false;
             complain("cannot open a list file", errno);
-            return found;
+            return true;
         }
+        if (!isSameFile(judged, found->status) || found->status.st_nlink != 1)
+            return false;
     }
-    found.standing = Standing::Usable;
-    return found;
+    found->standing = Standing::Usable;
+    return true;
 }
 
 FileDescriptor ListFolder::create(const std::string &name, const Caller &caller, const ListTarget &target) const
 {
-    FileDescriptor file(openat(m_folder.get(), name.c_str(), O_RDWR | O_CREAT | O_EXCL | kNeverFollow, kListFileMode));
+    FileDescriptor file(
+        openat(m_folder.get(), name.c_str(), O_RDWR | O_CREAT | O_EXCL | kNeverFollow, kUnfinishedMode));
     if (!file) {
-        complain("cannot make a file beside the list", errno);
+        if (errno != EEXIST)
+            complain("cannot make a file beside the list", errno);
         return file;
     }
     const bool given = !caller.isRoot() || fchown(file.get(), target.user, static_cast<gid_t>(-1)) == 0;
-    if (!given || fchmod(file.get(), kListFileMode) != 0) {
-        complain("cannot set owner and mode of a new file", errno);
+    if (!given || fchmod(file.get(), kUnfinishedMode) != 0) {
+        const int reason = errno;
+        complain("cannot set owner and mode of a new file", reason);
         removeIfNamed(name, file);
+        errno = reason;
         return {};
     }
     return file;
@@ -122,8 +126,8 @@ bool ListFolder::removeIfNamed(const std::string &name, const FileDescriptor &fi
 
 bool ListFolder::replace(const std::string &name, const FileDescriptor &file, const std::string &target) const
 {
-    if (fsync(file.get()) != 0) {
-        complain("cannot flush the new list to disk", errno);
+    if (fchmod(file.get(), kListFileMode) != 0 || fsync(file.get()) != 0) {
+        complain("cannot finish the new list and flush it to disk", errno);
         return false;
     }
     if (!stillNamed(name, file)) {

@@ -3,6 +3,7 @@
 #include "helper/ListRequests.h"
 
 #include "helper/Diagnostics.h"
+#include "helper/FileLocker.h"
 #include "helper/ListFolder.h"
 #include "helper/StagingFile.h"
 #include "helper/UnreadableList.h"
@@ -19,7 +20,7 @@ namespace {
 
 constexpr size_t kCopyBytes = size_t{64} << 10;
 
-// Opens and locks the folder. Nothing when the caller may not manage profiles.
+// Opens the folder. Nothing when the caller may not manage profiles.
 std::optional<ListFolder> openForWriting()
 {
     auto folder = ListFolder::open();
@@ -29,8 +30,6 @@ std::optional<ListFolder> openForWriting()
         complain("the caller may not manage profiles");
         return std::nullopt;
     }
-    if (!folder->lock())
-        return std::nullopt;
     return folder;
 }
 
@@ -52,32 +51,42 @@ bool copyBytes(const FileDescriptor &from, const FileDescriptor &to)
     return got == 0;
 }
 
-// Copies an open file over another. The copy is first written to a temporary file; only copies use its name, and only
-// under the lock.
-bool copyOver(const ListFolder &folder, const Caller &caller, const ListTarget &target, const FileDescriptor &source,
-              const std::string &to)
+// A copy of one of the user's lists over another. Its temporary file is the same for all of them, so that its lock
+// keeps two swaps of one user apart.
+class ListCopy
 {
-    if (folder.find(to, O_PATH, caller, target).standing == Standing::Foreign)
-        return false;
-    const std::string copyName = to + ".copy";
-    const FoundFile left = folder.find(copyName, O_PATH, caller, target); // left by a killed copy
-    if (left.standing == Standing::Foreign ||
-        (left.standing == Standing::Usable && !folder.removeIfNamed(copyName, left.file)))
-        return false;
-
-    const FileDescriptor copy = folder.create(copyName, caller, target);
-    if (!copy)
-        return false;
-    if (copyBytes(source, copy)) {
-        if (folder.replace(copyName, copy, to))
-            return true;
-    } else {
-        complain("cannot copy the list", errno);
+public:
+    // Makes and locks the temporary file. Borrows all three.
+    ListCopy(const ListFolder &folder, const Caller &caller, const ListTarget &target)
+        : m_folder(folder), m_caller(caller), m_target(target),
+          m_file(FileLocker(folder, caller, target).makeNew(target.copyName()))
+    {}
+    ListCopy(const ListCopy &) = delete;
+    ListCopy &operator=(const ListCopy &) = delete;
+    ~ListCopy()
+    {
+        if (m_file && m_folder.stillNamed(m_target.copyName(), m_file))
+            m_folder.removeIfNamed(m_target.copyName(), m_file);
     }
-    if (folder.stillNamed(copyName, copy))
-        folder.removeIfNamed(copyName, copy);
-    return false;
-}
+
+    explicit operator bool() const { return static_cast<bool>(m_file); }
+    // Call it once.
+    bool replace(const FileDescriptor &source, const std::string &to) const
+    {
+        if (m_folder.find(to, O_PATH, m_caller, m_target).standing == Standing::Foreign)
+            return false;
+        if (copyBytes(source, m_file))
+            return m_folder.replace(m_target.copyName(), m_file, to);
+        complain("cannot copy the list", errno);
+        return false;
+    }
+
+private:
+    const ListFolder &m_folder;
+    const Caller &m_caller;
+    const ListTarget &m_target;
+    const FileDescriptor m_file;
+};
 
 } // namespace
 
@@ -110,7 +119,10 @@ Outcome answerRemove(const Caller &caller, RequestArguments arguments)
         return outcomeOf(false);
     const std::string name = current ? target->currentName() : target->previousName();
     const FoundFile found = folder->find(name, O_PATH, caller, *target);
-    if (found.standing != Standing::Usable || !folder->removeIfNamed(name, found.file))
+    if (found.standing != Standing::Usable)
+        return outcomeOf(false);
+    // A list that took its place meanwhile was written after this request, and stays.
+    if (folder->stillNamed(name, found.file) && !folder->removeIfNamed(name, found.file))
         return outcomeOf(false);
     folder->flush(); // a failed flush does not matter: the file is removed
     return outcomeOf(true);
@@ -128,15 +140,21 @@ Outcome answerSwap(const Caller &caller, RequestArguments arguments)
     const bool keepCurrent = code == "2";
     const std::string current = target->currentName();
     const std::string previous = target->previousName();
-    const FoundFile source = folder->find(keepCurrent ? current : previous, O_RDONLY, caller, *target);
+    const std::string &from = keepCurrent ? current : previous;
+    if (folder->find(from, O_PATH, caller, *target).standing != Standing::Usable)
+        return outcomeOf(false);
+    const ListCopy copy(*folder, caller, *target);
+    if (!copy)
+        return outcomeOf(false);
+    const FoundFile source = folder->find(from, O_RDONLY, caller, *target);
     if (source.standing != Standing::Usable)
         return outcomeOf(false);
     // The last good copy stays where the current list cannot be read; that one goes aside, once.
-    const bool readable = isReadableList(source.file, keepCurrent ? current : previous);
+    const bool readable = isReadableList(source.file, from);
     if (keepCurrent && !readable && hasReadablePrevious(*folder, caller, *target))
         return outcomeOf(hasFreshUnreadable(*folder, caller, *target) ||
-                         copyOver(*folder, caller, *target, source.file, target->unreadableName()));
-    const bool copied = copyOver(*folder, caller, *target, source.file, keepCurrent ? previous : current);
+                         copy.replace(source.file, target->unreadableName()));
+    const bool copied = copy.replace(source.file, keepCurrent ? previous : current);
     // A readable list can also come back by a swap, or by hand and not through this program.
     if (copied && readable)
         noteReadableWritten(*folder, caller, *target);

@@ -38,13 +38,13 @@ std::string noteOf(const ProcessIdentity &owner, size_t textBytes)
 } // namespace
 
 StagingFile::StagingFile(const ListFolder &folder, const Caller &caller, const ListTarget &target)
-    : m_folder(folder), m_caller(caller), m_target(target), m_owner(caller.sequenceOwner()),
-      m_name(target.currentName() + ".part")
+    : m_folder(folder), m_caller(caller), m_target(target), m_locker(folder, caller, target),
+      m_owner(caller.sequenceOwner()), m_name(target.stagingName())
 {}
 
 StagingFile::Staged StagingFile::open() const
 {
-    FoundFile found = m_folder.find(m_name, O_RDWR, m_caller, m_target);
+    FoundFile found = m_locker.open(m_name);
     Staged staged;
     if (found.standing != Standing::Usable) {
         staged.sequence = found.standing == Standing::Missing ? Sequence::None : Sequence::Unusable;
@@ -79,13 +79,7 @@ bool StagingFile::write(const FileDescriptor &file, size_t offset, std::string_v
 
 bool StagingFile::start(std::string_view piece)
 {
-    const Staged old = open();
-    if (old.sequence == Sequence::Unusable)
-        return false;
-    // Creates a new file, so that a process that still has the old one open cannot write into it.
-    if (old.sequence != Sequence::None && !m_folder.removeIfNamed(m_name, old.file))
-        return false;
-    const FileDescriptor file = m_folder.create(m_name, m_caller, m_target);
+    const FileDescriptor file = m_locker.makeNew(m_name);
     return file && write(file, 0, piece);
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "helper/Caller.h"
+#include "helper/FileLocker.h"
 #include "helper/ListFolder.h"
 
 #include <string>
@@ -10,9 +11,9 @@
 
 namespace bv {
 
-// The staging file of one user's list, in a locked folder. After the text comes a note of fixed size that names the
-// process that owns the write sequence. The note begins with a NUL. No process argument can hold a NUL, so no piece can
-// pass for a note. A file without a complete note was left by a killed request and belongs to no process.
+// The staging file of one user's list, locked while a request uses it. After the text comes a note of fixed size that
+// names the process that owns the write sequence. The note begins with a NUL. No process argument can hold a NUL, so no
+// piece can pass for a note. A file without a complete note was left by a killed request and belongs to no process.
 class StagingFile
 {
 public:
@@ -46,6 +47,7 @@ private:
     const ListFolder &m_folder;
     const Caller &m_caller;
     const ListTarget &m_target;
+    const FileLocker m_locker;
     std::optional<ProcessIdentity> m_owner; // owner of the caller's sequences
     std::string m_name;
 };

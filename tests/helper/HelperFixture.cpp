@@ -133,6 +133,14 @@ RunOptions HelperTest::with(const std::string &fault) const
     return options;
 }
 
+RunOptions HelperTest::waitingBefore(const std::string &call) const
+{
+    mkfifo(real("/gate").c_str(), 0600);
+    RunOptions options = with(call + ":1:WAIT");
+    options.environment["FAULT_NAME"] = real("/gate");
+    return options;
+}
+
 std::vector<std::string> HelperTest::walkRequest(const std::string &host) const
 {
     return {"mibwalk_XPC",

@@ -54,6 +54,8 @@ protected:
     // Options that preload the fault library, and settings that the sanitizers need with it. FaultInjection.cpp
     // describes `fault`.
     RunOptions with(const std::string &fault) const;
+    // Options that make the helper wait before the given call until open(2) and close(2) of /gate let it go on.
+    RunOptions waitingBefore(const std::string &call) const;
     // The request for a walk, and the SNMP library's settings for it. The default host is too long to resolve, so no
     // network is needed.
     std::vector<std::string> walkRequest(const std::string &host = std::string(80, 'h')) const;
@@ -69,6 +71,7 @@ protected:
     std::string previous() const { return previousPath(m_login); }
     std::string url() const { return url(m_login); }
     std::string staging() const { return current() + ".part"; }
+    std::string copyName() const { return current() + ".copy"; }
 
     // The real path of a logical one.
     std::string real(const std::string &logical) const { return m_root + logical; }

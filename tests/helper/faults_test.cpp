@@ -87,9 +87,9 @@ TEST_F(Faults, AKillBeforeAnyCallLeavesAWholeList)
 TEST_F(Faults, EveryChangeIsFlushedBeforeItIsReported)
 {
     ASSERT_TRUE(answers(true, {kPiece, url(), m_old}));
-    EXPECT_EQ(callsOf({kCommit, url()}), "flock ftruncate fsync rename fsync-folder ");
-    EXPECT_EQ(callsOf({kSwap, "2", current(), previous()}), "flock write fsync rename fsync-folder ");
-    EXPECT_EQ(callsOf({kRemove, previous()}), "flock unlink fsync-folder ");
+    EXPECT_EQ(callsOf({kCommit, url()}), "lock ftruncate fsync rename fsync-folder ");
+    EXPECT_EQ(callsOf({kSwap, "2", current(), previous()}), "lock write fsync rename fsync-folder ");
+    EXPECT_EQ(callsOf({kRemove, previous()}), "unlink fsync-folder ");
     ASSERT_TRUE(answers(true, {kPiece, url(), m_new}));
     EXPECT_TRUE(answers(false, {kCommit, url()}, with("fsync-folder:1:EIO"))) << "the new name may be lost yet";
     EXPECT_EQ(contents(current()), m_new);
@@ -176,17 +176,19 @@ TEST_F(Faults, AFileSwappedBeforeTheRenameIsNotFollowed)
     EXPECT_EQ(contents(current()), m_old);
 }
 
-TEST_F(Faults, AFileReplacedBetweenCheckAndOpenIsNotRead)
+TEST_F(Faults, AFileReplacedBetweenCheckAndOpenIsJudgedAnew)
 {
-    for (const char *action : {"open:2:SWAP", "open:2:MOVE"}) {
+    for (const char *action : {"SWAP", "MOVE"}) {
         put(current(), "judged");
         put("/other", "another file of the same owner");
-        RunOptions options = with(action);
+        link(real("/other").c_str(), real("/second name").c_str());
+        RunOptions options = with(std::string("open:4:") + action); // check, copy, check of the source, source
         options.environment["FAULT_NAME"] = real(current());
         options.environment["FAULT_TARGET"] = real("/other");
         EXPECT_TRUE(answers(false, {kSwap, "2", current(), previous()}, options)) << action;
         EXPECT_EQ(contents(previous()), std::nullopt) << action;
         unlink(real(current()).c_str());
+        unlink(real("/second name").c_str());
     }
 }
 

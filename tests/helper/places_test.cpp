@@ -94,9 +94,9 @@ TEST_P(Places, StagingFileAndCopyMustBePlainFiles)
     EXPECT_TRUE(answers(false, {kCommit, url()}));
     EXPECT_TRUE(stands(staging()));
 
-    place(previous() + ".copy");
+    place(copyName());
     EXPECT_TRUE(answers(false, {kSwap, "2", current(), previous()}));
-    EXPECT_TRUE(stands(previous() + ".copy"));
+    EXPECT_TRUE(stands(copyName()));
     EXPECT_EQ(contents(current()), "old");
 }
 

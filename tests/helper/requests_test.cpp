@@ -197,6 +197,17 @@ TEST_F(Requests, UnknownRequestsPrintOneFalseAndChangeNothing)
     EXPECT_EQ(names(), m_login + "-QL70-profile.plist");
 }
 
+TEST_F(Requests, ATextThatIsNoListLeavesTheOldOne)
+{
+    ASSERT_TRUE(writeList(listText("old")));
+    for (const char *text : {"", "<x/>", "<true/>", "<dict/>", "<plist/>", "<plist version=\"1.0\"><dict/></plist>"}) {
+        ASSERT_TRUE(answers(true, {kPiece, url(), std::string("<?xml version=\"1.0\"?>") + text}));
+        EXPECT_TRUE(answers(false, {kCommit, url()})) << text;
+        EXPECT_EQ(contents(current()), listText("old"));
+        EXPECT_EQ(names(), m_login + "-QL70-profile.plist");
+    }
+}
+
 TEST_F(Requests, AListAboveTheSizeLimitIsRefused)
 {
     ASSERT_TRUE(answers(true, {kPiece, url(), "<?xml version=\"1.0\"?><!--"}));

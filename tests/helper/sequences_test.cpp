@@ -5,7 +5,6 @@
 
 #include <fcntl.h>
 #include <future>
-#include <sys/file.h>
 #include <sys/prctl.h>
 #include <unistd.h>
 
@@ -76,32 +75,78 @@ TEST_F(Sequences, AForeignStagingFileBelongsToNoSequence)
     EXPECT_EQ(contents(current()), listText("new"));
 }
 
-TEST_F(Sequences, AWriterWaitsForAnotherOne)
+TEST_F(Sequences, RequestsOfOneUserWaitForEachOtherTenSecondsAtMost)
 {
-    const int lock = open(folder().c_str(), O_RDONLY | O_CLOEXEC);
-    ASSERT_EQ(flock(lock, LOCK_EX), 0);
-    auto waiting = std::async(std::launch::async, [&] { return writeList(listText("waiting")); });
-    usleep(100000);
-    EXPECT_EQ(names(), "");
-    EXPECT_TRUE(answers(true, {kAdmin, current()}));
-    close(lock);
-    EXPECT_TRUE(waiting.get());
-    EXPECT_EQ(contents(current()), listText("waiting"));
+    struct Row
+    {
+        std::vector<std::string> first, second;
+        const char *before; // the call where the first one stops
+    };
+    const std::string text = listText("first");
+    put(previous(), text);
+    const Row rows[] = {
+        {{kCommit, url()}, {kPiece, url(), text}, "ftruncate"},
+        {{kSwap, "2", current(), previous()}, {kSwap, "3", current(), previous()}, "fsync"},
+    };
+    for (const Row &row : rows) {
+        SCOPED_TRACE(row.first[0]);
+        ASSERT_TRUE(answers(true, {kPiece, url(), text}));
+        auto holder = std::async(
+            std::launch::async, [&] { return static_cast<bool>(answers(true, row.first, waitingBefore(row.before))); });
+        waitingBefore(row.before); // makes the gate
+        const int gate = open(real("/gate").c_str(), O_WRONLY | O_CLOEXEC);
+        const std::string before = names();
+
+        RunOptions impatient = with("none:0:NONE");
+        impatient.environment["FAULT_CLOCK"] = "1";
+        impatient.environment["FAULT_LOG"] = real("/calls");
+        const RunResult late = run(row.second, impatient);
+        EXPECT_EQ(late.exitCode, 1);
+        EXPECT_NE(late.errors.find("another process of this user"), std::string::npos) << late.errors;
+        EXPECT_EQ(names(), before);
+        // Each attempt adds a line "lock" to the log and 5 ms to the waiting process's clock.
+        const size_t tries = contents("/calls").value_or("").size() / 5;
+        EXPECT_LE(tries, 2001U);
+        EXPECT_GE(tries, 1500U);
+        unlink(real("/calls").c_str());
+
+        EXPECT_TRUE(answers(true, {kAdmin, current()}));
+        auto waiting = std::async(std::launch::async, [&] { return static_cast<bool>(answers(true, row.second)); });
+        EXPECT_EQ(waiting.wait_for(std::chrono::milliseconds(100)), std::future_status::timeout);
+        close(gate);
+        EXPECT_TRUE(holder.get());
+        EXPECT_TRUE(waiting.get());
+        EXPECT_EQ(contents(current()), text);
+    }
 }
 
-TEST_F(Sequences, AWriterGivesUpAfterTenSeconds)
+TEST_F(Sequences, ManyProcessesOfOneUserNeverTearTheList)
 {
-    const int lock = open(folder().c_str(), O_RDONLY | O_CLOEXEC);
-    ASSERT_EQ(flock(lock, LOCK_EX), 0);
-    RunOptions options = with("none:0:NONE");
-    options.environment["FAULT_CLOCK"] = "1";
-    options.environment["FAULT_LOG"] = real("/calls");
-    EXPECT_TRUE(answers(false, {kPiece, url(), listText("late")}, options));
-    close(lock);
-    // Each attempt adds a line "flock" to the log and 5 ms to the waiting process's clock.
-    const size_t tries = contents("/calls").value_or("").size() / 6;
-    EXPECT_LE(tries, 2001U);
-    EXPECT_GE(tries, 1500U);
+    ASSERT_TRUE(writeList(listText("x", 20)));
+    std::vector<std::future<bool>> writers;
+    for (int writer = 0; writer < 6; ++writer) {
+        writers.push_back(std::async(std::launch::async, [&, writer] {
+            const std::string text = listText(std::string(1, static_cast<char>('a' + writer)), 20);
+            return inAnotherProcess([&] {
+                for (int round = 0; round < 5; ++round) {
+                    run({kPiece, url(), text.substr(0, 9000)});
+                    run({kPiece, url(), text.substr(9000)});
+                    run({kCommit, url()});
+                    run({kSwap, "2", current(), previous()});
+                }
+                return true;
+            });
+        }));
+    }
+    const auto whole = [](const std::optional<std::string> &text) {
+        return text && *text == listText(text->substr(text->find("<string>") + 8, 1), 20);
+    };
+    for (std::future<bool> &writer : writers) {
+        while (writer.wait_for(std::chrono::milliseconds(1)) == std::future_status::timeout)
+            ASSERT_TRUE(whole(contents(current())));
+        EXPECT_TRUE(writer.get());
+    }
+    EXPECT_TRUE(whole(contents(previous())));
 }
 
 } // namespace bvtest

@@ -2,10 +2,15 @@
 // Two users of one group, and root, in one folder. Needs root, because only root can act as other users.
 #include "helper/HelperFixture.h"
 
+#include <csignal>
+#include <fcntl.h>
 #include <filesystem>
+#include <future>
 #include <pwd.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace bvtest {
@@ -84,11 +89,17 @@ TEST_F(Users, GroupMembersWriteOnlyTheirOwnLists)
 TEST_F(Users, AnotherUsersFileInTheWayIsNotTouched)
 {
     for (const std::string &path : {currentPath(m_alice.login), currentPath(m_alice.login) + ".part",
-                                    previousPath(m_alice.login), previousPath(m_alice.login) + ".copy"}) {
+                                    previousPath(m_alice.login), currentPath(m_alice.login) + ".copy"}) {
         ASSERT_TRUE(writes(m_alice, m_alice.login, listText("alice")));
         put(path, "planted");
         ASSERT_EQ(chown(real(path).c_str(), *m_bob.as.user, 0), 0);
         ASSERT_EQ(chmod(real(path).c_str(), 0666), 0);
+        if (path.ends_with(".part")) {
+            // The one thing in the folder that another member can stop. The log says who did.
+            const std::string errors = run({kPiece, url(m_alice.login), "<?xml"}, m_alice.as).errors;
+            EXPECT_NE(errors.find(m_alice.login + "-QL70-profile.plist.part"), std::string::npos) << errors;
+            EXPECT_NE(errors.find("id " + std::to_string(*m_bob.as.user)), std::string::npos) << errors;
+        }
         if (path == currentPath(m_alice.login)) {
             EXPECT_TRUE(answers(false, {kExist, path}, m_alice.as));
             EXPECT_TRUE(answers(false, {kRemove, path}, m_alice.as));
@@ -103,6 +114,66 @@ TEST_F(Users, AnotherUsersFileInTheWayIsNotTouched)
         EXPECT_EQ(ownerOf(path), *m_bob.as.user);
         unlink(real(path).c_str());
     }
+}
+
+TEST_F(Users, NobodyElseCanHoldUpAWriter)
+{
+    ASSERT_TRUE(writes(m_alice, m_alice.login, listText("old")));
+    ASSERT_TRUE(answers(true, {kPiece, url(m_alice.login), listText("new")}, m_alice.as));
+    // Everything that Bob can open and lock, and a request of his own that does not end.
+    auto hanging = std::async(std::launch::async, [this] {
+        RunOptions options = waitingBefore("write");
+        chmod(real("/gate").c_str(), 0666);
+        options.user = m_bob.as.user;
+        options.program = m_bob.as.program;
+        return run({kPiece, url(m_bob.login), listText("bob")}, options).exitCode;
+    });
+    waitingBefore("write");
+    const int gate = open(real("/gate").c_str(), O_WRONLY | O_CLOEXEC);
+    int ready[2];
+    ASSERT_EQ(pipe2(ready, O_CLOEXEC), 0);
+    const pid_t outsider = fork();
+    if (outsider == 0) {
+        if (setgid(*m_bob.as.user) != 0 || setuid(*m_bob.as.user) != 0)
+            _exit(1);
+        flock(open(folder().c_str(), O_RDONLY), LOCK_EX);
+        for (const auto &entry : std::filesystem::directory_iterator(folder())) {
+            struct flock whole = {};
+            for (const short kind : {F_RDLCK, F_WRLCK}) {
+                whole.l_type = kind;
+                fcntl(open(entry.path().c_str(), kind == F_RDLCK ? O_RDONLY : O_RDWR), F_OFD_SETLK, &whole);
+            }
+        }
+        [[maybe_unused]] const ssize_t told = write(ready[1], "", 1);
+        pause();
+    }
+    char byte;
+    ASSERT_EQ(read(ready[0], &byte, 1), 1);
+    const std::string path = currentPath(m_alice.login);
+    RunOptions impatient = m_alice.as;
+    impatient.environment.merge(with("none:0:NONE").environment);
+    impatient.environment["FAULT_CLOCK"] = "1";
+    EXPECT_TRUE(answers(true, {kPiece, url(m_alice.login), " "}, impatient));
+    EXPECT_TRUE(answers(true, {kCommit, url(m_alice.login)}, impatient));
+    EXPECT_TRUE(answers(true, {kSwap, "2", path, previousPath(m_alice.login)}, impatient));
+    EXPECT_TRUE(answers(true, {kRemove, path}, impatient));
+    EXPECT_EQ(contents(previousPath(m_alice.login)), listText("new") + " ");
+    kill(outsider, SIGKILL);
+    waitpid(outsider, nullptr, 0);
+    close(ready[0]);
+    close(ready[1]);
+    close(gate);
+    EXPECT_EQ(hanging.get(), 0);
+
+    // A file that another user could lock was not made by the helper; it is not waited for.
+    put(path + ".part", "planted");
+    ASSERT_EQ(chown(real(path + ".part").c_str(), *m_alice.as.user, 0), 0);
+    const int lock = open(real(path + ".part").c_str(), O_RDONLY | O_CLOEXEC);
+    struct flock reading = {};
+    reading.l_type = F_RDLCK;
+    ASSERT_EQ(fcntl(lock, F_OFD_SETLK, &reading), 0);
+    EXPECT_TRUE(writes(m_alice, m_alice.login, listText("again")));
+    close(lock);
 }
 
 TEST_F(Users, RootWritesForAnyUserInThePasswordDatabase)

@@ -8,13 +8,15 @@
 //           TORN                 a write writes half of its bytes, then the process is killed
 //           SWAP                 before the call, the name in FAULT_NAME becomes a symbolic link to FAULT_TARGET
 //           MOVE                 before the call, FAULT_TARGET is renamed to the name in FAULT_NAME
+//           WAIT                 before the call, the process waits until the FIFO in FAULT_NAME was opened for writing
+//                                and closed again
 // FAULT_LOG=FILE        appends the name of each call to the file, one per line
 // FAULT_CLOCK=1         the process does not sleep; its clock is moved forward instead
 // FAULT_LOGINS=1        the password database ignores the case of login names, as some databases do
 //
 // Names of calls: write and pwrite are "write", fsync and fdatasync are "fsync" ("fsync-folder" for a folder), rename
-// and renameat are "rename", openat is "open". "open" is not logged and not part of "any". Calls on descriptors 0 to 2
-// are left alone and not counted.
+// and renameat are "rename", openat is "open", fcntl with F_OFD_SETLK is "lock". "open" is not logged and not part of
+// "any". Calls on descriptors 0 to 2 are left alone and not counted.
 #include <algorithm>
 #include <cctype>
 #include <cerrno>
@@ -72,6 +74,15 @@ void changeName(std::string_view action)
         syscall(SYS_renameat, AT_FDCWD, target, AT_FDCWD, name);
 }
 
+void waitForRelease()
+{
+    const int gate = static_cast<int>(syscall(SYS_openat, AT_FDCWD, std::getenv("FAULT_NAME"), O_RDONLY));
+    char byte;
+    while (syscall(SYS_read, gate, &byte, 1) > 0) {
+    }
+    syscall(SYS_close, gate);
+}
+
 bool isFolder(int descriptor)
 {
     struct stat status = {};
@@ -109,6 +120,8 @@ Fate fateOf(std::string_view call)
         std::raise(SIGKILL);
     if (action == "SWAP" || action == "MOVE")
         changeName(action);
+    if (action == "WAIT")
+        waitForRelease();
     for (const ErrorRow &row : kErrors) {
         if (row.name == action) {
             errno = row.error;
@@ -223,9 +236,24 @@ passwd *getpwnam(const char *login)
     return next<passwd *(const char *)>("getpwnam")(name.c_str());
 }
 
-int flock(int descriptor, int operation) noexcept
+int fcntl(int descriptor, int command, ...)
 {
-    return fateOf("flock") == Fate::Fail ? -1 : next<int(int, int)>("flock")(descriptor, operation);
+    va_list more;
+    va_start(more, command);
+    void *argument = va_arg(more, void *);
+    va_end(more);
+    if (command == F_OFD_SETLK && fateOf("lock") == Fate::Fail)
+        return -1;
+    return next<int(int, int, ...)>("fcntl")(descriptor, command, argument);
+}
+
+int fcntl64(int descriptor, int command, ...)
+{
+    va_list more;
+    va_start(more, command);
+    void *argument = va_arg(more, void *);
+    va_end(more);
+    return fcntl(descriptor, command, argument);
 }
 
 } // extern "C"
