@@ -2,7 +2,10 @@
 // Looks up localized strings of the plug-in in the translation tables of its resources.
 #include "platform/Bundle.h"
 
+#include "platform/Log.h"
+
 #include <QLocale>
+#include <QSet>
 #include <QTranslator>
 
 #include <algorithm>
@@ -19,6 +22,7 @@ namespace bv {
 struct Bundle::Tables
 {
     QTranslator texts;
+    QSet<QString> missed; // keys without words; each leaves one line in the log
     bool loaded = false;
 };
 
@@ -40,7 +44,13 @@ QString Bundle::localizedString(const QString &key) const
     if (!m_tables->loaded)
         return key;
     const QString text = m_tables->texts.translate("bvco", key.toUtf8().constData());
-    return text.isEmpty() ? key : text;
+    if (!text.isEmpty())
+        return text;
+    if (!m_tables->missed.contains(key)) {
+        m_tables->missed.insert(key);
+        diagnosticLine("no words for the text \"" + key.toStdString() + '"');
+    }
+    return key;
 }
 
 } // namespace bv
