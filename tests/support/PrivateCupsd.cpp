@@ -7,12 +7,15 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QThread>
+#include <algorithm>
 #include <arpa/inet.h>
+#include <cstring>
 #include <grp.h>
 #include <netinet/in.h>
 #include <pwd.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 namespace bvtest {
@@ -20,6 +23,8 @@ namespace bvtest {
 namespace {
 
 constexpr char kStockFilters[] = "/usr/lib/cups/filter";
+
+constexpr char kFolder[] = "/bvcups.XXXXXX";
 
 constexpr int kPatience = 30000; // milliseconds; enough for a busy machine
 
@@ -75,6 +80,23 @@ FatalErrors none
 SyncOnClose No
 )";
 
+// The folder for scratch files if a print server can work below it, otherwise /tmp: the path of a socket is short and
+// stands in a URI, and as root the server's own user must get there.
+QByteArray scratchBase()
+{
+    const QByteArray base = QDir::tempPath().toLocal8Bit();
+    const bool plain = std::all_of(base.begin(), base.end(), [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || std::strchr("/._-", c);
+    });
+    bool passable =
+        base.startsWith('/') && base.size() + sizeof(kFolder) + sizeof("sock") <= sizeof(sockaddr_un::sun_path);
+    for (QByteArray folder = base; passable && folder.size() > 1; folder.truncate(folder.lastIndexOf('/'))) {
+        struct stat status = {};
+        passable = stat(folder.constData(), &status) == 0 && (getuid() != 0 || (status.st_mode & S_IXOTH) != 0);
+    }
+    return plain && passable ? base : QByteArray("/tmp");
+}
+
 bool write(const QString &path, const QByteArray &text)
 {
     QFile file(path);
@@ -115,11 +137,10 @@ std::map<QString, QString> parseOptions(const QByteArray &text)
 
 PrivateCupsd::PrivateCupsd()
 {
-    // The path of a socket must be short, and the server's user must have access to the folder.
-    char pattern[] = "/tmp/bvcups.XXXXXX";
-    if (mkdtemp(pattern)) {
+    QByteArray pattern = scratchBase() + kFolder;
+    if (mkdtemp(pattern.data())) {
         m_folder = QString::fromLatin1(pattern);
-        chmod(pattern, 0755);
+        chmod(pattern.constData(), 0755);
     }
 }
 

@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
+#include <thread>
 
 #include <fcntl.h>
 #include <poll.h>
@@ -107,7 +108,16 @@ bool ProgramUnderTest::running()
 
 int ProgramUnderTest::wait()
 {
-    while (readSome(milliseconds(20000))) {
+    const Clock::time_point deadline = Clock::now() + milliseconds(60000);
+    const auto left = [&] { return std::chrono::duration_cast<milliseconds>(deadline - Clock::now()); };
+    while (left().count() > 0 && readSome(left())) {
+    }
+    // The output may end before the program does.
+    while (running() && left().count() > 0)
+        std::this_thread::sleep_for(milliseconds(2));
+    if (running()) {
+        m_output += "\n(killed, because it did not end)\n";
+        signal(SIGKILL);
     }
     int status = 0;
     if (m_pid > 0 && waitpid(m_pid, &status, 0) == m_pid) {

@@ -33,8 +33,8 @@ public:
     void signal(int number) const;
     // True if the program still runs. Does not wait.
     bool running();
-    // Reads the rest of the output and waits for the end. Returns the exit status, or -1 when a signal ended the
-    // program.
+    // Reads the rest of the output and waits for the end, at most 60 s; then the program is killed. Returns the exit
+    // status, or -1 when a signal ended the program.
     int wait();
     // Sends SIGTERM and waits like wait().
     int stop();
