@@ -181,7 +181,7 @@ TEST_F(Faults, AFileReplacedBetweenCheckAndOpenIsJudgedAnew)
     for (const char *action : {"SWAP", "MOVE"}) {
         put(current(), "judged");
         put("/other", "another file of the same owner");
-        link(real("/other").c_str(), real("/second name").c_str());
+        ASSERT_EQ(link(real("/other").c_str(), real("/second name").c_str()), 0);
         RunOptions options = with(std::string("open:4:") + action); // check, copy, check of the source, source
         options.environment["FAULT_NAME"] = real(current());
         options.environment["FAULT_TARGET"] = real("/other");
