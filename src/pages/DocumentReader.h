@@ -3,19 +3,12 @@
 #pragma once
 
 #include "pages/PageProtocol.h"
+#include "pages/Sheet.h"
 
 #include <QImage>
-#include <QSizeF>
 #include <memory>
 
 namespace bv {
-
-// A sheet of paper, in points.
-struct Sheet
-{
-    QSizeF size;
-    QMarginsF borders; // left white by the printer
-};
 
 class DocumentReader
 {
