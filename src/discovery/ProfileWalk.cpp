@@ -2,6 +2,7 @@
 // The walk loop: sends GETNEXT from the root of the table on, until the table ends or a limit is reached.
 #include "discovery/ProfileWalk.h"
 
+#include "discovery/FencedWalk.h"
 #include "discovery/ProfileSpool.h"
 #include "discovery/Reconciliation.h"
 #include "discovery/SnmpEnvironment.h"
@@ -12,7 +13,9 @@
 #include <cstdio>
 #include <cstring>
 #include <memory>
+#include <netinet/in.h>
 #include <string>
+#include <sys/socket.h>
 #include <unistd.h>
 
 char sDEBUGmsg[128];
@@ -222,7 +225,28 @@ bool parseRoot(int argc, char **argv, int index, Identifier *root)
     return false;
 }
 
-int32_t walk(int argc, char **argv, const bv::WalkLimits &limits)
+// Makes the kernel drop what does not come from the address and port that were asked. The library itself takes an
+// answer from anywhere if its request id fits.
+bool listenToPrinterOnly(netsnmp_session *session)
+{
+    const netsnmp_transport *transport = snmp_sess_transport(snmp_sess_pointer(session));
+    int type = 0;
+    socklen_t size = sizeof(type);
+    if (!transport || getsockopt(transport->sock, SOL_SOCKET, SO_TYPE, &type, &size) != 0)
+        return false;
+    if (type != SOCK_DGRAM)
+        return true; // a stream has one peer
+    if (!transport->data || transport->data_length != sizeof(netsnmp_indexed_addr_pair))
+        return false;
+    const auto *addresses = static_cast<const netsnmp_indexed_addr_pair *>(transport->data);
+    const sockaddr *printer = &addresses->remote_addr.sa;
+    return connect(transport->sock, printer,
+                   printer->sa_family == AF_INET6 ? sizeof(sockaddr_in6) : sizeof(sockaddr_in)) == 0;
+}
+
+} // namespace
+
+int32_t bv::walkPrinter(int32_t argc, char **argv, const WalkLimits &limits, void (*sessionOpen)())
 {
     for (const WalkOption &option : kOptions)
         netsnmp_ds_register_config(ASN_BOOLEAN, kProgram, option.name, NETSNMP_DS_APPLICATION_ID, option.slot);
@@ -247,13 +271,17 @@ int32_t walk(int argc, char **argv, const bv::WalkLimits &limits)
         bv::diagnosticLine("Profile walk: no session with the printer");
         return kNotWalked;
     }
+    if (!listenToPrinterOnly(session.get())) {
+        bv::diagnosticLine("Profile walk: the printer's address cannot be reached");
+        return kNotWalked;
+    }
+    if (sessionOpen)
+        sessionOpen();
     const int32_t status = Walk(session.get(), root, limits).run();
     if (isOn(kPrintStatistics))
         MyDebugMessage(("[UTIL-MIB] Variables found: " + std::to_string(numprinted)).c_str(), 0);
     return status;
 }
-
-} // namespace
 
 void snmp_get_and_print(netsnmp_session *session, const oid *name, size_t length)
 {
@@ -286,7 +314,7 @@ void optProc(int /*argc*/, char *const * /*argv*/, int option)
 int32_t bv::walkProfileTable(int32_t argc, char **argv, const WalkLimits &limits)
 {
     prepareSnmpEnvironment();
-    const int32_t status = walk(argc, argv, limits);
+    const int32_t status = walkBehindFence(argc, argv, limits);
     // Flush, so that the library's output comes before anything that the caller prints.
     std::fflush(stdout);
     vRestructPlistSpool2Current(status < 0 ? kNotWalked : status);

@@ -3,8 +3,11 @@
 #include "platform/FileDescriptor.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
+#include <climits>
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 namespace bv {
@@ -63,6 +66,27 @@ bool readToEnd(int descriptor, std::string *text, size_t limit)
             return got >= 0;
         }
     }
+}
+
+bool readToEndBefore(int descriptor, std::string *text, size_t limit, std::chrono::steady_clock::time_point end)
+{
+    std::array<char, kChunk> chunk;
+    while (text->size() <= limit) {
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - std::chrono::steady_clock::now()).count();
+        pollfd readable = {descriptor, POLLIN, 0};
+        const int ready = left > 0 ? poll(&readable, 1, static_cast<int>(std::min<long>(left, INT_MAX))) : 0;
+        if (ready < 0 && errno == EINTR)
+            continue;
+        if (ready <= 0) {
+            errno = ready == 0 ? ETIMEDOUT : errno;
+            return false;
+        }
+        const ssize_t got = readSome(descriptor, chunk);
+        if (got <= 0)
+            return got == 0;
+        text->append(chunk.data(), static_cast<size_t>(got));
+    }
+    return true;
 }
 
 std::optional<std::string> readAt(int descriptor, size_t offset, size_t size)

@@ -2,6 +2,7 @@
 // Owns an open file descriptor; reads and writes whole texts through descriptors. Free of Qt and libcups.
 #pragma once
 
+#include <chrono>
 #include <optional>
 #include <span>
 #include <string>
@@ -43,6 +44,8 @@ ssize_t readSome(int descriptor, std::span<char> buffer);
 // Appends everything up to the end to *text. Stops early once *text is longer than `limit` bytes; the caller sees that
 // from its size. False on failure; what was read before stays in *text. May throw std::bad_alloc.
 bool readToEnd(int descriptor, std::string *text, size_t limit = std::string::npos);
+// The same until a point in time: false, with errno ETIMEDOUT, when the end has not come by then.
+bool readToEndBefore(int descriptor, std::string *text, size_t limit, std::chrono::steady_clock::time_point end);
 // Reads exactly `size` bytes of a file from `offset` on. Nothing on failure or when the file has fewer. May throw
 // std::bad_alloc.
 std::optional<std::string> readAt(int descriptor, size_t offset, size_t size);

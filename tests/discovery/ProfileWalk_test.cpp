@@ -11,8 +11,10 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <csignal>
 #include <cstdlib>
 #include <cstring>
+#include <fstream>
 #include <memory>
 #include <set>
 
@@ -30,8 +32,8 @@ using bvtest::ScratchFolder;
 using std::chrono::milliseconds;
 using testing::ElementsAre;
 
-// The last message to the walk's trace hook.
-char lastTrace[sizeof(sDEBUGmsg)];
+// Where the last message to the walk's trace hook goes: memory that this process shares with those that walk.
+char *lastTrace = nullptr;
 
 struct Walks
 {
@@ -80,6 +82,7 @@ public:
     Walker &operator=(const Walker &) = delete;
     ~Walker() { munmap(m_walked, sizeof(Walked)); }
 
+    pid_t pid() const { return m_pid; }
     // Waits until the process ends.
     Walked result() const
     {
@@ -92,6 +95,7 @@ public:
 private:
     void run(const Walks &walks) const
     {
+        lastTrace = m_walked->traced;
         for (size_t walk = 0; walk < walks.hosts.size(); ++walk) {
             std::vector<std::string> words = {"snmpwalk", "-Os", "-c", walks.community, "-v", "1"};
             words.insert(words.end(), walks.options.begin(), walks.options.end());
@@ -105,13 +109,22 @@ private:
         }
         m_walked->variables = numprinted;
         std::memcpy(m_walked->message, sDEBUGmsg, sizeof(sDEBUGmsg));
-        std::memcpy(m_walked->traced, lastTrace, sizeof(lastTrace));
         m_walked->spool = PlistForSpool;
     }
 
     Walked *m_walked;
     pid_t m_pid;
 };
+
+// The value of a line in the status of a process, see proc(5). Empty when there is none.
+std::string lineOf(pid_t process, const std::string &name)
+{
+    std::ifstream status("/proc/" + std::to_string(process) + "/status");
+    for (std::string word, value; status >> word;)
+        if (word == name && status >> value)
+            return value;
+    return "";
+}
 
 Walked walked(const Walks &walks)
 {
@@ -333,6 +346,45 @@ TEST_F(ProfileWalk, TheEnvironmentBringsNoMibsAndNoPrefix)
     EXPECT_EQ(getenv("SNMPCONFPATH"), m_folder.path()) << "the caller's own settings stay";
 }
 
+// The process that walks for the process `walker`. 0 when that one ends first.
+pid_t fencedChildOf(pid_t walker)
+{
+    for (;;) {
+        siginfo_t ended = {};
+        if (waitid(P_PID, static_cast<id_t>(walker), &ended, WEXITED | WNOHANG | WNOWAIT) != 0 || ended.si_pid != 0)
+            return 0;
+        const std::string task = "/proc/" + std::to_string(walker) + "/task/" + std::to_string(walker) + "/children";
+        pid_t child = 0;
+        std::ifstream(task) >> child;
+        if (child > 0 && lineOf(child, "NoNewPrivs:") == "1")
+            return child;
+        usleep(1000);
+    }
+}
+
+TEST_F(ProfileWalk, PacketsAreReadWithoutRightsAndACrashOrHangIsAFailedWalk)
+{
+    m_folder.write("snmp.conf", "timeout 600\n");
+    for (const int signal : {SIGSEGV, SIGSTOP}) {
+        Simulator simulator("silent");
+        const Walker walker(
+            {.hosts = {simulator.host()},
+             .limits = {.time = milliseconds(signal == SIGSTOP ? 1000 : 60000), .beforeAndAfter = milliseconds(500)}});
+        const pid_t child = fencedChildOf(walker.pid());
+        ASSERT_NE(child, 0);
+        if (!lineOf(getpid(), "Seccomp:").empty()) {
+            while (lineOf(child, "Seccomp:") == "0") // the last part of the fence
+                usleep(1000);
+            EXPECT_EQ(lineOf(child, "Seccomp:"), "2");
+        }
+        kill(child, signal);
+        const Walked left = walker.result();
+        EXPECT_EQ(left.statuses[0], 1);
+        EXPECT_EQ(left.variables, 0);
+        EXPECT_NE(kill(child, 0), 0) << "it is gone";
+    }
+}
+
 // ---- An agent with another SNMP implementation ----
 
 struct ReplyCase
@@ -342,19 +394,27 @@ struct ReplyCase
     int count;
     int variables;
     int requests;
+    const char *firstRow;
 };
 
 // The table has 21 cells. Replies are broken from the 12th on, and the library keeps waiting for a correct one.
 // clang-format off
+constexpr char kWhole[]   = "11 0 4 1 1 ONE.ICC|Première";
+constexpr char kHalf[]    = "11 0 4 0 0 ONE.ICC|Première";
+constexpr char kNothing[] = "0 0 0 0 0 |";
+constexpr char kCut[]     = "11 0 4 1 1 AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA|AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA";
 constexpr ReplyCase kReplyCases[] = {
-    {"plain",           0, 3, 21, 22},
-    {"extra-variables", 0, 3, 21, 11},
-    {"stray-variable",  0, 3, 21, 22},
-    {"wrong-id",        1, 3, 11, 12},
-    {"cut",             1, 3, 11, 12},
-    {"garbage",         1, 3, 11, 12},
-    {"long-length",     1, 3, 11, 12},
-    {"empty",           1, 3, 11, 12},
+    {"plain",           0, 3, 21, 22, kWhole},
+    {"extra-variables", 0, 3, 21, 11, kWhole},
+    {"stray-variable",  0, 3, 21, 22, kWhole},
+    {"wrong-id",        1, 3, 11, 12, kHalf},
+    {"cut",             1, 3, 11, 12, kHalf},
+    {"garbage",         1, 3, 11, 12, kHalf},
+    {"long-length",     1, 3, 11, 12, kHalf},
+    {"empty",           1, 3, 11, 12, kHalf},
+    {"forged",          0, 3, 21, 22, kWhole},
+    {"other-port",      1, 0, 0,  1,  kNothing},
+    {"huge-texts",      0, 3, 21, 22, kCut},
 };
 // clang-format on
 
@@ -377,7 +437,7 @@ TEST_F(ProfileWalk, HandlesEveryReplyOfAnotherAgent)
         EXPECT_EQ(left[i].statuses[0], expected.status);
         EXPECT_EQ(left[i].spool.count, expected.count);
         EXPECT_EQ(left[i].variables, expected.variables);
-        EXPECT_EQ(left[i].row(1), expected.status == 0 ? "11 0 4 1 1 ONE.ICC|Première" : "11 0 4 0 0 ONE.ICC|Première");
+        EXPECT_EQ(left[i].row(1), expected.firstRow);
         EXPECT_EQ(agent.occurrences("asked " + std::string(expected.mode) + '\n'), expected.requests);
     }
 }
@@ -386,5 +446,6 @@ TEST_F(ProfileWalk, HandlesEveryReplyOfAnotherAgent)
 
 void __wrap__Z14MyDebugMessagePKcj(const char *message, uint32_t /*level*/)
 {
-    std::snprintf(lastTrace, sizeof(lastTrace), "%s", message);
+    if (lastTrace)
+        std::snprintf(lastTrace, sizeof(Walked::traced), "%s", message);
 }

@@ -1,10 +1,12 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: GPL-2.0-or-later
-"""An SNMPv1 agent on pysnmp that serves a small profile table, and can send broken replies.
+"""An SNMPv1 agent on pysnmp that serves a small profile table, and can send broken and forged replies.
 
 Prints "ready PORT" when it listens on a free port of 127.0.0.1, and "asked COMMUNITY" for each request. The community
-selects the behavior: "plain", or one of the broken replies below.
+selects the behavior: "plain", or one of the modes below.
 """
+import socket
+
 from pyasn1.codec.ber import decoder, encoder
 from pysnmp.carrier.asyncore.dgram import udp
 from pysnmp.carrier.asyncore.dispatch import AsyncoreDispatcher
@@ -27,7 +29,21 @@ CELLS = sorted(
 MIDDLE = len(CELLS) // 2
 
 
-def as_value(value):
+def bound_to(address):
+    stranger = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)
+    stranger.bind((address, 0))
+    return stranger
+
+
+OTHER_PORT = bound_to("127.0.0.1")
+OTHER_ADDRESS = bound_to("127.0.0.2")
+
+
+def as_value(value, mode):
+    if mode == "forged":
+        value = b"FORGED.ICC" if isinstance(value, bytes) else 99
+    if mode == "huge-texts" and isinstance(value, bytes):
+        value = b"A" * 60000
     return V1.OctetString(value) if isinstance(value, bytes) else V1.Integer(value)
 
 
@@ -38,10 +54,10 @@ def bindings(request, mode):
     following = pdu.isSameTypeWith(V1.GetNextRequestPDU())
     for number, (name, value) in enumerate(CELLS):
         if name == asked and not following or name > asked and following:
-            found = [(V1.ObjectIdentifier(name), as_value(value))]
+            found = [(V1.ObjectIdentifier(name), as_value(value, mode))]
             if mode == "extra-variables" and following and number + 1 < len(CELLS):
                 # Two cells in the answer to a request for one.
-                found.append((V1.ObjectIdentifier(CELLS[number + 1][0]), as_value(CELLS[number + 1][1])))
+                found.append((V1.ObjectIdentifier(CELLS[number + 1][0]), as_value(CELLS[number + 1][1], mode)))
             if mode == "stray-variable" and number == MIDDLE:
                 # A variable of another table before the cell.
                 found.insert(0, (V1.ObjectIdentifier((1, 3, 6, 1, 2, 1, 1, 1, 0)), V1.OctetString(b"stray")))
@@ -65,23 +81,35 @@ def broken(message, number, mode):
     return message
 
 
+def reply(request, mode):
+    response = V1.apiMessage.getResponse(request)
+    pdu = V1.apiMessage.getPDU(response)
+    found, number = bindings(request, mode)
+    if found is None:
+        V1.apiPDU.setVarBinds(pdu, V1.apiPDU.getVarBinds(V1.apiMessage.getPDU(request)))
+        V1.apiPDU.setErrorStatus(pdu, 2)
+        V1.apiPDU.setErrorIndex(pdu, 1)
+    else:
+        V1.apiPDU.setVarBinds(pdu, found)
+    if mode == "wrong-id" and number >= MIDDLE:
+        V1.apiPDU.setRequestID(pdu, int(V1.apiPDU.getRequestID(pdu)) ^ 0x55)
+    return broken(encoder.encode(response), number, mode)
+
+
 def answer(dispatcher, domain, address, whole):
     while whole:
         request, whole = decoder.decode(whole, asn1Spec=V1.Message())
         mode = bytes(V1.apiMessage.getCommunity(request)).decode()
         print("asked", mode, flush=True)
-        response = V1.apiMessage.getResponse(request)
-        pdu = V1.apiMessage.getPDU(response)
-        found, number = bindings(request, mode)
-        if found is None:
-            V1.apiPDU.setVarBinds(pdu, V1.apiPDU.getVarBinds(V1.apiMessage.getPDU(request)))
-            V1.apiPDU.setErrorStatus(pdu, 2)
-            V1.apiPDU.setErrorIndex(pdu, 1)
+        if mode == "forged":
+            # Strangers answer first, with the right request id.
+            OTHER_ADDRESS.sendto(reply(request, mode), address)
+            OTHER_PORT.sendto(reply(request, mode), address)
+            mode = "plain"
+        if mode == "other-port":
+            OTHER_PORT.sendto(reply(request, mode), address)
         else:
-            V1.apiPDU.setVarBinds(pdu, found)
-        if mode == "wrong-id" and number >= MIDDLE:
-            V1.apiPDU.setRequestID(pdu, int(V1.apiPDU.getRequestID(pdu)) ^ 0x55)
-        dispatcher.sendMessage(broken(encoder.encode(response), number, mode), domain, address)
+            dispatcher.sendMessage(reply(request, mode), domain, address)
     return whole
 
 
