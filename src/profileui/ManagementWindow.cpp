@@ -3,10 +3,11 @@
 #include "profileui/ManagementWindow.h"
 
 #include "platform/Bundle.h"
-#include "platform/PlainTip.h"
 #include "profileui/ProfileTableModel.h"
+#include "profileui/WindowHints.h"
 
 #include <QKeyEvent>
+#include <QScreen>
 
 namespace bv {
 
@@ -17,8 +18,22 @@ ManagementWindow::ManagementWindow(QWidget *parent) : QDialog(parent), model(new
     nameControls();
     controls._profileMenu->addItems({localizedString("RGB"), localizedString("SIM"), localizedString("DST")});
     controls._profileTableView->setModel(model);
+    // What is typed looks as it will look in the table.
+    for (QWidget *field : std::initializer_list<QWidget *>{controls._fileNameEdit, controls._profileNameEdit})
+        field->setFont(model->font());
+    hints = new WindowHints(this);
     setReturnConfirmsEntry(false);
-    resize(sizeHint().expandedTo({640, 560}));
+    fitIntoScreen();
+}
+
+void ManagementWindow::fitIntoScreen()
+{
+    constexpr QSize kRoomy(640, 600);
+    constexpr QSize kFrame(16, 48); // space for the window frame
+    const QSize content = controls.windowContent->sizeHint() + QSize(style()->pixelMetric(QStyle::PM_ScrollBarExtent),
+                                                                     controls._windowOK->sizeHint().height());
+    const QSize wanted = kRoomy.expandedTo(content).expandedTo(sizeHint());
+    resize(screen() ? wanted.boundedTo(screen()->availableSize() - kFrame) : wanted);
 }
 
 void ManagementWindow::putTexts()
@@ -68,12 +83,6 @@ void ManagementWindow::nameControls()
 void ManagementWindow::setReturnConfirmsEntry(bool entry)
 {
     (entry ? controls._localOK : controls._windowOK)->setDefault(true);
-}
-
-void ManagementWindow::explainDelete(const QString &reason)
-{
-    setPlainTip(controls._deleteButton, reason);
-    controls._deleteButton->setAccessibleDescription(reason);
 }
 
 void ManagementWindow::keyPressEvent(QKeyEvent *event)

@@ -11,6 +11,7 @@
 namespace bv {
 
 class ProfileTableModel;
+class WindowHints;
 
 class ManagementWindow : public QDialog
 {
@@ -19,15 +20,14 @@ class ManagementWindow : public QDialog
 public:
     explicit ManagementWindow(QWidget *parent = nullptr);
 
-    // The form's controls by their outlet names, and the model of its table.
+    // The form's controls by their outlet names, the model of its table, and its hints.
     Ui::ProfileManagement controls;
     ProfileTableModel *model = nullptr;
+    WindowHints *hints = nullptr;
 
     // Sets which OK the Return key presses: the edit area's (true) or the window's. A focused button takes Return
     // itself.
     void setReturnConfirmsEntry(bool entry);
-    // Sets the tool tip and accessible description that say why Delete is greyed out. Empty: none.
-    void explainDelete(const QString &reason);
 
 signals:
     // Escape was pressed. The window does not close by itself.
@@ -39,6 +39,8 @@ protected:
 private:
     void putTexts();
     void nameControls();
+    // The content scrolls where the screen is smaller than it.
+    void fitIntoScreen();
 };
 
 } // namespace bv

@@ -14,6 +14,7 @@
 #include "profileui/KeyFilters.h"
 #include "profileui/ManagementWindow.h"
 #include "profileui/ProfileTableModel.h"
+#include "profileui/WindowHints.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -124,6 +125,8 @@ void ProfileControl::connectControls()
     connect(c._localCancel, &QPushButton::clicked, this, &ProfileControl::profileCancel);
     connect(c._windowOK, &QPushButton::clicked, this, &ProfileControl::profileWindowOK);
     connect(c._windowCancel, &QPushButton::clicked, this, &ProfileControl::profileWindowCancel);
+    connect(c._fileNameEdit, &QLineEdit::textChanged, this, [this] { explain(); });
+    connect(c._locationMenu, &QComboBox::currentIndexChanged, this, [this] { explain(); });
     connect(m_window, &bv::ManagementWindow::escapePressed, this, &ProfileControl::escape);
 }
 
@@ -242,6 +245,7 @@ bool ProfileControl::isCustomProfile()
 void ProfileControl::reloadTable()
 {
     m_window->model->setList([this] { return currentProfileDict(); }, !isLocalQueue());
+    m_window->hints->explainIcon(!isLocalQueue());
     m_window->controls._profileTableView->deselectRow();
     m_window->controls._profileTableView->fitColumns();
 }
@@ -270,8 +274,6 @@ void ProfileControl::selectionChanged()
     if (const int item = m_window->controls._locationMenu->findData(record.Location); item >= 0)
         m_window->controls._locationMenu->setCurrentIndex(item);
     enableListButtons(true, true, !onPrinter);
-    if (onPrinter)
-        m_window->explainDelete(localizedString("A profile that is on the printer cannot be deleted"));
 }
 
 void ProfileControl::showFields(const QString &fileName, const QString &profileName)
@@ -297,7 +299,7 @@ void ProfileControl::enableListButtons(bool add, bool edit, bool remove)
     c._addButton->setEnabled(add);
     c._editButton->setEnabled(edit);
     c._deleteButton->setEnabled(remove);
-    m_window->explainDelete({});
+    explain();
 }
 
 void ProfileControl::setMode(Mode mode)
@@ -305,6 +307,31 @@ void ProfileControl::setMode(Mode mode)
     buttonIdentify = mode;
     m_window->controls._profileTableView->setSelectionHeld(mode != kIdle);
     m_window->setReturnConfirmsEntry(mode != kIdle);
+    explain();
+}
+
+QString ProfileControl::entryProblem()
+{
+    const Ui::ProfileManagement &c = m_window->controls;
+    const bool editing = buttonIdentify == kEditing;
+    const int32_t location = c._locationMenu->currentData().toInt();
+    if (isTaken(c._fileNameEdit->text().toStdString(), location, editing ? selectedRow() : -1))
+        return localizedString("Entry: this file is in the list already");
+    if (!editing && currentProfileDict()->count >= kProfileSlots)
+        return localizedString("Entry: the list is full");
+    return {};
+}
+
+void ProfileControl::explain(bool discarded)
+{
+    const int row = selectedRow();
+    bv::EntryState state;
+    state.underWay = buttonIdentify != kIdle;
+    state.discarded = discarded;
+    state.onPrinter = row >= 0 && bv::isOnPrinter(currentProfileDict()->records[row].InMenu);
+    if (state.underWay)
+        state.problem = entryProblem();
+    m_window->hints->show(state);
 }
 
 // ---- Adding, editing, deleting ----
@@ -351,6 +378,7 @@ void ProfileControl::endEditing()
 void ProfileControl::profileCancel()
 {
     endEditing();
+    explain(true);
 }
 
 bool ProfileControl::isTaken(std::string_view fileName, int32_t location, int exceptRow)

@@ -74,6 +74,10 @@ private:
     void enableEditArea(bool all, bool profileName);
     void enableListButtons(bool add, bool edit, bool remove);
     void setMode(Mode mode);
+    // Brings the window's hints up to date.
+    void explain(bool discarded = false);
+    // Why profileOK would ignore the entry. Empty: it would take it.
+    QString entryProblem();
     void endEditing();
     void classMenuChanged();
     void selectionChanged();

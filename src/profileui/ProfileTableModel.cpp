@@ -60,7 +60,7 @@ ProfileTableModel::ProfileTableModel(QObject *parent)
     : QAbstractTableModel(parent), m_icon(QString::fromStdString(mapRootPath(kIconPath))),
       m_font(QFontDatabase::systemFont(QFontDatabase::GeneralFont))
 {
-    m_font.setPointSize(kTextPoints);
+    m_font.setPointSizeF(std::max<qreal>(kTextPoints, m_font.pointSizeF()));
 }
 
 void ProfileTableModel::setList(ListSource list, bool showIcons)
@@ -96,6 +96,17 @@ QString ProfileTableModel::cellText(const ProfileRecord &record, int column) con
     }
 }
 
+QString ProfileTableModel::rowTip(const ProfileRecord &record) const
+{
+    QStringList place = {textOf(fieldText(record.FileName)), storageName(record.Location)};
+    place.removeAll(QString());
+    const char *said = isOnPrinter(record.InMenu)     ? "The printer reported this profile when it was last asked"
+                       : isFromPrinter(record.InMenu) ? "The printer did not report this profile when it was last asked"
+                                                      : "Entered by hand";
+    return textOf(fieldText(record.ProfileName)) + u'\n' + place.join(QStringLiteral(", ")) + u'\n' +
+           localizedString(said);
+}
+
 QVariant ProfileTableModel::iconCell(const ProfileRecord &record, int role) const
 {
     // The record alone decides whether the icon is shown. The image file may still be missing.
@@ -107,8 +118,6 @@ QVariant ProfileTableModel::iconCell(const ProfileRecord &record, int role) cons
         return shown && !m_icon.isNull() ? QVariant(m_icon) : QVariant();
     case Qt::AccessibleTextRole:
         return localizedString(shown ? "On the printer" : "Not on the printer");
-    case Qt::ToolTipRole:
-        return shown ? QVariant(localizedString("On the printer")) : QVariant();
     default:
         return {};
     }
@@ -131,6 +140,8 @@ QVariant ProfileTableModel::data(const QModelIndex &index, int role) const
     if (!index.isValid() || index.row() >= rowCount())
         return {};
     const ProfileRecord &record = m_list()->records[index.row()];
+    if (role == Qt::ToolTipRole)
+        return plainTip(rowTip(record));
     if (index.column() == kIcon)
         return iconCell(record, role);
     if (index.column() == kInMenu)
@@ -138,8 +149,6 @@ QVariant ProfileTableModel::data(const QModelIndex &index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         return cellText(record, index.column());
-    case Qt::ToolTipRole:
-        return plainTip(cellText(record, index.column()));
     case Qt::FontRole:
         return m_font;
     default:

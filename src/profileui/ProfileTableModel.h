@@ -30,6 +30,11 @@ public:
     // after the list has changed.
     void setList(ListSource list, bool showIcons);
 
+    // The icon of profiles that are on the printer; null where its file is missing.
+    const QImage &icon() const { return m_icon; }
+    // The font of the texts: 12 points, or the user's own size where that is larger.
+    const QFont &font() const { return m_font; }
+
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
@@ -41,6 +46,8 @@ public:
 
 private:
     QString cellText(const ProfileRecord &record, int column) const;
+    // File, place, and what the printer said of it.
+    QString rowTip(const ProfileRecord &record) const;
     QVariant iconCell(const ProfileRecord &record, int role) const;
     QVariant checkCell(const ProfileRecord &record, int role) const;
 

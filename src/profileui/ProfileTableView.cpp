@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QSet>
 
 #include <algorithm>
@@ -21,6 +22,7 @@ namespace {
 constexpr int kIconColumnWidth = 28;
 constexpr int kRowPadding = 2;
 constexpr int kCellMargin = 6;
+constexpr int kFewestRows = 4; // stay visible on the smallest screen
 
 } // namespace
 
@@ -67,7 +69,6 @@ ProfileTableView::ProfileTableView(QWidget *parent) : QTableView(parent)
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setMinimumSectionSize(kIconColumnWidth);
 }
 
@@ -103,6 +104,34 @@ void ProfileTableView::fitColumns()
     // Measuring the texts is fast. Asking the delegate for the size of each of 500 rows takes longer than a frame.
     for (int column = 0; column < model()->columnCount(); ++column)
         setColumnWidth(column, std::max(horizontalHeader()->sectionSizeHint(column), widestText(column, metrics)));
+    m_profileNameWidth = columnWidth(ProfileTableModel::kProfileName);
+    setMinimumHeight(horizontalHeader()->sizeHint().height() + kFewestRows * verticalHeader()->defaultSectionSize());
+    spreadProfileNames();
+}
+
+void ProfileTableView::spreadProfileNames()
+{
+    if (!model())
+        return;
+    const int others = horizontalHeader()->length() - columnWidth(ProfileTableModel::kProfileName);
+    setColumnWidth(ProfileTableModel::kProfileName, std::max(m_profileNameWidth, viewport()->width() - others));
+}
+
+void ProfileTableView::resizeEvent(QResizeEvent *event)
+{
+    QTableView::resizeEvent(event);
+    spreadProfileNames();
+}
+
+void ProfileTableView::paintEvent(QPaintEvent *event)
+{
+    QTableView::paintEvent(event);
+    if (!model() || model()->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    const QRect room = viewport()->rect().marginsRemoved({kCellMargin, kCellMargin, kCellMargin, kCellMargin});
+    painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, m_emptyHint);
 }
 
 int ProfileTableView::widestText(int column, const QFontMetrics &metrics) const

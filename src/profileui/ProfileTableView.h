@@ -45,8 +45,10 @@ public:
     int selectedRow() const;
     // Clears the selection and the current row.
     void deselectRow();
-    // Fits the column widths to the texts of the rows.
+    // Fits the column widths to the texts of the rows. The profile names get the spare width.
     void fitColumns();
+    // What stands in the place of the rows while there are none.
+    void setEmptyHint(const QString &hint) { m_emptyHint = hint; }
 
     // Selects the next row, starting at the current one, whose file name begins with the typed text.
     void keyboardSearch(const QString &search) override;
@@ -54,13 +56,18 @@ public:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void spreadProfileNames();
     int widestText(int column, const QFontMetrics &metrics) const;
     void toggleCheckMark();
     // The row that a key moves to where this table differs from Qt's; -1 where Qt's own handling applies.
     int rowForKey(int key) const;
 
+    QString m_emptyHint;
+    int m_profileNameWidth = 0; // what the texts need
     QString m_typed;
     QElapsedTimer m_sinceTyped;
 };

@@ -161,6 +161,67 @@ TEST_F(ProfileWindow, TheTabKeyReachesEveryControlInOrderAndEachHasAName)
                                          "_localOK _localCancel _windowOK _windowCancel"));
 }
 
+TEST_F(ProfileWindow, GreyedControlsAndAnOpenEntryExplainThemselves)
+{
+    writeFile();
+    inWindow([&] {
+        const auto explains = [this](const char *step) {
+            SCOPED_TRACE(step);
+            for (QWidget *control : std::initializer_list<QWidget *>{
+                     c()._profileMenu, c()._addButton, c()._editButton, c()._deleteButton, c()._fileNameEdit,
+                     c()._browse, c()._profileNameEdit, c()._locationMenu, c()._localOK, c()._localCancel})
+                EXPECT_EQ(control->toolTip().isEmpty(), control->isEnabled())
+                    << control->objectName().toStdString() << ": " << control->toolTip().toStdString();
+            EXPECT_EQ(c()._windowOK->accessibleDescription().isEmpty(), c()._profileMenu->isEnabled());
+        };
+        const auto title = [this] { return c().editArea->title().toStdString(); };
+        explains("idle");
+        clickRow(1);
+        explains("a profile on the printer");
+        EXPECT_TRUE(c()._deleteButton->toolTip().contains("on the printer"));
+        press(c()._editButton);
+        explains("editing it");
+        EXPECT_EQ(title(), "Entry, not confirmed yet");
+        key(Qt::Key_Escape);
+        explains("given up");
+        EXPECT_EQ(title(), "Entry, discarded");
+        add(QStringLiteral("one.icc"), QStringLiteral("Again"));
+        explains("adding");
+        EXPECT_EQ(title(), "Entry: this file is in the list already");
+        key(Qt::Key_End); // the other place
+        EXPECT_EQ(title(), "Entry, not confirmed yet");
+        type(c()._fileNameEdit, QStringLiteral("x.y.z"));
+        c()._fileNameEdit->clear();
+        explains("no file name");
+        press(c()._localCancel);
+        clickRow(3);
+        EXPECT_EQ(title(), "Entry");
+        EXPECT_EQ(cell(3, bv::ProfileTableModel::kLocation, Qt::ToolTipRole).toString(),
+                  "Four\nfour.icc, Disk\nThe printer reported this profile when it was last asked");
+    });
+}
+
+TEST_F(ProfileWindow, TheProfileNamesGetTheSpareWidthAndASmallWindowScrolls)
+{
+    writeFile();
+    inWindow([&] {
+        window->resize(900, 600);
+        QCoreApplication::processEvents();
+        const QHeaderView *header = table()->horizontalHeader();
+        EXPECT_EQ(header->length(), table()->viewport()->width());
+        EXPECT_GT(table()->columnWidth(bv::ProfileTableModel::kProfileName), 400);
+        window->resize(660, 340); // 1024 by 600 at 150 %
+        QCoreApplication::processEvents();
+        EXPECT_EQ(window->height(), 340);
+        for (QWidget *control : std::initializer_list<QWidget *>{c()._windowOK, c()._windowCancel})
+            EXPECT_TRUE(window->rect().contains(control->geometry()));
+        press(c()._addButton);
+        QTest::qWait(0);
+        const QPoint field = c()._fileNameEdit->mapTo(window, c()._fileNameEdit->rect().center());
+        EXPECT_TRUE(window->rect().contains(field)) << "the focus scrolled into view";
+    });
+}
+
 TEST_F(ProfileWindow, MarkupInANameIsShownLetterByLetter)
 {
     append(lists->rgb, 3, "odd.icc", kMarkup);
