@@ -84,10 +84,12 @@ double qtDialogTime(double &dialogOnly)
 
 // Time of this project's print dialog until the pane is painted in its window. It asks the server for the queues and
 // the PPD, and paints the window before each request.
-double ownDialogTime(bv::QueueSource &source, bv::PanelLoader &loader, bv::RememberedTickets &remembered)
+double ownDialogTime(const std::shared_ptr<const bv::QueueSource> &source,
+                     const std::shared_ptr<const bv::JobSink> &sink, bv::PanelLoader &loader,
+                     bv::RememberedTickets &remembered)
 {
     return milliseconds([&] {
-        bv::PrintDialog dialog(source, loader, remembered, {kQueue, std::nullopt, {}});
+        bv::PrintDialog dialog(source, sink, loader, remembered, {kQueue, std::nullopt, {}});
         QEventLoop loop;
         QObject::connect(&dialog, &bv::PrintDialog::ready, &loop, &QEventLoop::quit);
         dialog.show();
@@ -119,8 +121,8 @@ int main(int argc, char **argv)
     callback.settings = &ticket;
     callback.session = &session;
     callback.ppd = ppd.get();
-    const std::unique_ptr<bv::QueueSource> source = bv::makeServerSource();
-    bv::FolderSink sink;
+    const std::shared_ptr<const bv::QueueSource> source = bv::makeServerSource();
+    const std::shared_ptr<const bv::JobSink> sink = std::make_shared<bv::FolderSink>();
     const bv::RememberedTickets remembered(root.filePath(QStringLiteral("tickets")));
 
     std::vector<double> pane;
@@ -136,7 +138,7 @@ int main(int argc, char **argv)
         // The plug-in stays loaded until the loader is destroyed.
         bv::PanelLoader loader;
         require(bool(loader.load(QStringLiteral(BV_PLUGIN), {})), "the plug-in cannot be loaded");
-        const double own = ownDialogTime(*source, sink, loader, const_cast<bv::RememberedTickets &>(remembered));
+        const double own = ownDialogTime(source, sink, loader, const_cast<bv::RememberedTickets &>(remembered));
         if (run == 0)
             continue;
         pane.push_back(times[0]);

@@ -2,10 +2,11 @@
 // A message handler that drops a few known remarks, and keeps those that say why there is no window.
 #include "app/MessageFilter.h"
 
+#include "queues/Complaint.h"
+
 #include <QStringList>
 #include <QtGlobal>
 #include <array>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
@@ -55,7 +56,7 @@ QStringList &complaints()
     QString text = QStringLiteral("No window can be opened: %1.").arg(reasons.join(QStringLiteral("; ")).simplified());
     if (text.contains(u"Could not find the Qt platform plugin \"wayland"))
         text += QStringLiteral(" A Wayland session needs Qt's plug-in for it (the package qt6-wayland).");
-    std::fprintf(stderr, "bvprint: %s Without a display, use bvprint --batch.\n", text.toUtf8().constData());
+    complain(text + QStringLiteral(" Without a display, use bvprint --batch."));
     std::_Exit(2);
 }
 

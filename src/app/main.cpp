@@ -5,9 +5,12 @@
 #include "app/WindowSystem.h"
 #include "batch/BatchRunner.h"
 #include "dialog/PrintDialogRunner.h"
+#include "jobs/DocumentArguments.h"
 #include "jobs/FolderSink.h"
 #include "jobs/PrintServerSink.h"
 #include "platform/FileDescriptor.h"
+#include "queues/BackgroundCall.h"
+#include "queues/Complaint.h"
 #include "queues/Locale.h"
 #include "queues/PanelLoader.h"
 #include "queues/SessionStart.h"
@@ -16,22 +19,22 @@
 #include <array>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <fcntl.h>
 
 namespace {
 
 constexpr int kBadStart = 2;
 
-// Prints the sentence as one line, even if it holds line breaks.
 int refuse(const QString &sentence)
 {
-    std::fprintf(stderr, "bvprint: %s\n", sentence.simplified().toUtf8().constData());
+    bv::complain(sentence);
     return kBadStart;
 }
 
 int say(const QString &text)
 {
-    if (std::fputs(text.toUtf8().constData(), stdout) >= 0 && std::fflush(stdout) == 0)
+    if (bv::tell(text))
         return 0;
     std::perror("bvprint: standard output cannot be written");
     return 1;
@@ -42,10 +45,11 @@ int runBatch(const bv::CommandLine &line, bv::PanelLoader &loader)
     const bv::Result<std::unique_ptr<bv::QueueSession>> session = bv::startSession(line.session);
     if (!session)
         return refuse(session.error());
-    bv::PrintServerSink printServer;
-    bv::FolderSink nowhere;
-    bv::JobSink &sink = line.session.usesServer() ? static_cast<bv::JobSink &>(printServer) : nowhere;
-    bv::BatchCommands commands(*session.value(), loader, sink);
+    std::shared_ptr<const bv::JobSink> sink = std::make_shared<bv::FolderSink>();
+    if (line.session.usesServer())
+        sink = std::make_shared<bv::PrintServerSink>();
+    const bool scriptIsInput = line.script == u"-";
+    bv::BatchCommands commands(*session.value(), loader, sink, bv::DocumentArguments(!scriptIsInput));
     // With these signals ignored, a closed pipe or a file at its size limit is a write error and does not kill the
     // program.
     std::signal(SIGPIPE, SIG_IGN);
@@ -54,6 +58,21 @@ int runBatch(const bv::CommandLine &line, bv::PanelLoader &loader)
     if (const QString error = runner.open(line.script); !error.isEmpty())
         return refuse(error);
     return runner.run();
+}
+
+int runProgram(const bv::CommandLine &line)
+{
+    // In the locale C a batch shows the keys of texts. A window always shows words.
+    const bool isBatch = line.mode == bv::CommandLine::Mode::Batch;
+    const QString language = isBatch && bv::isLocaleC() ? QString() : bv::messageLocale();
+    bv::PanelLoader loader;
+    if (const auto loaded = loader.load(line.plugin, language); !loaded)
+        return refuse(loaded.error());
+    if (!isBatch)
+        return bv::runPrintDialog({line.session, line.documents, line.screenshot}, loader);
+    // A batch cannot operate the desktop's own file panel.
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    return runBatch(line, loader);
 }
 
 } // namespace
@@ -88,15 +107,11 @@ int main(int argc, char **argv)
     const QApplication application(wordCount, words.data());
     QCoreApplication::setApplicationName(QStringLiteral("bvprint"));
 
-    // In the locale C a batch shows the keys of texts. A window always shows words.
-    const QString language = line.mode == Mode::Batch && bv::isLocaleC() ? QString() : bv::messageLocale();
-    bv::PanelLoader loader;
-    if (const auto loaded = loader.load(line.plugin, language); !loaded)
-        return refuse(loaded.error());
-    if (line.mode == Mode::Batch) {
-        // A batch cannot operate the desktop's own file panel.
-        QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-        return runBatch(line, loader);
+    const int status = runProgram(line);
+    // A call to a print server that hangs must not hold up the end.
+    if (!bv::detachedThreadsEnded()) {
+        std::fflush(nullptr);
+        std::_Exit(status);
     }
-    return bv::runPrintDialog({line.session, line.documents, line.screenshot}, loader);
+    return status;
 }

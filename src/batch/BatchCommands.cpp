@@ -3,7 +3,9 @@
 #include "batch/BatchCommands.h"
 
 #include "batch/ControlActions.h"
+#include "jobs/JobSink.h"
 #include "jobs/PrintJob.h"
+#include "queues/BackgroundCall.h"
 #include "queues/PanelLoader.h"
 #include "queues/TicketJson.h"
 
@@ -114,8 +116,10 @@ BatchCommands::Outcome answerOf(bool taken, const QString &error)
 
 } // namespace
 
-BatchCommands::BatchCommands(QueueSession &session, PanelLoader &loader, JobSink &sink)
-    : m_session(session), m_loader(loader), m_sink(sink)
+BatchCommands::BatchCommands(QueueSession &session, PanelLoader &loader, std::shared_ptr<const JobSink> sink,
+                             DocumentArguments documents, PageCount pageCount)
+    : m_session(session), m_loader(loader), m_sink(std::move(sink)), m_documents(std::move(documents)),
+      m_pageCount(std::move(pageCount))
 {}
 
 BatchCommands::~BatchCommands() = default;
@@ -366,13 +370,27 @@ BatchCommands::Outcome BatchCommands::setTicket(const QStringList &words)
 
 BatchCommands::Outcome BatchCommands::print(const QStringList &words)
 {
-    const Result<PrintedJob> printed = printDocuments(m_session, m_panel.get(), m_sink, words);
-    if (!printed)
-        return failure(printed.error());
+    const Result<QStringList> documents = m_documents.paths(words);
+    if (!documents)
+        return failure(documents.error());
+    QString problem = checkDocuments(documents.value());
+    if (problem.isEmpty())
+        problem = checkRange(ticketOptions(m_session.ticket().entries()), documents.value(), m_pageCount);
+    if (!problem.isEmpty())
+        return failure(problem);
+    const Result<JobRequest> job = prepareJob(m_session, m_panel.get(), documents.value());
+    if (!job)
+        return failure(job.error());
+    using Sent = Result<SentJob>;
+    const Sent sent = callWithLimit<Sent>(
+        [sink = m_sink, request = job.value()](CallControl &control) { return sink->submit(request, control); },
+        Sent::failure(unconfirmedSentence()));
+    if (!sent)
+        return failure(sent.error());
     QJsonObject options;
-    for (const auto &[keyword, value] : printed.value().options)
+    for (const auto &[keyword, value] : job.value().options)
         options.insert(keyword, value);
-    const std::optional<int> id = printed.value().id;
+    const std::optional<int> id = sent.value().id;
     return result(QJsonObject{{QStringLiteral("job"), id ? QJsonValue(*id) : QJsonValue(QJsonValue::Null)},
                               {QStringLiteral("options"), options}});
 }

@@ -4,11 +4,14 @@
 
 #include "batch/BatchLine.h"
 #include "batch/ControlCatalog.h"
+#include "jobs/DocumentArguments.h"
+#include "jobs/PrintJob.h"
 #include "queues/QueueSession.h"
 
 #include <QJsonValue>
 #include <QPointer>
 #include <functional>
+#include <memory>
 
 namespace bv {
 
@@ -16,11 +19,12 @@ class JobSink;
 class PanelLoader;
 
 // One panel serves all commands. It is requested before the first command that needs it, and receives only the calls
-// that commands ask for. The session, the loader and the sink are borrowed and outlive this object.
+// that commands ask for. The session and the loader are borrowed and outlive this object.
 class BatchCommands
 {
 public:
-    BatchCommands(QueueSession &session, PanelLoader &loader, JobSink &sink);
+    BatchCommands(QueueSession &session, PanelLoader &loader, std::shared_ptr<const JobSink> sink,
+                  DocumentArguments documents, PageCount pageCount = {});
     ~BatchCommands();
     BatchCommands(const BatchCommands &) = delete;
     BatchCommands &operator=(const BatchCommands &) = delete;
@@ -84,7 +88,9 @@ private:
 
     QueueSession &m_session;
     PanelLoader &m_loader;
-    JobSink &m_sink;
+    std::shared_ptr<const JobSink> m_sink;
+    DocumentArguments m_documents;
+    PageCount m_pageCount;
     std::unique_ptr<PrintPanel> m_panel; // null until a command needs it
     QPointer<QWidget> m_view;            // owned by the panel; null until panelView
 };

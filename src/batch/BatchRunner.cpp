@@ -2,9 +2,13 @@
 // The batch's event loop.
 #include "batch/BatchRunner.h"
 
+#include "platform/TerminalText.h"
+#include "queues/Complaint.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QJsonDocument>
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -19,6 +23,8 @@ namespace {
 // A command that closes a window ends the event loop that ran it, and that loop may still process one round of events.
 // So each command runs two rounds after the previous one. By then the code that opened the window has finished.
 constexpr int kTurnsBetweenCommands = 2;
+
+constexpr qsizetype kLongestLine = 1024 * 1024; // bytes
 
 } // namespace
 
@@ -60,18 +66,36 @@ void BatchRunner::read()
     if (count < 0 && (errno == EINTR || errno == EAGAIN))
         return;
     if (count > 0) {
-        m_unfinished.append(bytes, count);
-        qsizetype begin = 0;
-        for (qsizetype end; (end = m_unfinished.indexOf('\n', begin)) >= 0; begin = end + 1)
-            m_lines.push_back(m_unfinished.mid(begin, end - begin));
-        m_unfinished.remove(0, begin);
+        cutLines({bytes, static_cast<size_t>(count)});
     } else {
         m_notifier->setEnabled(false);
         m_atEnd = true;
         if (!m_unfinished.isEmpty())
-            m_lines.push_back(m_unfinished);
+            m_lines.push_back(std::move(m_unfinished));
     }
     scheduleTurn();
+}
+
+void BatchRunner::cutLines(std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const size_t end = bytes.find('\n');
+        m_unfinished.append(bytes.data(), qsizetype(std::min(end, bytes.size())));
+        // Enough is kept of a line that is too long to see that it is. It is answered at once, not at its end.
+        if (m_unfinished.size() > kLongestLine && !m_isTooLong) {
+            m_isTooLong = true;
+            m_lines.push_back(m_unfinished.left(kLongestLine + 1));
+        }
+        if (m_isTooLong)
+            m_unfinished.clear();
+        if (end == bytes.npos)
+            return;
+        if (!m_isTooLong)
+            m_lines.push_back(std::move(m_unfinished));
+        m_unfinished.clear();
+        m_isTooLong = false;
+        bytes.remove_prefix(end + 1);
+    }
 }
 
 void BatchRunner::scheduleTurn()
@@ -107,6 +131,11 @@ void BatchRunner::carryOut(const QByteArray &line)
     const BatchLine split = splitBatchLine(QString::fromUtf8(line));
     if (split.command.isEmpty())
         return;
+    if (line.size() > kLongestLine) {
+        constexpr qsizetype kShown = 40; // of a first word that may be the whole line
+        answer(split.command.left(kShown), {QJsonValue::Null, QStringLiteral("The line is longer than 1 MB.")});
+        return;
+    }
     const bool mayAnswerEarly = BatchCommands::answersNull(split.command);
     if (mayAnswerEarly) {
         m_openCommand = split.command;
@@ -142,15 +171,14 @@ void BatchRunner::answer(const QString &command, const BatchCommands::Outcome &o
         object[u"error"] = outcome.error;
         m_failed = true;
     }
-    const QByteArray json = QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
-    const auto size = static_cast<size_t>(json.size());
-    if (std::fwrite(json.constData(), 1, size, stdout) != size || std::fflush(stdout) != 0)
+    const std::string json = printableJson(QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString()) + '\n';
+    if (std::fwrite(json.data(), 1, json.size(), stdout) != json.size() || std::fflush(stdout) != 0)
         endUnanswered();
 }
 
 void BatchRunner::endUnanswered()
 {
-    std::fprintf(stderr, "bvprint: The answers cannot be written: %s.\n", strerror(errno));
+    complain(QStringLiteral("The answers cannot be written: %1.").arg(QString::fromLocal8Bit(strerror(errno))));
     m_cannotAnswer = true;
     m_failed = true;
     // The remaining commands are not run, because their answers could not be written.

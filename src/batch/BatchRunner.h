@@ -9,6 +9,7 @@
 #include <QSocketNotifier>
 #include <QTimer>
 #include <deque>
+#include <string_view>
 
 namespace bv {
 
@@ -32,6 +33,8 @@ public:
 
 private:
     void read();
+    // Cuts what was read into lines. Of a line that is too long only the beginning is kept.
+    void cutLines(std::string_view bytes);
     void scheduleTurn();
     void turn();
     void carryOut(const QByteArray &line);
@@ -46,6 +49,7 @@ private:
     QTimer m_turn;
     int m_turnsToWait = 0;
     QByteArray m_unfinished;        // the beginning of a line
+    bool m_isTooLong = false;       // the unfinished line was answered already
     std::deque<QByteArray> m_lines; // read, but not yet run
     bool m_atEnd = false;
     bool m_failed = false;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// One thread fetches one PPD after another, so a slow print server does not block the window.
+// Fetches one PPD after another in the background, so a slow print server does not block the window.
 #include "dialog/PaneSurvey.h"
 
 #include <algorithm>
@@ -8,40 +8,46 @@ namespace bv {
 
 namespace {
 
-bool hasAny(ppd_file_t *ppd, const QStringList &keys)
+using Has = Result<bool>;
+
+// Whether the queue's PPD has any of the options.
+Has hasAny(const QueueSource &source, const QString &queue, const QStringList &keys, CallControl &control)
 {
-    return std::any_of(keys.begin(), keys.end(),
-                       [ppd](const QString &key) { return ppdFindOption(ppd, key.toUtf8().constData()) != nullptr; });
+    const Result<PpdText> text = source.ppd(queue, control);
+    if (!text)
+        return Has::failure(text.error());
+    const Result<PpdFile> ppd = PpdFile::open(text.value());
+    if (!ppd)
+        return Has::failure(ppd.error());
+    return std::any_of(keys.begin(), keys.end(), [&ppd](const QString &key) {
+        return ppdFindOption(ppd.value().handle(), key.toUtf8().constData()) != nullptr;
+    });
 }
 
 } // namespace
 
-PaneSurvey::PaneSurvey(const QueueSource &source, QStringList queues, QStringList keys, QObject *parent)
-    : QObject(parent)
-{
-    m_thread.reset(QThread::create([this, &source, queues = std::move(queues), keys = std::move(keys)] {
-        for (const QString &queue : queues) {
-            if (m_stop)
-                return;
-            const Result<PpdFile> ppd = source.ppd(queue);
-            // The signal is queued, since its receivers live in another thread.
-            if (!ppd)
-                emit withoutPane(queue, ppd.error());
-            else if (!hasAny(ppd.value().handle(), keys))
-                emit withoutPane(queue, QString());
-        }
-    }));
-}
-
-PaneSurvey::~PaneSurvey()
-{
-    m_stop = true;
-    m_thread->wait();
-}
+PaneSurvey::PaneSurvey(std::shared_ptr<const QueueSource> source, QStringList queues, QStringList keys, QObject *parent)
+    : QObject(parent), m_source(std::move(source)), m_queues(std::move(queues)), m_keys(std::move(keys))
+{}
 
 void PaneSurvey::start()
 {
-    m_thread->start();
+    checkNext();
+}
+
+void PaneSurvey::checkNext()
+{
+    if (m_queues.isEmpty())
+        return;
+    const QString queue = m_queues.takeFirst();
+    m_call.start([source = m_source, queue,
+                  keys = m_keys](CallControl &control) { return hasAny(*source, queue, keys, control); },
+                 Has::failure(noAnswerSentence()),
+                 [this, queue](const Has &has) {
+                     if (!has || !has.value())
+                         emit withoutPane(queue, has.error());
+                     checkNext();
+                 });
 }
 
 } // namespace bv

@@ -2,16 +2,18 @@
 // The dialog's behavior. Any step that may wait for the network runs after the window has announced it and was painted.
 #include "dialog/PrintDialog.h"
 
+#include "dialog/InputGate.h"
 #include "dialog/JobRows.h"
+#include "dialog/JobSending.h"
 #include "dialog/PaneSurvey.h"
 #include "dialog/PrintDialogLayout.h"
 #include "dialog/QueueList.h"
-#include "dialog/QueueRoom.h"
 #include "queues/JobOnlyKeys.h"
 #include "queues/PanelLoader.h"
 #include "widgets/DocumentList.h"
 #include "widgets/MessageBar.h"
 #include "widgets/ReasonLabel.h"
+#include "widgets/SendingRow.h"
 #include "widgets/SummaryView.h"
 
 #include <QComboBox>
@@ -43,10 +45,11 @@ QSize startSize()
 
 } // namespace
 
-PrintDialog::PrintDialog(QueueSource &source, JobSink &sink, PanelLoader &loader, RememberedTickets &remembered,
-                         PrintDialogStart start)
-    : m_source(source), m_sink(sink), m_loader(loader), m_remembered(remembered), m_start(std::move(start)),
-      m_parts(new PrintDialogLayout(this))
+PrintDialog::PrintDialog(std::shared_ptr<const QueueSource> source, std::shared_ptr<const JobSink> sink,
+                         PanelLoader &loader, RememberedTickets &remembered, PrintDialogStart start)
+    : m_source(std::move(source)), m_loader(loader), m_remembered(remembered), m_start(std::move(start)),
+      m_parts(new PrintDialogLayout(this)), m_gate(new InputGate(this)),
+      m_sending(new JobSending(std::move(sink), m_start.pageCount, m_parts->sending))
 {
     setObjectName(QStringLiteral("printDialog"));
     setWindowTitle(tr("Print"));
@@ -60,7 +63,7 @@ PrintDialog::PrintDialog(QueueSource &source, JobSink &sink, PanelLoader &loader
 
     m_parts->documents->addDocuments(m_start.documents);
     m_parts->queues->setQueues({});
-    m_parts->showQueue(nullptr, nullptr, QString(), tr("Looking for printers…"));
+    m_parts->showWait(nullptr, tr("Looking for printers…"));
     m_parts->summary->showNote(QString());
     setBusy(true);
     // Without documents, adding some is the first thing to do. Otherwise the user can press Print at once.
@@ -92,6 +95,10 @@ void PrintDialog::connectParts()
     connect(m_parts->job, &JobRows::changed, this, &PrintDialog::updateReadiness);
     connect(m_parts->restore, &QPushButton::clicked, this, &PrintDialog::restoreDefaults);
     connect(m_parts->print, &QPushButton::clicked, this, &PrintDialog::print);
+    connect(m_parts->sending, &SendingRow::stopped, this, &PrintDialog::stopSending);
+    connect(m_sending, &JobSending::sent, this, &PrintDialog::finish);
+    connect(m_sending, &JobSending::failed, this, &PrintDialog::reportFailure);
+    connect(m_gate, &InputGate::escaped, this, &PrintDialog::reject);
 }
 
 QString PrintDialog::printReason() const
@@ -121,7 +128,13 @@ void PrintDialog::afterPaint(Step step, int milliseconds)
 
 void PrintDialog::listQueues()
 {
-    const Result<std::vector<PrintQueue>> queues = m_source.queues();
+    using Queues = Result<std::vector<PrintQueue>>;
+    m_listing.start([source = m_source](CallControl &control) { return source->queues(control); },
+                    Queues::failure(noAnswerSentence()), [this](const Queues &queues) { takeQueues(queues); });
+}
+
+void PrintDialog::takeQueues(const Result<std::vector<PrintQueue>> &queues)
+{
     m_survey.reset();
     m_current = nullptr;
     m_rooms.clear();
@@ -135,8 +148,8 @@ void PrintDialog::listQueues()
     if (m_rooms.empty()) {
         m_parts->message->say(MessageBar::Kind::Problem, m_noQueue, tr("Look &Again"), [this] {
             setBusy(true);
-            m_parts->showQueue(nullptr, nullptr, QString(), tr("Looking for printers…"));
-            afterPaint(&PrintDialog::listQueues);
+            m_parts->showWait(nullptr, tr("Looking for printers…"));
+            listQueues();
         });
         showCurrent();
         return;
@@ -152,10 +165,9 @@ void PrintDialog::listQueues()
     }
     m_current = wanted == m_rooms.end() ? m_rooms.front().get() : wanted->get();
     m_parts->queues->choose(m_current->queue().name);
-    m_parts->showQueue(nullptr, nullptr, QString(),
-                       tr("The options of “%1” are being prepared…").arg(queueTitle(m_current->queue())));
+    m_parts->showWait(nullptr, nowWaitingFor());
     updateReadiness();
-    afterPaint(&PrintDialog::openQueue);
+    openQueue();
 }
 
 void PrintDialog::chooseQueue(const QString &queue)
@@ -163,7 +175,7 @@ void PrintDialog::chooseQueue(const QString &queue)
     QueueRoom *chosen = room(queue);
     if (!chosen || chosen == m_current)
         return;
-    if (m_sending) {
+    if (m_gate->isClosed()) {
         m_parts->queues->choose(m_current->queue().name);
         return;
     }
@@ -178,9 +190,9 @@ void PrintDialog::chooseQueue(const QString &queue)
     m_parts->message->clear();
     m_openFailure.clear();
     m_current = chosen;
+    m_opening.cancel();
     setBusy(true);
-    m_parts->showQueue(nullptr, nullptr, QString(),
-                       tr("The options of “%1” are being prepared…").arg(queueTitle(chosen->queue())));
+    m_parts->showWait(nullptr, nowWaitingFor());
     m_parts->summary->showNote(QString());
     if (chosen->state() == QueueRoom::State::Ready)
         showCurrent();
@@ -195,10 +207,35 @@ QueueRoom *PrintDialog::room(const QString &queue)
     return found == m_rooms.end() ? nullptr : found->get();
 }
 
+QString PrintDialog::nowWaitingFor() const
+{
+    return tr("The options of “%1” are being prepared…").arg(queueTitle(m_current->queue()));
+}
+
 void PrintDialog::openQueue()
 {
+    using Ppds = Result<QueueRoom::Ppds>;
     if (!m_current || m_current->state() != QueueRoom::State::Listed) {
         afterPaint(&PrintDialog::preparePane);
+        return;
+    }
+    m_opening.start([source = m_source, queue = m_current->queue().name](
+                        CallControl &control) { return QueueRoom::fetch(*source, queue, control); },
+                    Ppds::failure(noAnswerSentence()), [this](Ppds ppds) { takePpds(std::move(ppds)); });
+}
+
+void PrintDialog::takePpds(Result<QueueRoom::Ppds> ppds)
+{
+    m_openFailure = ppds.error();
+    if (!m_openFailure.isEmpty()) {
+        m_parts->queues->markWithoutPane(m_current->queue().name, m_openFailure);
+        m_parts->message->say(MessageBar::Kind::Problem, m_openFailure, tr("Try &Again"), [this] {
+            setBusy(true);
+            m_openFailure.clear();
+            m_parts->showWait(nullptr, nowWaitingFor());
+            openQueue();
+        });
+        showCurrent();
         return;
     }
     std::optional<PrintDictionary> ticket = m_remembered.load(m_current->queue().name);
@@ -210,17 +247,7 @@ void PrintDialog::openQueue()
         ticket = m_start.ticket;
         removeJobOnlyKeys(&*ticket);
     }
-    m_openFailure = m_current->open(m_source, ticket);
-    if (!m_openFailure.isEmpty()) {
-        m_parts->queues->markWithoutPane(m_current->queue().name, m_openFailure);
-        m_parts->message->say(MessageBar::Kind::Problem, m_openFailure, tr("Try &Again"), [this] {
-            setBusy(true);
-            m_openFailure.clear();
-            afterPaint(&PrintDialog::openQueue);
-        });
-        showCurrent();
-        return;
-    }
+    m_current->open(std::move(ppds.value()), m_source->hasPrinter(), ticket);
     m_hadPrinter = true;
     connect(m_current->rows(), &PpdOptionRows::choiceMade, this,
             [this, opened = m_current](const QString &keyword, const QString &choice) {
@@ -232,7 +259,7 @@ void PrintDialog::openQueue()
         if (opened == m_current)
             refreshSummary();
     });
-    m_parts->showQueue(m_current->rows(), nullptr, QString(), m_parts->placeText());
+    m_parts->showWait(m_current->rows(), nowWaitingFor());
     afterPaint(&PrintDialog::preparePane);
 }
 
@@ -325,7 +352,7 @@ void PrintDialog::updateReadiness()
 
 QString PrintDialog::reasonNotToPrint() const
 {
-    if (m_sending)
+    if (m_sending->isRunning())
         return tr("The job is being sent…");
     if (m_busy)
         return tr("The printer's options are being prepared…");
@@ -337,7 +364,9 @@ QString PrintDialog::reasonNotToPrint() const
         return tr("This printer takes no jobs at the moment. Choose another one, or ask who looks after it.");
     if (m_parts->documents->documents().isEmpty())
         return tr("Add a document to print.");
-    return m_parts->job->problem();
+    if (const QString problem = m_parts->job->problem(); !problem.isEmpty())
+        return problem;
+    return checkRange(m_parts->job->options(), m_parts->documents->documents(), {});
 }
 
 void PrintDialog::restoreDefaults()
@@ -354,30 +383,48 @@ void PrintDialog::print()
     if (!m_parts->print->isEnabled())
         return;
     m_parts->message->clear();
-    m_sending = true;
+    const QStringList documents = m_parts->documents->documents();
+    const JobOptions options = m_parts->job->options();
+    m_sending->start(documents, options, [this, documents, options] {
+        return m_current->leave() ? m_current->makeJob(documents, options)
+                                  : Result<JobRequest>::failure(tr("The choices are not complete yet."));
+    });
     setBusy(true);
+    m_gate->close({m_parts->sending->stopButton(), m_parts->cancel});
+    m_parts->sending->stopButton()->setFocus();
     updateReadiness();
-    afterPaint(&PrintDialog::send);
 }
 
-void PrintDialog::send()
+void PrintDialog::stopSending()
 {
-    const auto sent = m_current->leave()
-                          ? m_current->print(m_sink, m_parts->documents->documents(), m_parts->job->options())
-                          : Result<PrintedJob>::failure(tr("The choices are not complete yet."));
-    m_sending = false;
+    say(tr("The job is being canceled…"));
+    m_sending->stop();
+    endSending();
+}
+
+void PrintDialog::endSending()
+{
+    if (!m_gate->isClosed())
+        return;
+    m_gate->open();
     setBusy(false);
     updateReadiness();
-    if (!sent) {
-        m_current->enter();
-        refreshSummary();
-        say(sent.error());
-        m_parts->print->setFocus();
-        return;
-    }
+    m_current->enter();
+    refreshSummary();
+    m_parts->print->setFocus();
+}
+
+void PrintDialog::finish(const SentJob &job)
+{
     m_remembered.store(m_current->queue().name, m_current->ticket());
-    emit printed(m_sink.sentNote());
+    emit printed(job.note);
     accept();
+}
+
+void PrintDialog::reportFailure(const QString &sentence)
+{
+    endSending();
+    say(sentence);
 }
 
 void PrintDialog::dragEnterEvent(QDragEnterEvent *event)
@@ -394,8 +441,13 @@ void PrintDialog::dropEvent(QDropEvent *event)
 
 void PrintDialog::reject()
 {
-    if (!m_sending)
-        QDialog::reject();
+    m_listing.cancel();
+    m_opening.cancel();
+    m_sending->disconnect(this);
+    if (m_sending->isRunning())
+        m_sending->stop();
+    m_gate->open();
+    QDialog::reject();
 }
 
 } // namespace bv

@@ -2,7 +2,9 @@
 // The print dialog's window: user actions, and the order in which queues, pane and job are handled.
 #pragma once
 
+#include "dialog/QueueRoom.h"
 #include "jobs/JobSink.h"
+#include "queues/BackgroundCall.h"
 #include "queues/QueueSource.h"
 #include "queues/RememberedTickets.h"
 
@@ -14,10 +16,11 @@
 
 namespace bv {
 
+class InputGate;
+class JobSending;
 class PaneSurvey;
 class PanelLoader;
 class PrintDialogLayout;
-class QueueRoom;
 
 // Settings from the command line.
 struct PrintDialogStart
@@ -25,6 +28,7 @@ struct PrintDialogStart
     QString queue;                         // to choose; empty for the default queue
     std::optional<PrintDictionary> ticket; // replaces the remembered ticket of that queue
     QStringList documents;
+    PageCount pageCount = {}; // of a document; empty: no page count is known
 };
 
 class PrintDialog : public QDialog
@@ -32,13 +36,15 @@ class PrintDialog : public QDialog
     Q_OBJECT
 
 public:
-    // All four references must outlive the dialog. The plug-in must be loaded.
-    PrintDialog(QueueSource &source, JobSink &sink, PanelLoader &loader, RememberedTickets &remembered,
-                PrintDialogStart start);
+    // The two references must outlive the dialog. The plug-in must be loaded.
+    PrintDialog(std::shared_ptr<const QueueSource> source, std::shared_ptr<const JobSink> sink, PanelLoader &loader,
+                RememberedTickets &remembered, PrintDialogStart start);
     ~PrintDialog() override;
 
     // True once a queue was opened. If it is still false at the end, there was no printer.
     bool hadPrinter() const { return m_hadPrinter; }
+    // True while the dialog waits for a print server or a panel.
+    bool isWaiting() const { return m_busy; }
     // The reason shown for a greyed Print button. Empty when the button is enabled.
     QString printReason() const;
     // The message shown in the message bar. Empty when there is none.
@@ -57,7 +63,7 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 public slots:
-    // Closes the dialog. Does nothing while a job is being sent, because nobody would learn whether it was printed.
+    // Closes the dialog at once, whatever it waits for. A job that is being sent is canceled.
     void reject() override;
 
 private:
@@ -66,9 +72,12 @@ private:
     // Runs a step after the window was painted. Replaces a step that is still waiting.
     void afterPaint(Step step, int milliseconds = 0);
 
-    // The steps that lead to a shown queue. Each may wait for the network and runs in its own turn of the event loop.
+    // The steps that lead to a shown queue. What may wait for the network runs in the background; each step that
+    // follows runs in its own turn of the event loop.
     void listQueues();
+    void takeQueues(const Result<std::vector<PrintQueue>> &queues);
     void openQueue();
+    void takePpds(Result<QueueRoom::Ppds> ppds);
     void preparePane();
     void showCurrent();
 
@@ -82,10 +91,13 @@ private:
     void surveyOthers();
     void restoreDefaults();
     void print();
-    void send();
+    void stopSending();
+    void endSending();
+    void finish(const SentJob &job);
+    void reportFailure(const QString &sentence);
+    QString nowWaitingFor() const;
 
-    QueueSource &m_source;
-    JobSink &m_sink;
+    std::shared_ptr<const QueueSource> m_source;
     PanelLoader &m_loader;
     RememberedTickets &m_remembered;
     PrintDialogStart m_start;
@@ -94,13 +106,16 @@ private:
     std::vector<std::unique_ptr<QueueRoom>> m_rooms;
     QueueRoom *m_current = nullptr; // one of m_rooms, or null
     std::unique_ptr<PaneSurvey> m_survey;
+    BackgroundCall<Result<std::vector<PrintQueue>>> m_listing;
+    BackgroundCall<Result<QueueRoom::Ppds>> m_opening;
+    InputGate *m_gate;
+    JobSending *m_sending;
     QTimer m_stepTimer;
     Step m_step = nullptr; // runs when the timer fires
     QString m_noQueue;     // why there is no current queue; empty while unknown
     QString m_openFailure; // why the current queue cannot be opened
     bool m_begun = false;
     bool m_busy = false;
-    bool m_sending = false;
     bool m_hadPrinter = false;
 };
 

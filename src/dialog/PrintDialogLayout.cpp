@@ -10,7 +10,9 @@
 #include "widgets/MessageBar.h"
 #include "widgets/PaneArea.h"
 #include "widgets/ReasonLabel.h"
+#include "widgets/SendingRow.h"
 #include "widgets/SummaryView.h"
+#include "widgets/WaitPanel.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
@@ -78,6 +80,8 @@ PrintDialogLayout::PrintDialogLayout(QDialog *dialog) : QWidget(dialog)
     rows->addWidget(queues);
     rows->addWidget(message);
     rows->addLayout(m_middle, 1);
+    sending = new SendingRow(this);
+    rows->addWidget(sending);
     rows->addLayout(makeButtons(dialog));
     setTabOrders();
 }
@@ -132,15 +136,8 @@ QWidget *PrintDialogLayout::makePlace()
     m_paneTitle = heading(QString(), place);
     m_paneTitle->setObjectName(QStringLiteral("paneTitle"));
     m_place = new QStackedWidget(place);
-    m_placeNote = new QWidget;
-    m_placeText = new QLabel(m_placeNote);
-    m_placeText->setObjectName(QStringLiteral("placeText"));
-    m_placeText->setTextFormat(Qt::PlainText);
-    m_placeText->setAlignment(Qt::AlignCenter);
-    m_placeText->setWordWrap(true);
-    auto *noteColumn = new QVBoxLayout(m_placeNote);
-    noteColumn->addWidget(m_placeText);
-    m_place->addWidget(m_placeNote);
+    wait = new WaitPanel;
+    m_place->addWidget(wait);
     auto *box = column(place);
     box->addWidget(m_paneTitle);
     box->addWidget(m_place, 1);
@@ -182,8 +179,8 @@ void PrintDialogLayout::showQueue(PpdOptionRows *rows, QWidget *pane, const QStr
     }
     if (pane && m_place->indexOf(pane) < 0)
         m_place->addWidget(pane);
-    m_placeText->setText(pane ? QString() : sentence);
-    m_place->setCurrentWidget(pane ? pane : m_placeNote);
+    wait->say(pane ? QString() : sentence);
+    m_place->setCurrentWidget(pane ? pane : wait);
     m_paneTitle->setText(paneName);
     m_paneTitle->setVisible(!paneName.isEmpty());
     alignLabels(rows);
@@ -191,9 +188,15 @@ void PrintDialogLayout::showQueue(PpdOptionRows *rows, QWidget *pane, const QStr
     setTabOrders();
 }
 
+void PrintDialogLayout::showWait(PpdOptionRows *rows, const QString &sentence)
+{
+    showQueue(rows, nullptr, QString(), sentence);
+    wait->wait(sentence);
+}
+
 QString PrintDialogLayout::placeText() const
 {
-    return m_placeText->text();
+    return wait->text();
 }
 
 void PrintDialogLayout::resizeEvent(QResizeEvent *event)
@@ -245,7 +248,7 @@ void PrintDialogLayout::widenSide()
 // order inside the pane stays unchanged.
 void PrintDialogLayout::setTabOrders()
 {
-    const QList<QWidget *> behind = {summary, restore, cancel, print};
+    const QList<QWidget *> behind = {wait->skipButton(), summary, sending->stopButton(), restore, cancel, print};
     QWidget *before = queues->popUp();
     for (QWidget *widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain()) {
         const bool takesTabs = (widget->focusPolicy() & Qt::TabFocus) != 0;

@@ -20,7 +20,9 @@ class PaneArea;
 class PpdOptionRows;
 class QueueList;
 class ReasonLabel;
+class SendingRow;
 class SummaryView;
+class WaitPanel;
 
 class PrintDialogLayout : public QWidget
 {
@@ -38,10 +40,14 @@ public:
     QPushButton *cancel = nullptr;
     QPushButton *print = nullptr;
     ReasonLabel *reason = nullptr;
+    SendingRow *sending = nullptr;
+    WaitPanel *wait = nullptr;
 
     // Shows the rows and the pane of one queue. `rows` may be null. Shows the sentence instead of a null pane. The
     // widgets shown before stay in the window, hidden, until their owner removes them.
     void showQueue(PpdOptionRows *rows, QWidget *pane, const QString &paneName, const QString &sentence);
+    // Shows the rows, and in place of the pane what is being waited for.
+    void showWait(PpdOptionRows *rows, const QString &sentence);
     // The sentence shown instead of a pane. Empty while a pane is shown.
     QString placeText() const;
 
@@ -67,8 +73,6 @@ private:
     PaneArea *m_settings = nullptr; // holds everything at the side but the summary
     QStackedWidget *m_rows = nullptr;
     QStackedWidget *m_place = nullptr;
-    QWidget *m_placeNote = nullptr;
-    QLabel *m_placeText = nullptr;
     QLabel *m_paneTitle = nullptr;
     QWidget *m_noRows = nullptr;
     bool m_summaryAside = false;

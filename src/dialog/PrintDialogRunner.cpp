@@ -3,8 +3,10 @@
 #include "dialog/PrintDialogRunner.h"
 
 #include "dialog/PrintDialog.h"
+#include "jobs/DocumentArguments.h"
 #include "jobs/FolderSink.h"
 #include "jobs/PrintServerSink.h"
+#include "queues/Complaint.h"
 #include "queues/PanelLoader.h"
 #include "queues/TicketJson.h"
 
@@ -12,7 +14,6 @@
 #include <QDir>
 #include <QFile>
 #include <QTimer>
-#include <cstdio>
 
 namespace bv {
 
@@ -23,7 +24,7 @@ constexpr QSize kPictureSize(1024, 600);
 
 int badStart(const QString &sentence)
 {
-    std::fprintf(stderr, "bvprint: %s\n", qPrintable(sentence.simplified()));
+    complain(sentence);
     return 2;
 }
 
@@ -53,40 +54,45 @@ int runPrintDialog(const WindowRequest &request, PanelLoader &loader)
     PrintDialogStart start;
     const SessionRequest &session = request.session;
     start.queue = session.usesServer() ? session.queue : session.queueWithoutServer();
-    start.documents = request.documents;
+    DocumentArguments arguments;
+    Result<QStringList> documents = arguments.paths(request.documents);
+    if (!documents)
+        return badStart(documents.error());
+    start.documents = std::move(documents.value());
     if (!session.ticket.isEmpty()) {
         Result<PrintDictionary> ticket = ticketFromFile(session.ticket);
         if (!ticket)
             return badStart(ticket.error());
         start.ticket = std::move(ticket.value());
     }
-    std::unique_ptr<QueueSource> source;
-    std::unique_ptr<JobSink> sink;
+    std::shared_ptr<const QueueSource> source;
+    std::shared_ptr<const JobSink> sink;
     if (session.usesServer()) {
         source = makeServerSource();
-        sink = std::make_unique<PrintServerSink>();
+        sink = std::make_shared<PrintServerSink>();
     } else {
         const QString folder = demoOutputFolder();
-        Result<std::unique_ptr<QueueSource>> made = makePpdSource(
+        Result<std::shared_ptr<const QueueSource>> made = makePpdSource(
             session, QCoreApplication::translate("PrintDialogRunner", "No print server: jobs are written to %1")
                          .arg(QDir::toNativeSeparators(folder)));
         if (!made)
             return badStart(made.error());
         source = std::move(made.value());
-        sink = std::make_unique<FolderSink>(folder);
+        sink = std::make_shared<FolderSink>(folder);
     }
 
     RememberedTickets remembered;
-    PrintDialog dialog(*source, *sink, loader, remembered, std::move(start));
+    PrintDialog dialog(source, sink, loader, remembered, std::move(start));
     int status = 0;
     QObject::connect(&dialog, &PrintDialog::printed, [](const QString &note) {
         if (!note.isEmpty())
-            std::printf("%s\n", qPrintable(note));
+            tell(note + u'\n');
     });
     if (!request.screenshot.isEmpty())
         takePicture(dialog, request.screenshot, status);
     dialog.exec();
-    if (dialog.hadPrinter())
+    // Who cancels while the dialog still looks for printers knows what he does.
+    if (dialog.hadPrinter() || dialog.isWaiting())
         return status;
     // A script that takes a picture shows no window, so the reason goes to standard error.
     return badStart(dialog.messageText().isEmpty() ? dialog.printReason() : dialog.messageText());

@@ -21,24 +21,31 @@ QueueRoom::~QueueRoom()
     delete m_rows;
 }
 
-QString QueueRoom::open(QueueSource &source, const std::optional<PrintDictionary> &ticket)
+Result<QueueRoom::Ppds> QueueRoom::fetch(const QueueSource &source, const QString &queue, CallControl &control)
 {
-    Result<PpdFile> panelPpd = source.ppd(m_queue.name);
-    if (!panelPpd)
-        return panelPpd.error();
-    // The rows need a PPD of their own: they mark choices to find conflicts, and the panel must not see these marks.
-    Result<PpdFile> rowsPpd = source.ppd(m_queue.name);
-    if (!rowsPpd)
-        return rowsPpd.error();
-    m_rowsPpd.emplace(std::move(rowsPpd.value()));
-    m_session = std::make_unique<QueueSession>(QueueIdentity{m_queue.name, m_queue.deviceUri, source.hasPrinter()},
-                                               std::move(panelPpd.value()));
+    using Fetched = Result<Ppds>;
+    const Result<PpdText> text = source.ppd(queue, control);
+    if (!text)
+        return Fetched::failure(text.error());
+    Result<PpdFile> panel = PpdFile::open(text.value());
+    if (!panel)
+        return Fetched::failure(panel.error());
+    Result<PpdFile> rows = PpdFile::open(text.value());
+    if (!rows)
+        return Fetched::failure(rows.error());
+    return Ppds{std::move(panel.value()), std::move(rows.value())};
+}
+
+void QueueRoom::open(Ppds ppds, bool hasPrinter, const std::optional<PrintDictionary> &ticket)
+{
+    m_rowsPpd.emplace(std::move(ppds.rows));
+    m_session = std::make_unique<QueueSession>(QueueIdentity{m_queue.name, m_queue.deviceUri, hasPrinter},
+                                               std::move(ppds.panel));
     if (ticket)
         m_session->ticket().replace(*ticket);
     m_rows = new PpdOptionRows(m_rowsPpd->handle());
     m_rows->readFrom(m_session->printSettings());
     m_state = State::Opened;
-    return {};
 }
 
 void QueueRoom::preparePane(PanelLoader &loader)
@@ -119,10 +126,10 @@ void QueueRoom::restoreDefaults()
     updateConflicts();
 }
 
-Result<PrintedJob> QueueRoom::print(JobSink &sink, const QStringList &documents, const JobOptions &extra)
+Result<JobRequest> QueueRoom::makeJob(const QStringList &documents, const JobOptions &extra)
 {
     m_rows->writeTo(m_session->printSettings());
-    return printDocuments(*m_session, m_holder ? &m_holder->panel() : nullptr, sink, documents, extra);
+    return prepareJob(*m_session, m_holder ? &m_holder->panel() : nullptr, documents, extra);
 }
 
 } // namespace bv

@@ -31,9 +31,17 @@ public:
     const PrintQueue &queue() const { return m_queue; }
     State state() const { return m_state; }
 
-    // Fetches the PPD, creates session and rows, and fills the ticket. May wait for the network. On a failure returns a
-    // sentence for the user and leaves the room as it was.
-    QString open(QueueSource &source, const std::optional<PrintDictionary> &ticket);
+    // The queue's PPD, opened twice: the rows mark choices in theirs to find conflicts, and the panel must not see it.
+    struct Ppds
+    {
+        PpdFile panel;
+        PpdFile rows;
+    };
+    // Fetches and opens them. Called on a background thread. The sentence of a failure is for the user.
+    static Result<Ppds> fetch(const QueueSource &source, const QString &queue, CallControl &control);
+
+    // Creates session and rows, and fills the ticket.
+    void open(Ppds ppds, bool hasPrinter, const std::optional<PrintDictionary> &ticket);
     // Creates the panel and its view. May wait for the network. Never fails: when there is no pane, noPaneReason() says
     // why.
     void preparePane(PanelLoader &loader);
@@ -64,9 +72,8 @@ public:
     void choiceMade(const QString &keyword, const QString &choice);
     // Empties the ticket and sets panel and rows to their defaults.
     void restoreDefaults();
-    // Sends the documents with the options of the ticket and the extra ones. On a failure nothing is printed and all
-    // choices stay.
-    Result<PrintedJob> print(JobSink &sink, const QStringList &documents, const JobOptions &extra);
+    // Makes a job of the documents with the options of the ticket and the extra ones. On a failure all choices stay.
+    Result<JobRequest> makeJob(const QStringList &documents, const JobOptions &extra);
     // The current ticket.
     const PrintDictionary &ticket() const { return m_session->ticket().entries(); }
 

@@ -2,6 +2,7 @@
 // Stores jobs in folders.
 #include "jobs/FolderSink.h"
 
+#include "jobs/DocumentReader.h"
 #include "queues/StateFolder.h"
 
 #include <QCoreApplication>
@@ -19,45 +20,79 @@ QString tr(const char *text)
     return QCoreApplication::translate("FolderSink", text);
 }
 
-} // namespace
+// Both return a sentence for the user on a failure.
 
-Result<std::optional<int>> FolderSink::submit(const JobRequest &request)
+QString writeOptions(const JobOptions &options, const QString &path)
 {
-    using Sent = Result<std::optional<int>>;
-    if (m_folder.isEmpty())
-        return std::optional<int>();
-    const QDir folder(m_folder);
-    int number = 1;
-    while (QFileInfo::exists(folder.filePath(QStringLiteral("job-%1").arg(number))))
-        ++number;
-    const QString name = QStringLiteral("job-%1").arg(number);
-    if (!folder.mkpath(name))
-        return Sent::failure(tr("The folder %1 cannot be made.").arg(folder.filePath(name)));
-    const QDir job(folder.filePath(name));
-
-    QJsonObject options;
-    for (const auto &[key, value] : request.options)
-        options.insert(key, value);
-    QFile file(job.filePath(QStringLiteral("options.json")));
-    const QByteArray json = QJsonDocument(options).toJson();
-    if (!file.open(QIODevice::WriteOnly) || file.write(json) != json.size())
-        return Sent::failure(tr("%1 cannot be written: %2.").arg(file.fileName(), file.errorString()));
-    file.close();
-    for (qsizetype i = 0; i < request.documents.size(); ++i) {
-        const QFileInfo document(request.documents[i]);
-        // The number keeps documents apart that have the same name in different folders.
-        const QString copy = job.filePath(QStringLiteral("%1-%2").arg(i + 1).arg(document.fileName()));
-        if (!QFile::copy(document.filePath(), copy))
-            return Sent::failure(tr("The document %1 cannot be copied to %2.").arg(document.filePath(), copy));
-    }
-    m_lastJobFolder = job.absolutePath();
-    return std::optional<int>(number);
+    QJsonObject object;
+    for (const auto &[key, value] : options)
+        object.insert(key, value);
+    QFile file(path);
+    const QByteArray json = QJsonDocument(object).toJson();
+    if (!file.open(QIODevice::WriteOnly) || file.write(json) != json.size() || !file.flush())
+        return tr("%1 cannot be written: %2.").arg(path, file.errorString());
+    return {};
 }
 
-QString FolderSink::sentNote() const
+QString copyDocument(const QString &path, const QString &target, CallControl &control)
 {
-    return m_lastJobFolder.isEmpty() ? QString()
-                                     : tr("The job was written to %1.").arg(QDir::toNativeSeparators(m_lastJobFolder));
+    Result<DocumentReader> document = DocumentReader::open(path);
+    if (!document)
+        return document.error();
+    QFile copy(target);
+    bool written = copy.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered);
+    const auto write = [&](std::span<const char> bytes) {
+        written = copy.write(bytes.data(), qint64(bytes.size())) == qint64(bytes.size());
+        return written;
+    };
+    const QString error = written ? document.value().readAll(control, write) : QString();
+    if (!written)
+        return tr("The document %1 cannot be copied to %2: %3.").arg(path, target, copy.errorString());
+    if (error.isEmpty() && control.isOver())
+        return tr("The job was canceled. Nothing was printed.");
+    return error;
+}
+
+QString storeJob(const JobRequest &request, const QDir &folder, CallControl &control)
+{
+    if (const QString error = writeOptions(request.options, folder.filePath(QStringLiteral("options.json")));
+        !error.isEmpty())
+        return error;
+    for (qsizetype i = 0; i < request.documents.size(); ++i) {
+        // The number keeps documents apart that have the same name in different folders.
+        const QString name = QStringLiteral("%1-%2").arg(i + 1).arg(QFileInfo(request.documents[i]).fileName());
+        if (const QString error = copyDocument(request.documents[i], folder.filePath(name), control); !error.isEmpty())
+            return error;
+    }
+    return {};
+}
+
+} // namespace
+
+Result<SentJob> FolderSink::submit(const JobRequest &request, CallControl &control) const
+{
+    using Sent = Result<SentJob>;
+    if (m_folder.isEmpty())
+        return SentJob();
+    allowForDocuments(control, request.documents);
+    const QDir folder(m_folder);
+    if (!folder.mkpath(QStringLiteral(".")))
+        return Sent::failure(tr("The folder %1 cannot be made.").arg(folder.path()));
+    // Making the folder takes the number, should another program look for one at the same time.
+    int number = 1;
+    QDir job;
+    for (;; ++number) {
+        job = QDir(folder.filePath(QStringLiteral("job-%1").arg(number)));
+        if (!QFileInfo::exists(job.path()) && folder.mkdir(job.dirName()))
+            break;
+        if (!QFileInfo::exists(job.path()))
+            return Sent::failure(tr("The folder %1 cannot be made.").arg(job.path()));
+    }
+    if (const QString error = storeJob(request, job, control); !error.isEmpty()) {
+        job.removeRecursively();
+        return Sent::failure(error);
+    }
+    return SentJob{number, tr("The job was written to %1.").arg(QDir::toNativeSeparators(job.absolutePath()))};
 }
 
 QString demoOutputFolder()

@@ -7,18 +7,16 @@
 namespace bv {
 
 // Job folders are named "job-1", "job-2" and so on. Each holds the options in "options.json" and copies of the
-// documents. With an empty folder name, jobs are accepted and dropped.
+// documents; a job that fails leaves no folder. With an empty folder name, jobs are accepted and dropped.
 class FolderSink final : public JobSink
 {
 public:
     explicit FolderSink(QString folder = QString()) : m_folder(std::move(folder)) {}
-    Result<std::optional<int>> submit(const JobRequest &request) override;
-    // Names the folder of the last job. Empty before the first job, and without a folder.
-    QString sentNote() const override;
+    // The note names the job's folder.
+    Result<SentJob> submit(const JobRequest &request, CallControl &control) const override;
 
 private:
     QString m_folder;
-    QString m_lastJobFolder;
 };
 
 // The folder for jobs when there is no print server: BVPRINT_OUTPUT from the environment, else "bvprint-jobs" in the

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/Result.h"
+#include "queues/CallControl.h"
 
 #include <QStringList>
 #include <map>
@@ -21,15 +22,25 @@ struct JobRequest
     JobOptions options;
 };
 
-// A receiver of jobs. On a failure it returns a sentence for the user, and nothing is printed.
+// A job that its receiver has confirmed.
+struct SentJob
+{
+    std::optional<int> id; // its number, if the receiver gives it one
+    QString note;          // an additional message for the user; may be empty
+};
+
+// The sentence for a job whose receiver says nothing at all.
+QString unconfirmedSentence();
+
+// A receiver of jobs. Shared with background threads, which may outlive the window.
 class JobSink
 {
 public:
     virtual ~JobSink() = default;
-    // Returns the job's number, if the receiver gives it one.
-    virtual Result<std::optional<int>> submit(const JobRequest &request) = 0;
-    // An additional message for the user about the last job. May be empty.
-    virtual QString sentNote() const { return {}; }
+    // Hands the job over; called on a background thread. Keeps the control's progress and gives itself the time that
+    // the size of the documents asks for. On a failure, also when the call is canceled, returns a sentence for the
+    // user, and nothing is printed; where that is not sure, the sentence says so.
+    virtual Result<SentJob> submit(const JobRequest &request, CallControl &control) const = 0;
 };
 
 } // namespace bv

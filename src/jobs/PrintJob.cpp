@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// Turns a ticket into a submitted job.
+// Turns a ticket into a job.
 #include "jobs/PrintJob.h"
 
+#include "jobs/PageRange.h"
 #include "jobs/StandardAttributes.h"
+#include "queues/JobOnlyKeys.h"
 #include "queues/QueueSession.h"
 
 #include <QCoreApplication>
@@ -57,27 +59,39 @@ QString checkDocuments(const QStringList &documents)
     return {};
 }
 
-Result<PrintedJob> printDocuments(QueueSession &session, PrintPanel *panel, JobSink &sink, const QStringList &documents,
-                                  const JobOptions &extra)
+QString checkRange(const JobOptions &options, const QStringList &documents, const PageCount &pageCount)
 {
-    using Printed = Result<PrintedJob>;
-    if (const QString error = checkDocuments(documents); !error.isEmpty())
-        return Printed::failure(error);
+    const auto wanted = options.find(QString::fromLatin1(kPageRangesKey));
+    if (wanted == options.end())
+        return {};
+    if (documents.size() > 1)
+        return tr("A range of pages belongs to one document. Print the documents one by one, or all of their pages.");
+    const PageRange range = parsePageRange(wanted->second);
+    const std::optional<int> pages = pageCount && range.isValid() ? pageCount(documents.first()) : std::optional<int>();
+    // The runs are in order, so the last one reaches farthest.
+    const int farthest = !pages                                        ? 0
+                         : range.runs.back().last == PageRun::kOpenEnd ? range.runs.back().first
+                                                                       : range.runs.back().last;
+    if (!pages || farthest <= *pages)
+        return {};
+    const QString name = QFileInfo(documents.first()).fileName();
+    return *pages == 1 ? tr("%1 has 1 page; there is no page %2.").arg(name).arg(farthest)
+                       : tr("%1 has %2 pages; there is no page %3.").arg(name).arg(*pages).arg(farthest);
+}
+
+Result<JobRequest> prepareJob(QueueSession &session, PrintPanel *panel, const QStringList &documents,
+                              const JobOptions &extra)
+{
+    using Job = Result<JobRequest>;
     if (panel) {
         QString error;
         if (!panel->saveValuesAndReturnError(&error))
-            return Printed::failure(error.isEmpty() ? tr("The options cannot be kept.") : error);
+            return Job::failure(error.isEmpty() ? tr("The options cannot be kept.") : error);
         if (!panel->shouldPrint())
-            return Printed::failure(tr("The options do not let this job be printed."));
+            return Job::failure(tr("The options do not let this job be printed."));
     }
-    PrintedJob job;
-    job.options = jobOptions(session.ticket().entries(), session.ppdFile(), extra);
-    Result<std::optional<int>> sent =
-        sink.submit({session.queue(), QFileInfo(documents.first()).fileName(), documents, job.options});
-    if (!sent)
-        return Printed::failure(sent.error());
-    job.id = sent.value();
-    return job;
+    return JobRequest{session.queue(), QFileInfo(documents.first()).fileName(), documents,
+                      jobOptions(session.ticket().entries(), session.ppdFile(), extra)};
 }
 
 } // namespace bv

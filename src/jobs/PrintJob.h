@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// Makes a job's options from a ticket, and prints: checks the documents, asks the panel, submits the job.
+// Makes a job of a ticket and documents: its options, and the checks before it is sent.
 #pragma once
 
 #include "jobs/JobSink.h"
 #include "platform/HostProtocol.h"
+
+#include <functional>
 
 namespace bv {
 
@@ -16,20 +18,22 @@ JobOptions ticketOptions(const PrintDictionary &ticket);
 // contradict them. Extra options override the ticket. Attributes that are set already stay as they are.
 JobOptions jobOptions(const PrintDictionary &ticket, ppd_file_t *ppd, const JobOptions &extra = {});
 
-// A sentence for the user about the first document that cannot be printed (missing, unreadable, a folder). Empty when
-// all can be printed.
+// The number of pages of a document; nothing when it is not known. May take a moment, and may be called on any thread.
+using PageCount = std::function<std::optional<int>(const QString &path)>;
+
+// The two checks before a job is made. Both touch the documents and may be called on a background thread. Each returns
+// a sentence for the user, or an empty text.
+
+// The first document that cannot be printed (missing, unreadable, a folder), or that there is none.
 QString checkDocuments(const QStringList &documents);
 
-// A job that was sent.
-struct PrintedJob
-{
-    std::optional<int> id; // the print server's job number, if there is one
-    JobOptions options;
-};
+// Whether the range of pages in the options, if there is one, can be printed: it belongs to one document, and names no
+// page behind its end. An empty function knows no page count.
+QString checkRange(const JobOptions &options, const QStringList &documents, const PageCount &pageCount);
 
-// Prints as the Print button does. Checks the documents before anything is changed, has the panel save its values, asks
-// it whether to print, then submits. The panel may be null; then the ticket is sent unchanged.
-Result<PrintedJob> printDocuments(QueueSession &session, PrintPanel *panel, JobSink &sink, const QStringList &documents,
-                                  const JobOptions &extra = {});
+// Makes a job that is ready to be handed to a sink, as the Print button does: has the panel save its values, and asks
+// it whether to print. The panel may be null; then the ticket is taken unchanged. There must be a document.
+Result<JobRequest> prepareJob(QueueSession &session, PrintPanel *panel, const QStringList &documents,
+                              const JobOptions &extra = {});
 
 } // namespace bv

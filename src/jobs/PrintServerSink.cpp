@@ -2,10 +2,11 @@
 // Sends jobs over IPP with libcups (RFC 8011: Create-Job, Send-Document, Cancel-Job).
 #include "jobs/PrintServerSink.h"
 
-#include "queues/PrintServer.h"
+#include "jobs/DocumentReader.h"
+#include "queues/BackgroundCall.h"
+#include "queues/ServerConnection.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
 #include <algorithm>
 #include <array>
@@ -19,13 +20,12 @@ QString tr(const char *text)
     return QCoreApplication::translate("PrintServerSink", text);
 }
 
-using Sent = Result<std::optional<int>>;
+using Sent = Result<SentJob>;
 
-struct IppDelete
-{
-    void operator()(ipp_t *message) const { ippDelete(message); }
-};
-using IppMessage = std::unique_ptr<ipp_t, IppDelete>;
+// A canceled call waits this long for the number of a job that is just being created, so that it can be canceled.
+constexpr std::chrono::milliseconds kPatience{1000};
+// Telling the server to cancel a job takes at most this long.
+constexpr std::chrono::milliseconds kCancelLimit{3000};
 
 // Messages for the user when the server refuses. %1 is the queue, %2 the document.
 struct Refusal
@@ -35,42 +35,31 @@ struct Refusal
 };
 
 // clang-format off
-constexpr std::array<Refusal, 7> kRefusals = {{
+constexpr std::array<Refusal, 6> kRefusals = {{
     {IPP_STATUS_ERROR_NOT_FOUND,                     "The print server has no queue %1 any more; choose another one."},
     {IPP_STATUS_ERROR_DOCUMENT_FORMAT_NOT_SUPPORTED, "The queue %1 cannot print %2: it does not take documents of that format. Save it as PDF and print that."},
     {IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS,            "The queue %1 takes no jobs just now; choose another one, or have it accept jobs again."},
     {IPP_STATUS_ERROR_FORBIDDEN,                     "You may not print on the queue %1; ask who looks after it."},
     {IPP_STATUS_ERROR_NOT_AUTHORIZED,                "You may not print on the queue %1; ask who looks after it."},
     {IPP_STATUS_ERROR_NOT_AUTHENTICATED,             "You may not print on the queue %1 without logging in to the print server."},
-    {IPP_STATUS_ERROR_SERVICE_UNAVAILABLE,           "The connection to the print server was lost, and %2 was not printed; check that it is running and print again."},
 }};
 // clang-format on
 
-QString refusal(ipp_status_t status, const QString &queue, const QString &document)
+QString refusal(ipp_status_t status, const QString &words, const QString &queue, const QString &document)
 {
-    for (const Refusal &row : kRefusals)
-        if (row.status == status)
-            return tr(row.sentence).arg(queue).replace(QStringLiteral("%2"), document);
-    QString words = QString::fromUtf8(cupsLastErrorString()).trimmed();
-    if (words.endsWith(u'.'))
-        words.chop(1);
+    for (const Refusal &row : kRefusals) {
+        if (row.status != status)
+            continue;
+        const QString sentence = tr(row.sentence);
+        return sentence.contains(QStringLiteral("%2")) ? sentence.arg(queue, document) : sentence.arg(queue);
+    }
     return tr("The queue %1 refused the job: %2.").arg(queue, words);
 }
 
-QByteArray printerUri(const QString &queue)
+// The sentence for an answer that is not good.
+QString problemOf(const ServerAnswer &answer, const QString &queue, const QString &document)
 {
-    char uri[HTTP_MAX_URI] = "";
-    httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", 0, "/printers/%s",
-                     queue.toUtf8().constData());
-    return uri;
-}
-
-ipp_t *newRequest(ipp_op_t operation, const QString &queue)
-{
-    ipp_t *request = ippNewRequest(operation);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, printerUri(queue).constData());
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
-    return request;
+    return answer.message ? refusal(answer.status(), answer.words(), queue, document) : answer.problem;
 }
 
 // True if libcups does not know the option's type. It then sends the value as a name.
@@ -129,70 +118,135 @@ void addOption(ipp_t *request, const QString &keyword, const QString &value)
 
 // A sentence for the user when the queue accepts no jobs or no longer exists. A stopped queue accepts jobs and keeps
 // them until it is resumed.
-QString checkQueue(http_t *http, const QString &queue)
+QString checkQueue(ServerConnection &server, const QString &queue)
 {
-    ipp_t *request = newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+    const IppMessage request = queueRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
                  "printer-is-accepting-jobs");
-    const IppMessage response(cupsDoRequest(http, request, "/"));
-    if (cupsLastError() > IPP_STATUS_OK_CONFLICTING)
-        return refusal(cupsLastError(), queue, tr("the document"));
-    ipp_attribute_t *accepts = ippFindAttribute(response.get(), "printer-is-accepting-jobs", IPP_TAG_BOOLEAN);
-    return accepts && !ippGetBoolean(accepts, 0) ? refusal(IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS, queue, QString())
-                                                 : QString();
+    const ServerAnswer answer = server.ask(request);
+    if (!answer.isGood())
+        return problemOf(answer, queue, tr("the document"));
+    ipp_attribute_t *accepts = ippFindAttribute(answer.message.get(), "printer-is-accepting-jobs", IPP_TAG_BOOLEAN);
+    return accepts && !ippGetBoolean(accepts, 0)
+               ? refusal(IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS, QString(), queue, QString())
+               : QString();
 }
 
 // Creates a job without documents. Returns its number, or a sentence for the user.
-Result<int> createJob(http_t *http, const JobRequest &job)
+Result<int> createJob(ServerConnection &server, const JobRequest &job)
 {
-    ipp_t *request = newRequest(IPP_OP_CREATE_JOB, job.queue);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr, job.title.toUtf8().constData());
+    const IppMessage request = queueRequest(IPP_OP_CREATE_JOB, job.queue);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr, job.title.toUtf8().constData());
     for (const auto &[keyword, value] : job.options)
-        addOption(request, keyword, value);
-    const IppMessage response(cupsDoRequest(http, request, "/"));
-    if (cupsLastError() > IPP_STATUS_OK_CONFLICTING)
-        return Result<int>::failure(refusal(cupsLastError(), job.queue, job.title));
-    ipp_attribute_t *number = ippFindAttribute(response.get(), "job-id", IPP_TAG_INTEGER);
+        addOption(request.get(), keyword, value);
+    server.setPatience(kPatience);
+    const ServerAnswer answer = server.ask(request);
+    server.setPatience(std::chrono::milliseconds(0));
+    if (!answer.isGood())
+        return Result<int>::failure(problemOf(answer, job.queue, job.title));
+    ipp_attribute_t *number = ippFindAttribute(answer.message.get(), "job-id", IPP_TAG_INTEGER);
     if (!number)
         return Result<int>::failure(tr("The print server gave the job no number."));
     return ippGetInteger(number, 0);
 }
 
-// Sends one document. Returns a sentence for the user on a failure.
-QString sendDocument(http_t *http, const JobRequest &job, int number, const QString &path, bool isLast)
+// How sending a document ended.
+struct Sending
 {
-    QFile file(path);
+    enum class End {
+        Confirmed,
+        Failed,      // `sentence` says why
+        Lost,        // the connection ended before the document did
+        Unconfirmed, // the server got all of it and did not say what became of it
+    };
+    End end = End::Failed;
+    QString sentence;
+};
+
+Sending sendDocument(ServerConnection &server, CallControl &control, const JobRequest &job, int number, qsizetype index)
+{
+    using End = Sending::End;
+    const QString path = job.documents[index];
     const QString name = QFileInfo(path).fileName();
-    if (!file.open(QIODevice::ReadOnly))
-        return tr("The document %1 cannot be read: %2.").arg(path, file.errorString());
-    // For an empty file the server would only say that there is no file.
-    if (file.size() == 0)
-        return tr("The document %1 is empty.").arg(path);
-    const QByteArray queue = job.queue.toUtf8();
-    http_status_t status =
-        cupsStartDocument(http, queue.constData(), number, name.toUtf8().constData(), CUPS_FORMAT_AUTO, isLast ? 1 : 0);
-    char bytes[65536];
-    qint64 count = 0;
-    while (status == HTTP_STATUS_CONTINUE && (count = file.read(bytes, sizeof bytes)) > 0)
-        status = cupsWriteRequestData(http, bytes, static_cast<size_t>(count));
-    const ipp_status_t answer = cupsFinishDocument(http, queue.constData());
-    if (count < 0)
-        return tr("The document %1 cannot be read: %2.").arg(path, file.errorString());
-    if (status != HTTP_STATUS_CONTINUE && answer <= IPP_STATUS_OK_CONFLICTING)
-        return refusal(IPP_STATUS_ERROR_SERVICE_UNAVAILABLE, job.queue, name);
-    return answer > IPP_STATUS_OK_CONFLICTING ? refusal(answer, job.queue, name) : QString();
+    Result<DocumentReader> document = DocumentReader::open(path);
+    if (!document)
+        return {End::Failed, document.error()};
+    const IppMessage request = queueRequest(IPP_OP_SEND_DOCUMENT, job.queue);
+    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", number);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr, name.toUtf8().constData());
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr, CUPS_FORMAT_AUTO);
+    ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", index + 1 == job.documents.size());
+    if (const QString error = server.beginDocument(request); !error.isEmpty())
+        return {End::Lost, {}};
+    qint64 sent = 0;
+    const QString error = document.value().readAll(control, [&](std::span<const char> bytes) {
+        const bool taken = server.sendBytes(bytes);
+        sent += taken ? qint64(bytes.size()) : 0;
+        return taken;
+    });
+    if (!error.isEmpty())
+        return {End::Failed, error};
+    const ServerAnswer answer = server.endDocument();
+    if (answer.isRefusal())
+        return {End::Failed, problemOf(answer, job.queue, name)};
+    if (sent != document.value().size())
+        return {End::Lost, {}};
+    return {answer.isGood() ? End::Confirmed : End::Unconfirmed, {}};
 }
 
-// Uses a new connection, since the job's own one may be broken.
-void cancelJob(const QString &queue, int number)
+// What the server says to a wish to cancel a job.
+enum class Canceling { Done, NoSuchJob, Unknown };
+
+// Uses a new connection, since the job's own one may be broken, and a control of its own, since the job's may be over.
+Canceling cancelJob(const QString &queue, int number)
 {
-    if (const Result<HttpConnection> http = PrintServer::connect())
-        cupsCancelJob2(http.value().get(), queue.toUtf8().constData(), number, 0);
+    CallControl control(kCancelLimit);
+    Result<ServerConnection> server = ServerConnection::open(control);
+    if (!server)
+        return Canceling::Unknown;
+    const IppMessage request = queueRequest(IPP_OP_CANCEL_JOB, queue);
+    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", number);
+    const ServerAnswer answer = server.value().ask(request);
+    if (answer.isGood())
+        return Canceling::Done;
+    return answer.message && answer.status() == IPP_STATUS_ERROR_NOT_FOUND ? Canceling::NoSuchJob : Canceling::Unknown;
+}
+
+// The sentence for a job that did not get through.
+QString failureOf(const Sending &sending, Canceling canceling, bool isStopped, const QString &document)
+{
+    const QString look = u' ' + tr("Look at the queue before printing again.");
+    const bool isOpen = canceling == Canceling::Unknown;
+    if (isStopped)
+        return isOpen ? tr("The job was stopped, but the print server did not confirm that it is canceled.") + look
+                      : tr("The job was canceled. Nothing was printed.");
+    switch (sending.end) {
+    case Sending::End::Confirmed:
+        break;
+    case Sending::End::Failed:
+        return isOpen ? sending.sentence + look : sending.sentence;
+    case Sending::End::Lost:
+        return isOpen
+                   ? tr("The connection to the print server was lost before all of %1 was sent.").arg(document) + look
+                   : tr("The connection to the print server was lost, and %1 was not printed; print again.")
+                         .arg(document);
+    case Sending::End::Unconfirmed: {
+        const QString taken = tr("The print server took the document but did not confirm it.");
+        // A server forgets jobs that are printed.
+        return canceling == Canceling::Done ? taken + u' ' + tr("The job was canceled; print again.") : taken + look;
+    }
+    }
+    return {};
 }
 
 } // namespace
 
-Result<std::optional<int>> PrintServerSink::submit(const JobRequest &request)
+QString unconfirmedSentence()
+{
+    return tr("The print server did not confirm the job. Look at the queue before printing again.");
+}
+
+Sent PrintServerSink::submit(const JobRequest &request, CallControl &control) const
 {
     for (const auto &[keyword, value] : request.options) {
         if (!isCarriedKeyword(keyword))
@@ -201,25 +255,30 @@ Result<std::optional<int>> PrintServerSink::submit(const JobRequest &request)
             return Sent::failure(tr("The print server cannot carry the value %1 of the option %2; choose another one.")
                                      .arg(value, keyword));
     }
-    Result<HttpConnection> connection = PrintServer::connect();
-    if (!connection)
-        return Sent::failure(connection.error());
-    http_t *http = connection.value().get();
-    if (const QString error = checkQueue(http, request.queue); !error.isEmpty())
+    allowForDocuments(control, request.documents);
+    Result<ServerConnection> server = ServerConnection::open(control);
+    if (!server)
+        return Sent::failure(server.error());
+    if (const QString error = checkQueue(server.value(), request.queue); !error.isEmpty())
         return Sent::failure(error);
-    const Result<int> job = createJob(http, request);
+    const UnfinishedWork untilTheJobIsWhole;
+    const Result<int> job = createJob(server.value(), request);
     if (!job)
         return Sent::failure(job.error());
     for (qsizetype i = 0; i < request.documents.size(); ++i) {
-        const QString error =
-            sendDocument(http, request, job.value(), request.documents[i], i + 1 == request.documents.size());
-        if (error.isEmpty())
+        Sending sending = sendDocument(server.value(), control, request, job.value(), i);
+        if (sending.end == Sending::End::Confirmed && !control.isCancelled())
             continue;
+        // Without its last document a job is not complete, whatever became of this one.
+        if (sending.end == Sending::End::Unconfirmed && i + 1 < request.documents.size())
+            sending.end = Sending::End::Lost;
         // The job exists on the server already and would wait for its documents for ever.
-        cancelJob(request.queue, job.value());
-        return Sent::failure(error);
+        control.allow(kCancelLimit);
+        const Canceling canceling = cancelJob(request.queue, job.value());
+        return Sent::failure(
+            failureOf(sending, canceling, control.isCancelled(), QFileInfo(request.documents[i]).fileName()));
     }
-    return std::optional<int>(job.value());
+    return SentJob{job.value(), QString()};
 }
 
 } // namespace bv

@@ -6,12 +6,12 @@
 
 namespace bv {
 
-// Sends all documents in one job, byte by byte as they are. The server detects the format of each. If it refuses a
-// document, the whole job is canceled.
+// Sends all documents in one job, byte by byte as they are. The server detects the format of each. Success is only what
+// the server confirmed. A job that fails or is canceled on the way is canceled on the server as well.
 class PrintServerSink final : public JobSink
 {
 public:
-    Result<std::optional<int>> submit(const JobRequest &request) override;
+    Result<SentJob> submit(const JobRequest &request, CallControl &control) const override;
 };
 
 } // namespace bv

@@ -30,6 +30,8 @@ public:
 
     explicit operator bool() const { return m_descriptor >= 0; }
     int get() const { return m_descriptor; }
+    // Hands the descriptor over; the caller closes it.
+    int release() { return std::exchange(m_descriptor, -1); }
     // Closes the descriptor now, if there is one.
     void reset();
 

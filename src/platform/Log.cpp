@@ -2,6 +2,8 @@
 // Formatting of log texts, their conversion to the system's encoding, and the diagnostic log.
 #include "platform/Log.h"
 
+#include "platform/TerminalText.h"
+
 #include "platform/TextConverter.h"
 #include "platform/Utf8.h"
 
@@ -230,7 +232,7 @@ void diagnosticLine(std::string_view text)
         line.begin(), line.end(), [](unsigned char c) { return c < 0x20; }, ' ');
     const char *where = secure_getenv("BVCO_LOG");
     if (where && std::string_view(where) == "stderr")
-        std::fprintf(stderr, "bvco: %s\n", line.c_str());
+        std::fprintf(stderr, "bvco: %s\n", printableText(line).c_str());
     else
         syslog(LOG_USER | LOG_DEBUG, "bvco: %s", line.c_str());
 }

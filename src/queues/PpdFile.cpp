@@ -1,20 +1,21 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// Opens a PPD file and brings it into a uniform state for all later readers.
+// Reads a PPD file, and brings it into a uniform state for all later readers.
 #include "queues/PpdFile.h"
 
+#include "platform/FileDescriptor.h"
+#include "queues/InputFile.h"
 #include "queues/Locale.h"
 
 #include <QCoreApplication>
-#include <QFile>
-#include <QFileInfo>
 #include <QtEndian>
-#include <algorithm>
 #include <cerrno>
 #include <cups/cups.h>
 #include <cups/file.h>
-#include <cstdlib>
 #include <cstring>
-#include <optional>
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace bv {
 
@@ -25,15 +26,19 @@ QString tr(const char *text)
     return QCoreApplication::translate("PpdFile", text);
 }
 
+QString systemWords()
+{
+    return QString::fromLocal8Bit(std::strerror(errno));
+}
+
 // Whether a compressed file is cut off. libcups reports this as a normal end. A complete file ends with the length of
 // its text, or of its last member if it has several (RFC 1952, 2.3.1).
-bool endsEarly(const QString &path, qint64 length)
+bool endsEarly(int file, qint64 length)
 {
-    QFile file(path);
-    QByteArray last;
-    if (file.open(QIODevice::ReadOnly) && file.seek(std::max<qint64>(file.size() - 4, 0)))
-        last = file.read(4);
-    return last.size() < 4 || qFromLittleEndian<quint32>(last.constData()) > length;
+    struct stat about = {};
+    uchar last[4] = {};
+    return fstat(file, &about) != 0 || about.st_size < 4 || pread(file, last, sizeof last, about.st_size - 4) != 4 ||
+           qFromLittleEndian<quint32>(last) > length;
 }
 
 struct CloseCupsFile
@@ -41,12 +46,16 @@ struct CloseCupsFile
     void operator()(cups_file_t *file) const { cupsFileClose(file); }
 };
 
-// The text as libcups reads it, decompressed if necessary. Nothing when the file is damaged.
-std::optional<QByteArray> readText(const QString &path)
+// The text as libcups reads it, decompressed if necessary. A damaged file is a failure.
+Result<PpdText> readText(const FileDescriptor &source, const QString &name)
 {
-    const std::unique_ptr<cups_file_t, CloseCupsFile> file(cupsFileOpen(QFile::encodeName(path).constData(), "r"));
+    using Text = Result<PpdText>;
+    // libcups closes the descriptor that it is given.
+    FileDescriptor copy(fcntl(source.get(), F_DUPFD_CLOEXEC, 0));
+    const std::unique_ptr<cups_file_t, CloseCupsFile> file(copy ? cupsFileOpenFd(copy.get(), "r") : nullptr);
     if (!file)
-        return std::nullopt;
+        return Text::failure(tr("The PPD %1 cannot be read: %2.").arg(name, systemWords()));
+    copy.release();
     QByteArray text;
     char bytes[16384];
     for (;;) {
@@ -55,11 +64,23 @@ std::optional<QByteArray> readText(const QString &path)
         if (count <= 0)
             break;
         text.append(bytes, count);
+        if (text.size() > PpdText::kMost)
+            return Text::failure(PpdText::tooLarge(name));
     }
     // The read function returns the same value for the end and for an error. Only an error sets errno.
-    if (errno != 0 || (cupsFileCompression(file.get()) && endsEarly(path, text.size())))
-        return std::nullopt;
-    return text;
+    if (errno != 0 || (cupsFileCompression(file.get()) && endsEarly(source.get(), text.size())))
+        return Text::failure(tr("The PPD %1 is damaged or cut off.").arg(name));
+    return PpdText{text, name};
+}
+
+// A file without a name that holds the bytes. No temporary folder is needed for it.
+FileDescriptor fileInMemory(const QByteArray &bytes)
+{
+    FileDescriptor file(memfd_create("ppd", MFD_CLOEXEC));
+    if (!file || !writeAll(file.get(), {bytes.constData(), size_t(bytes.size())}) ||
+        lseek(file.get(), 0, SEEK_SET) != 0)
+        return FileDescriptor();
+    return file;
 }
 
 // Names what is still open at the end of a truncated text; "" when nothing is. libcups would accept such a text as a
@@ -94,28 +115,48 @@ QString leftOpen(QByteArray text)
 
 } // namespace
 
-Result<PpdFile> PpdFile::open(const QString &path, const QString &name)
+QString PpdText::tooLarge(const QString &name)
+{
+    return tr("The PPD %1 is larger than %2.").arg(name, sizeInWords(kMost));
+}
+
+Result<PpdText> PpdText::read(const QString &path)
+{
+    const Result<FileDescriptor> file = openInputFile(path, tr("The PPD %1").arg(path), kMost);
+    return file ? readText(file.value(), path) : Result<PpdText>::failure(file.error());
+}
+
+Result<PpdText> PpdText::from(const QByteArray &bytes, const QString &name)
+{
+    const FileDescriptor file = fileInMemory(bytes);
+    return file ? readText(file, name)
+                : Result<PpdText>::failure(tr("The PPD %1 cannot be read: %2.").arg(name, systemWords()));
+}
+
+Result<PpdFile> PpdFile::open(const QString &path)
+{
+    const Result<PpdText> text = PpdText::read(path);
+    return text ? open(text.value()) : Result<PpdFile>::failure(text.error());
+}
+
+Result<PpdFile> PpdFile::open(const PpdText &text)
 {
     using Ppd = Result<PpdFile>;
-    const QString called = name.isEmpty() ? path : name;
-    // libcups would also open a folder, a device or a pipe, and could block.
-    if (const QFileInfo info(path); info.exists() && !info.isFile())
-        return Ppd::failure(tr("The PPD %1 is no file.").arg(called));
-    ppd_file_t *file = ppdOpenFile(QFile::encodeName(path).constData());
+    FileDescriptor memory = fileInMemory(text.text);
+    if (!memory)
+        return Ppd::failure(tr("The PPD %1 cannot be read: %2.").arg(text.name, systemWords()));
+    ppd_file_t *file = ppdOpenFd(memory.release()); // libcups closes it
     if (!file) {
         int line = 0;
         const ppd_status_t status = ppdLastError(&line);
         const QString reason = QString::fromUtf8(ppdErrorString(status));
         return Ppd::failure(status > PPD_ALLOC_ERROR && line > 0
-                                ? tr("The PPD %1 cannot be used: %2, line %3.").arg(called, reason).arg(line)
-                                : tr("The PPD %1 cannot be read: %2.").arg(called, reason));
+                                ? tr("The PPD %1 cannot be used: %2, line %3.").arg(text.name, reason).arg(line)
+                                : tr("The PPD %1 cannot be read: %2.").arg(text.name, reason));
     }
     PpdFile ppd(file);
-    const std::optional<QByteArray> text = readText(path);
-    if (!text)
-        return Ppd::failure(tr("The PPD %1 is damaged or cut off.").arg(called));
-    if (const QString open = leftOpen(*text); !open.isEmpty())
-        return Ppd::failure(tr("The PPD %1 is cut off: %2 is not closed.").arg(called, open));
+    if (const QString open = leftOpen(text.text); !open.isEmpty())
+        return Ppd::failure(tr("The PPD %1 is cut off: %2 is not closed.").arg(text.name, open));
     // libcups converts every text to UTF-8, but sets lang_encoding only if the file names its encoding. The PPD owns
     // the string and frees it with free(3).
     if (!file->lang_encoding)

@@ -1,20 +1,40 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// A PPD file opened with libcups, ready for a panel: texts in UTF-8, defaults marked, localised.
+// A PPD file: its text, and the file as libcups opens it, ready for a panel (texts in UTF-8, defaults marked,
+// localized).
 #pragma once
 
 #include "platform/Result.h"
 
+#include <QByteArray>
 #include <cups/ppd.h>
 #include <memory>
 
 namespace bv {
 
+// The text of a PPD that is neither too large nor cut off. Each panel gets a PpdFile of its own made of it.
+struct PpdText
+{
+    static constexpr qsizetype kMost = 8 * 1024 * 1024; // bytes; real ones have some hundred thousand
+
+    QByteArray text;
+    QString name; // for sentences: the path, or another name that people know
+
+    // Reads a regular file, decompressed if necessary. The sentence of a failure contains the path.
+    static Result<PpdText> read(const QString &path);
+    // The same for bytes from elsewhere.
+    static Result<PpdText> from(const QByteArray &bytes, const QString &name);
+    // The sentence for a PPD above the limit.
+    static QString tooLarge(const QString &name);
+};
+
 class PpdFile
 {
 public:
-    // Opens a file. The sentence of a failure contains `name`, or the path if `name` is empty, and the line if libcups
-    // reports one. The PPD's texts are localised for the locale of messages, unless that is "C", "POSIX" or "C.UTF-8".
-    static Result<PpdFile> open(const QString &path, const QString &name = QString());
+    // The sentence of a failure contains the PPD's name, and the line if libcups reports one. The PPD's texts are
+    // localized for the locale of messages, unless that is "C", "POSIX" or "C.UTF-8".
+    static Result<PpdFile> open(const PpdText &text);
+    // Opens a file.
+    static Result<PpdFile> open(const QString &path);
 
     // Owned by this object; never null.
     ppd_file_t *handle() const { return m_file.get(); }

@@ -1,49 +1,105 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// The print server through libcups (cupsGetDests2, cupsGetPPD3, httpConnect2).
+// Asks the print server by IPP (CUPS-Get-Printers, Get-Printer-Attributes) and fetches PPD files by HTTP.
 #include "queues/PrintServer.h"
 
+#include "queues/DefaultQueue.h"
+
 #include <QCoreApplication>
-#include <unistd.h>
+#include <algorithm>
+#include <array>
+#include <string_view>
 
 namespace bv {
 
 namespace {
+
+using Queues = Result<std::vector<PrintQueue>>;
 
 QString tr(const char *text)
 {
     return QCoreApplication::translate("PrintServer", text);
 }
 
-// The list from cupsGetDests2, freed with this object.
-struct Destinations
+QString text(ipp_attribute_t *attribute)
 {
-    cups_dest_t *first = nullptr;
-    int count = 0;
-
-    Destinations() = default;
-    Destinations(const Destinations &) = delete;
-    Destinations &operator=(const Destinations &) = delete;
-    ~Destinations() { cupsFreeDests(count, first); }
-};
-
-QString option(const cups_dest_t &destination, const char *name)
-{
-    return QString::fromUtf8(cupsGetOption(name, destination.num_options, destination.options));
+    const char *words = ippGetString(attribute, 0, nullptr);
+    return QString::fromUtf8(words ? words : "");
 }
 
-PrintQueue queueOf(const cups_dest_t &destination)
+// An attribute of a queue that is asked for, and where its value goes.
+struct QueueAttribute
 {
+    const char *name;
+    ipp_tag_t tag; // of the value; a text may also carry a language
+    void (*take)(PrintQueue &queue, ipp_attribute_t *value);
+};
+
+// clang-format off
+constexpr std::array<QueueAttribute, 7> kAttributes = {{
+    {"printer-name",              IPP_TAG_NAME,    [](PrintQueue &queue, ipp_attribute_t *value) { queue.name = text(value); }},
+    {"printer-info",              IPP_TAG_TEXT,    [](PrintQueue &queue, ipp_attribute_t *value) { queue.description = text(value); }},
+    {"printer-location",          IPP_TAG_TEXT,    [](PrintQueue &queue, ipp_attribute_t *value) { queue.location = text(value); }},
+    {"device-uri",                IPP_TAG_URI,     [](PrintQueue &queue, ipp_attribute_t *value) { queue.deviceUri = text(value); }},
+    {"printer-state",             IPP_TAG_ENUM,    [](PrintQueue &queue, ipp_attribute_t *value) { queue.isStopped = ippGetInteger(value, 0) == IPP_PSTATE_STOPPED; }},
+    {"printer-is-accepting-jobs", IPP_TAG_BOOLEAN, [](PrintQueue &queue, ipp_attribute_t *value) { queue.acceptsJobs = ippGetBoolean(value, 0) != 0; }},
+    {"printer-state-message",     IPP_TAG_TEXT,    [](PrintQueue &queue, ipp_attribute_t *value) { queue.stateMessage = text(value); }},
+}};
+// clang-format on
+
+ipp_tag_t plainTag(ipp_attribute_t *attribute)
+{
+    const ipp_tag_t tag = ippGetValueTag(attribute);
+    return tag == IPP_TAG_TEXTLANG ? IPP_TAG_TEXT : tag == IPP_TAG_NAMELANG ? IPP_TAG_NAME : tag;
+}
+
+// The queues of an answer. Each has a group of attributes.
+std::vector<PrintQueue> queuesOf(ipp_t *message)
+{
+    std::vector<PrintQueue> queues;
     PrintQueue queue;
-    queue.name = QString::fromUtf8(destination.name);
-    queue.description = option(destination, "printer-info");
-    queue.location = option(destination, "printer-location");
-    if (const QString uri = option(destination, "device-uri"); !uri.isEmpty())
-        queue.deviceUri = uri;
-    queue.isDefault = destination.is_default != 0;
-    queue.isStopped = option(destination, "printer-state").toInt() == IPP_PSTATE_STOPPED;
-    queue.acceptsJobs = option(destination, "printer-is-accepting-jobs") != u"false";
-    queue.stateMessage = option(destination, "printer-state-message");
-    return queue;
+    const auto endQueue = [&] {
+        if (!queue.name.isEmpty())
+            queues.push_back(std::move(queue));
+        queue = PrintQueue();
+    };
+    for (ipp_attribute_t *one = ippFirstAttribute(message); one; one = ippNextAttribute(message)) {
+        const char *name = ippGetName(one);
+        if (ippGetGroupTag(one) != IPP_TAG_PRINTER || !name) {
+            endQueue();
+            continue;
+        }
+        for (const QueueAttribute &row : kAttributes)
+            if (row.tag == plainTag(one) && std::string_view(row.name) == name)
+                row.take(queue, one);
+    }
+    endQueue();
+    return queues;
+}
+
+Queues listQueues(ServerConnection &server)
+{
+    const IppMessage request(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS));
+    std::array<const char *, kAttributes.size()> names;
+    std::transform(kAttributes.begin(), kAttributes.end(), names.begin(), [](const auto &row) { return row.name; });
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", int(names.size()), nullptr,
+                  names.data());
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+    const ServerAnswer answer = server.ask(request);
+    if (!answer.message)
+        return Queues::failure(answer.problem);
+    // A server without any queue says "not found".
+    if (answer.isRefusal() && answer.status() != IPP_STATUS_ERROR_NOT_FOUND)
+        return Queues::failure(tr("The print server does not tell its queues: %1.").arg(answer.words()));
+    return queuesOf(answer.message.get());
+}
+
+// The first printer of a class; empty when the queue is no class.
+QString firstMember(ServerConnection &server, const QString &queue)
+{
+    const IppMessage request = queueRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr, "member-names");
+    const ServerAnswer answer = server.ask(request);
+    return answer.isGood() ? text(ippFindAttribute(answer.message.get(), "member-names", IPP_TAG_NAME)) : QString();
 }
 
 } // namespace
@@ -53,40 +109,27 @@ QString queueTitle(const PrintQueue &queue)
     return queue.description.isEmpty() ? queue.name : queue.description;
 }
 
-Result<HttpConnection> PrintServer::connect()
+Queues PrintServer::queues(CallControl &control)
 {
-    http_t *http =
-        httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, kConnectMilliseconds, nullptr);
-    if (!http)
-        return Result<HttpConnection>::failure(
-            tr("The print server %1 does not answer; check that it is running.").arg(QString::fromUtf8(cupsServer())));
-    return HttpConnection(http);
-}
-
-Result<std::vector<PrintQueue>> PrintServer::queues()
-{
-    using Queues = Result<std::vector<PrintQueue>>;
-    Result<HttpConnection> http = connect();
-    if (!http)
-        return Queues::failure(http.error());
-    Destinations found;
-    found.count = cupsGetDests2(http.value().get(), &found.first);
-    std::vector<PrintQueue> queues;
-    for (int i = 0; i < found.count; ++i) {
-        // An instance is a set of the user's options for a queue, not a queue.
-        if (!found.first[i].instance)
-            queues.push_back(queueOf(found.first[i]));
-        else if (found.first[i].is_default)
-            for (PrintQueue &queue : queues)
-                queue.isDefault = queue.isDefault || queue.name == QString::fromUtf8(found.first[i].name);
-    }
+    Result<ServerConnection> server = ServerConnection::open(control);
+    if (!server)
+        return Queues::failure(server.error());
+    Queues queues = listQueues(server.value());
+    if (!queues)
+        return queues;
+    QStringList names;
+    for (const PrintQueue &queue : queues.value())
+        names << queue.name;
+    const QString chosen = defaultQueue(server.value(), names);
+    for (PrintQueue &queue : queues.value())
+        queue.isDefault = queue.name == chosen;
     return queues;
 }
 
-Result<PrintQueue> PrintServer::queue(const QString &name)
+Result<PrintQueue> PrintServer::queue(const QString &name, CallControl &control)
 {
     using Queue = Result<PrintQueue>;
-    Result<std::vector<PrintQueue>> all = queues();
+    Queues all = queues(control);
     if (!all)
         return Queue::failure(all.error());
     for (PrintQueue &queue : all.value())
@@ -96,29 +139,37 @@ Result<PrintQueue> PrintServer::queue(const QString &name)
                                          : tr("The print server has no queue %1.").arg(name));
 }
 
-Result<PpdFile> PrintServer::ppd(const QString &queue)
+Result<PpdText> PrintServer::ppd(const QString &queue, CallControl &control)
 {
-    using Ppd = Result<PpdFile>;
-    Result<HttpConnection> http = connect();
-    if (!http)
-        return Ppd::failure(http.error());
-    time_t modified = 0;
-    char path[1024] = "";
-    const http_status_t status =
-        cupsGetPPD3(http.value().get(), queue.toUtf8().constData(), &modified, path, sizeof path);
-    if (status != HTTP_STATUS_OK) {
-        // Even a refused request may leave an empty temporary file.
-        if (*path)
-            unlink(path);
-        return Ppd::failure(status == HTTP_STATUS_NOT_FOUND
-                                ? tr("The queue %1 has no PPD.").arg(queue)
-                                : tr("The PPD of the queue %1 cannot be had: %2.")
-                                      .arg(queue, QString::fromUtf8(cupsLastErrorString())));
+    using Ppd = Result<PpdText>;
+    using Outcome = ServerConnection::Download::Outcome;
+    Result<ServerConnection> server = ServerConnection::open(control);
+    if (!server)
+        return Ppd::failure(server.error());
+    const auto fetch = [&](const QString &name) {
+        return server.value().download("/printers/" + name.toUtf8() + ".ppd", PpdText::kMost);
+    };
+    ServerConnection::Download file = fetch(queue);
+    if (file.outcome == Outcome::Missing) {
+        // After an answer with an error the connection is not used any more.
+        server = ServerConnection::open(control);
+        const QString member = server ? firstMember(server.value(), queue) : QString();
+        if (!member.isEmpty())
+            file = fetch(member);
     }
-    // People know the queue, not the temporary file.
-    Result<PpdFile> ppd = PpdFile::open(QString::fromUtf8(path), tr("of the queue %1").arg(queue));
-    unlink(path);
-    return ppd;
+    // People know the queue, not the file.
+    const QString called = tr("of the queue %1").arg(queue);
+    switch (file.outcome) {
+    case Outcome::Had:
+        return PpdText::from(file.bytes, called);
+    case Outcome::Missing:
+        return Ppd::failure(tr("The queue %1 has no PPD.").arg(queue));
+    case Outcome::TooLarge:
+        return Ppd::failure(PpdText::tooLarge(called));
+    case Outcome::Failed:
+        break;
+    }
+    return Ppd::failure(tr("The PPD %1 cannot be had: %2").arg(called, file.problem));
 }
 
 } // namespace bv

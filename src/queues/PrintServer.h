@@ -1,20 +1,14 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// The print server as libcups reaches it: its queues, their PPD files, and the connection that jobs are sent over.
+// What the print server knows: its queues and their PPD files.
 #pragma once
 
 #include "queues/PpdFile.h"
+#include "queues/ServerConnection.h"
 
-#include <cups/cups.h>
 #include <optional>
 #include <vector>
 
 namespace bv {
-
-struct HttpClose
-{
-    void operator()(http_t *http) const { httpClose(http); }
-};
-using HttpConnection = std::unique_ptr<http_t, HttpClose>;
 
 // A queue as the print server lists it.
 struct PrintQueue
@@ -32,20 +26,18 @@ struct PrintQueue
 // The queue's title on screen: its description, or its name if it has none.
 QString queueTitle(const PrintQueue &queue);
 
-// Every call opens its own connection and may block. Connecting takes at most kConnectMilliseconds. The server is the
-// one that libcups names (CUPS_SERVER, client.conf).
+// Every call opens its own connection and may take as long as its control allows. Thread-safe. The server is the one
+// that libcups names (CUPS_SERVER, client.conf). A server that does not answer is a failure with a sentence of its own,
+// never an empty list.
 class PrintServer
 {
 public:
-    static constexpr int kConnectMilliseconds = 5000;
-
-    static Result<HttpConnection> connect();
     // All queues, in the server's order; classes are queues as well.
-    static Result<std::vector<PrintQueue>> queues();
+    static Result<std::vector<PrintQueue>> queues(CallControl &control);
     // The queue of that name, or the default one when the name is empty.
-    static Result<PrintQueue> queue(const QString &name);
-    // The PPD file of a queue; a queue without one is a failure.
-    static Result<PpdFile> ppd(const QString &queue);
+    static Result<PrintQueue> queue(const QString &name, CallControl &control);
+    // The PPD file of a queue, for a class that of its first member; a queue without one is a failure.
+    static Result<PpdText> ppd(const QString &queue, CallControl &control);
 };
 
 } // namespace bv

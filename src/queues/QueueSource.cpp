@@ -9,8 +9,11 @@ namespace {
 class ServerSource final : public QueueSource
 {
 public:
-    Result<std::vector<PrintQueue>> queues() override { return PrintServer::queues(); }
-    Result<PpdFile> ppd(const QString &queue) const override { return PrintServer::ppd(queue); }
+    Result<std::vector<PrintQueue>> queues(CallControl &control) const override { return PrintServer::queues(control); }
+    Result<PpdText> ppd(const QString &queue, CallControl &control) const override
+    {
+        return PrintServer::ppd(queue, control);
+    }
 };
 
 class PpdSource final : public QueueSource
@@ -26,8 +29,8 @@ public:
         m_queue.location = location;
     }
 
-    Result<std::vector<PrintQueue>> queues() override { return std::vector<PrintQueue>{m_queue}; }
-    Result<PpdFile> ppd(const QString &) const override { return PpdFile::open(m_path); }
+    Result<std::vector<PrintQueue>> queues(CallControl &) const override { return std::vector<PrintQueue>{m_queue}; }
+    Result<PpdText> ppd(const QString &, CallControl &) const override { return PpdText::read(m_path); }
     bool hasPrinter() const override { return m_hasPrinter; }
 
 private:
@@ -38,17 +41,17 @@ private:
 
 } // namespace
 
-std::unique_ptr<QueueSource> makeServerSource()
+std::shared_ptr<const QueueSource> makeServerSource()
 {
-    return std::make_unique<ServerSource>();
+    return std::make_shared<ServerSource>();
 }
 
-Result<std::unique_ptr<QueueSource>> makePpdSource(const SessionRequest &request, const QString &location)
+Result<std::shared_ptr<const QueueSource>> makePpdSource(const SessionRequest &request, const QString &location)
 {
-    using Made = Result<std::unique_ptr<QueueSource>>;
+    using Made = Result<std::shared_ptr<const QueueSource>>;
     if (const Result<PpdFile> ppd = PpdFile::open(request.ppd); !ppd)
         return Made::failure(ppd.error());
-    return Made(std::make_unique<PpdSource>(request, location));
+    return Made(std::make_shared<PpdSource>(request, location));
 }
 
 } // namespace bv

@@ -10,25 +10,26 @@
 
 namespace bv {
 
+// Shared with background threads, which may outlive the window.
 class QueueSource
 {
 public:
     virtual ~QueueSource() = default;
 
-    // The queues to choose from. May wait for the network.
-    virtual Result<std::vector<PrintQueue>> queues() = 0;
-    // A queue's PPD. Each call opens it again and may wait for the network. Must be thread-safe: a background thread
-    // that examines all queues calls it as well.
-    virtual Result<PpdFile> ppd(const QString &queue) const = 0;
+    // Both may take as long as the control allows, and are called on background threads, several at a time.
+    // The queues to choose from.
+    virtual Result<std::vector<PrintQueue>> queues(CallControl &control) const = 0;
+    // The PPD of a queue, read anew by each call.
+    virtual Result<PpdText> ppd(const QString &queue, CallControl &control) const = 0;
     // False: sessions have no current printer.
     virtual bool hasPrinter() const { return true; }
 };
 
 // The print server that libcups names.
-std::unique_ptr<QueueSource> makeServerSource();
+std::shared_ptr<const QueueSource> makeServerSource();
 
 // The single queue that a PPD file describes. `location` is its place as shown to people. The sentence of a failure
 // says why the PPD cannot be used.
-Result<std::unique_ptr<QueueSource>> makePpdSource(const SessionRequest &request, const QString &location);
+Result<std::shared_ptr<const QueueSource>> makePpdSource(const SessionRequest &request, const QString &location);
 
 } // namespace bv

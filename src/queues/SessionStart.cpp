@@ -2,6 +2,7 @@
 // From a request to a session.
 #include "queues/SessionStart.h"
 
+#include "queues/BackgroundCall.h"
 #include "queues/PrintServer.h"
 #include "queues/TicketJson.h"
 
@@ -22,15 +23,37 @@ Session sessionWithoutServer(const SessionRequest &request)
     return std::make_unique<QueueSession>(std::move(identity), std::move(ppd.value()));
 }
 
+// A queue and its PPD, as the print server tells them.
+struct FoundQueue
+{
+    PrintQueue queue;
+    PpdText ppd;
+};
+
+Result<FoundQueue> findQueue(const QString &name, CallControl &control)
+{
+    using Found = Result<FoundQueue>;
+    Result<PrintQueue> queue = PrintServer::queue(name, control);
+    if (!queue)
+        return Found::failure(queue.error());
+    Result<PpdText> ppd = PrintServer::ppd(queue.value().name, control);
+    if (!ppd)
+        return Found::failure(ppd.error());
+    return FoundQueue{std::move(queue.value()), std::move(ppd.value())};
+}
+
 Session sessionOfQueue(const SessionRequest &request)
 {
-    Result<PrintQueue> queue = PrintServer::queue(request.queue);
-    if (!queue)
-        return Session::failure(queue.error());
-    Result<PpdFile> ppd = PrintServer::ppd(queue.value().name);
+    using Found = Result<FoundQueue>;
+    const Found found =
+        callWithLimit<Found>([name = request.queue](CallControl &control) { return findQueue(name, control); },
+                             Found::failure(noAnswerSentence()));
+    if (!found)
+        return Session::failure(found.error());
+    Result<PpdFile> ppd = PpdFile::open(found.value().ppd);
     if (!ppd)
         return Session::failure(ppd.error());
-    QueueIdentity identity{queue.value().name, queue.value().deviceUri, true};
+    QueueIdentity identity{found.value().queue.name, found.value().queue.deviceUri, true};
     if (!request.deviceUri.isEmpty())
         identity.deviceUri = request.deviceUri;
     return std::make_unique<QueueSession>(std::move(identity), std::move(ppd.value()));

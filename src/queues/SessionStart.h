@@ -7,7 +7,8 @@
 
 namespace bv {
 
-// If the request names a PPD file, no print server is contacted. The sentence of a failure says what to do about it.
+// If the request names a PPD file, no print server is contacted; else this waits for one, up to
+// CallControl::kUsualLimit. The sentence of a failure says what to do about it.
 Result<std::unique_ptr<QueueSession>> startSession(const SessionRequest &request);
 
 } // namespace bv

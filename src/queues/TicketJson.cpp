@@ -2,13 +2,16 @@
 // Reading and writing tickets as JSON.
 #include "queues/TicketJson.h"
 
-#include <QFile>
+#include "queues/InputFile.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 
 namespace bv {
 
 namespace {
+
+constexpr qint64 kLargestTicket = 1024 * 1024; // bytes; real ones have some thousand
 
 // The converted value. On failure none, with a sentence in *error; `where` is the place it names.
 PrintValue fromJson(const QJsonValue &value, const QString &where, QString *error);
@@ -87,11 +90,10 @@ Result<PrintDictionary> ticketFromJson(const QByteArray &json)
 
 Result<PrintDictionary> ticketFromFile(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return Result<PrintDictionary>::failure(
-            QStringLiteral("The ticket %1 cannot be read: %2.").arg(path, file.errorString()));
-    Result<PrintDictionary> ticket = ticketFromJson(file.readAll());
+    const Result<QByteArray> json = readInputFile(path, QStringLiteral("The ticket %1").arg(path), kLargestTicket);
+    if (!json)
+        return Result<PrintDictionary>::failure(json.error());
+    Result<PrintDictionary> ticket = ticketFromJson(json.value());
     if (!ticket)
         return Result<PrintDictionary>::failure(
             QStringLiteral("The ticket %1 cannot be used: %2").arg(path, ticket.error()));

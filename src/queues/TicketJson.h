@@ -14,7 +14,7 @@ namespace bv {
 // ticket value and is refused at any place.
 Result<PrintDictionary> ticketFromJson(const QByteArray &json);
 
-// Reads a ticket from a JSON file.
+// Reads a ticket from a regular JSON file of at most 1 MB.
 Result<PrintDictionary> ticketFromFile(const QString &path);
 
 QJsonValue toJson(const PrintValue &value);

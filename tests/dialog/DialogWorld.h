@@ -12,6 +12,8 @@
 #include <QSemaphore>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QThread>
+#include <atomic>
 #include <gtest/gtest.h>
 
 namespace bvtest {
@@ -55,34 +57,39 @@ inline QByteArray plainPpd()
 class RecordingSink final : public bv::JobSink
 {
 public:
-    bv::Result<std::optional<int>> submit(const bv::JobRequest &request) override
+    bv::Result<bv::SentJob> submit(const bv::JobRequest &request, bv::CallControl &control) const override
     {
-        if (!refusal.isEmpty())
-            return bv::Result<std::optional<int>>::failure(refusal);
+        while (isSlow && !control.isCancelled())
+            QThread::msleep(1);
+        if (control.isCancelled() || !refusal.isEmpty())
+            return bv::Result<bv::SentJob>::failure(control.isCancelled() ? QStringLiteral("Stopped.") : refusal);
         jobs.push_back(request);
-        return std::optional<int>(int(jobs.size()));
+        return bv::SentJob{int(jobs.size()), QString()};
     }
 
     QString refusal;
-    std::vector<bv::JobRequest> jobs;
+    std::atomic<bool> isSlow = false; // a job ends only when it is canceled
+    mutable std::vector<bv::JobRequest> jobs;
 };
 
 // Queues by name, with the path of each PPD file. An empty path means that the queue has no PPD.
 class FakeSource final : public bv::QueueSource
 {
 public:
-    bv::Result<std::vector<bv::PrintQueue>> queues() override
+    bv::Result<std::vector<bv::PrintQueue>> queues(bv::CallControl &control) const override
     {
+        while (isSilent && !control.isCancelled())
+            QThread::msleep(1);
         if (!failure.isEmpty())
             return bv::Result<std::vector<bv::PrintQueue>>::failure(failure);
         return listed;
     }
-    bv::Result<bv::PpdFile> ppd(const QString &queue) const override
+    bv::Result<bv::PpdText> ppd(const QString &queue, bv::CallControl &) const override
     {
         asked.release();
         const QString path = ppdPaths.value(queue);
-        return path.isEmpty() ? bv::Result<bv::PpdFile>::failure(QStringLiteral("“%1” has no driver file.").arg(queue))
-                              : bv::PpdFile::open(path);
+        return path.isEmpty() ? bv::Result<bv::PpdText>::failure(QStringLiteral("“%1” has no driver file.").arg(queue))
+                              : bv::PpdText::read(path);
     }
 
     void add(const QString &name, const QString &ppdPath)
@@ -95,6 +102,7 @@ public:
     }
 
     QString failure;
+    std::atomic<bool> isSilent = false; // no answer until the call is canceled
     std::vector<bv::PrintQueue> listed;
     QMap<QString, QString> ppdPaths;
     mutable QSemaphore asked; // released once for each requested PPD
@@ -134,7 +142,7 @@ protected:
 
     void make(bv::PrintDialogStart start)
     {
-        dialog = std::make_unique<bv::PrintDialog>(source, sink, *loader, *remembered, std::move(start));
+        dialog = std::make_unique<bv::PrintDialog>(sharedSource, sharedSink, *loader, *remembered, std::move(start));
     }
 
     // Opens the dialog and waits until the chosen queue is shown.
@@ -156,8 +164,10 @@ protected:
 
     QTemporaryDir folder;
     QString document;
-    FakeSource source;
-    RecordingSink sink;
+    std::shared_ptr<FakeSource> sharedSource = std::make_shared<FakeSource>();
+    std::shared_ptr<RecordingSink> sharedSink = std::make_shared<RecordingSink>();
+    FakeSource &source = *sharedSource;
+    RecordingSink &sink = *sharedSink;
     std::unique_ptr<bv::RememberedTickets> remembered;
     std::unique_ptr<bv::PanelLoader> loader;
     std::unique_ptr<bv::PrintDialog> dialog;

@@ -107,7 +107,7 @@ TEST_F(DialogParts, AcceptsOnlyLocalFilesFromADrop)
 
 TEST_F(DialogParts, SurveyTheQueuesOnlyAfterStart)
 {
-    PaneSurvey survey(source, {"Plain", "Second", "Bare"}, {"TPStamp", "TPToner"});
+    PaneSurvey survey(sharedSource, {"Plain", "Second", "Bare"}, {"TPStamp", "TPToner"});
     EXPECT_FALSE(source.asked.tryAcquire(1, 50));
     QSignalSpy found(&survey, &PaneSurvey::withoutPane);
     survey.start();
@@ -119,7 +119,7 @@ TEST_F(DialogParts, SurveyTheQueuesOnlyAfterStart)
 
 TEST_F(DialogParts, ShowTheTicketsChoicesAndDefaultsForUnknownOnes)
 {
-    Result<PpdFile> ppd = source.ppd("Paper");
+    Result<PpdFile> ppd = PpdFile::open(source.ppdPaths["Paper"]);
     ASSERT_TRUE(ppd);
     PpdOptionRows rows(ppd.value().handle());
     EXPECT_EQ(rows.keywords(), (QStringList{"PageSize", "Duplex"}));

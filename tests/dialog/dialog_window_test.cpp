@@ -102,15 +102,17 @@ TEST_F(Dialog, SendsWhatItShows)
 {
     const QString second = write("b.txt", "text");
     open({"Second", std::nullopt, {document, second}});
+    ASSERT_TRUE(print());
+    EXPECT_EQ(sink.jobs.at(0).documents, (QStringList{document, second}));
+    open({"Second", std::nullopt, {document}});
     QTest::keyClick(toner(), Qt::Key_Down);
     find<QComboBox>("row_Duplex")->setCurrentIndex(1);
     find<QSpinBox>("copies")->setValue(3);
     QTest::keyClicks(find<QLineEdit>("pageRange"), "2, 1");
     ASSERT_TRUE(print());
-    ASSERT_EQ(sink.jobs.size(), 1U);
-    const JobRequest &job = sink.jobs[0];
+    ASSERT_EQ(sink.jobs.size(), 2U);
+    const JobRequest &job = sink.jobs[1];
     EXPECT_EQ(job.queue, "Second");
-    EXPECT_EQ(job.documents, (QStringList{document, second}));
     for (const auto &[key, value] : JobOptions{{"TPToner", "Save"},
                                                {"TPSheets", "1"},
                                                {"PageSize", "A4"},
@@ -336,18 +338,59 @@ TEST_F(Dialog, EnterPrintsAndEscapeCancels)
     EXPECT_EQ(dialog->result(), QDialog::Rejected);
 }
 
-TEST_F(Dialog, AJobBeingSentCannotBeStoppedOrChanged)
+TEST_F(Dialog, WhileAJobIsSentOnlyCancelWorks)
 {
     open();
+    sink.isSlow = true;
     QSignalSpy printed(dialog.get(), &PrintDialog::printed);
     auto *printers = find<QComboBox>("printer");
     find<QPushButton>("print")->click();
-    QTest::keyClick(dialog.get(), Qt::Key_Escape);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return find<QPushButton>("cancelJob")->isVisible(); }));
+    QTest::mouseClick(find<QPushButton>("print"), Qt::LeftButton);
+    QTest::keyClick(find<QSpinBox>("copies"), Qt::Key_Up);
+    QTest::keyClick(find<QSpinBox>("copies"), Qt::Key_Return);
     printers->setCurrentIndex(printers->findData("Second"));
-    EXPECT_TRUE(dialog->isVisible());
     EXPECT_EQ(printers->currentData().toString(), "Paper");
-    ASSERT_TRUE(printed.wait());
-    EXPECT_EQ(sink.jobs.at(0).queue, "Paper");
+    EXPECT_EQ(find<QSpinBox>("copies")->value(), 1);
+    // The job is stopped, and everything can be used again.
+    QTest::mouseClick(find<QPushButton>("cancelJob"), Qt::LeftButton);
+    EXPECT_EQ(dialog->printReason(), QString());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog->messageText().contains(u"…"); }));
+    QTest::keyClick(find<QSpinBox>("copies"), Qt::Key_Up);
+    EXPECT_EQ(find<QSpinBox>("copies")->value(), 2);
+    EXPECT_TRUE(dialog->isVisible());
+    // Esc ends the job and the dialog.
+    find<QPushButton>("print")->click();
+    QTest::keyClick(find<QSpinBox>("copies"), Qt::Key_Escape);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(printed.count(), 0);
+    EXPECT_TRUE(sink.jobs.empty());
+}
+
+TEST_F(Dialog, ARangeMustFitOneDocument)
+{
+    const QString second = write("b.pdf", "%PDF-1.4");
+    open({QString(), std::nullopt, {document, second}});
+    QTest::keyClicks(find<QLineEdit>("pageRange"), "1");
+    EXPECT_TRUE(dialog->printReason().contains("one document")) << qPrintable(dialog->printReason());
+    open({QString(), std::nullopt, {document}, [](const QString &) { return 4; }});
+    QTest::keyClicks(find<QLineEdit>("pageRange"), "2-5");
+    EXPECT_FALSE(print());
+    EXPECT_EQ(dialog->messageText(), "letter.pdf has 4 pages; there is no page 5.");
+    find<QLineEdit>("pageRange")->setText("2-4");
+    EXPECT_TRUE(print());
+}
+
+TEST_F(Dialog, CancelEndsItWhileThePrintServerIsSilent)
+{
+    source.isSilent = true;
+    make({QString(), std::nullopt, {document}});
+    dialog->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
+    EXPECT_TRUE(find<QWidget>("waitIndicator")->isVisible());
+    EXPECT_TRUE(dialog->isWaiting());
+    find<QPushButton>("cancel")->click();
+    EXPECT_FALSE(dialog->isVisible());
 }
 
 TEST_F(Dialog, CallsThePanelInOrderAndDeletesItBeforeThePlugIn)

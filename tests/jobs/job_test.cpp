@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // From tickets to jobs: the options of a job, page ranges, and the sink that stores jobs in a folder.
+#include "jobs/DocumentArguments.h"
 #include "jobs/FolderSink.h"
 #include "jobs/PageRange.h"
 #include "jobs/PrintJob.h"
@@ -79,10 +80,13 @@ TEST(FolderSink, StoresOptionsAndDocumentsWithEqualNames)
     }
     bv::FolderSink sink(folder.filePath("jobs"));
     const bv::JobRequest request{"Q", "t", {folder.filePath("a.txt"), folder.filePath("x/a.txt")}, {{"k", "a b"}}};
-    ASSERT_TRUE(sink.submit(request));
-    const auto second = sink.submit(request);
+    bv::CallControl control;
+    ASSERT_TRUE(sink.submit(request, control));
+    const auto second = sink.submit(request, control);
     ASSERT_TRUE(second);
-    EXPECT_EQ(second.value(), 2);
+    EXPECT_EQ(second.value().id, 2);
+    EXPECT_THAT(second.value().note.toStdString(), ::testing::HasSubstr("job-2"));
+    EXPECT_EQ(control.done(), 2 * control.sum());
     const QDir job(folder.filePath("jobs/job-1"));
     QFile options(job.filePath("options.json"));
     QFile copy(job.filePath("2-a.txt"));
@@ -92,6 +96,49 @@ TEST(FolderSink, StoresOptionsAndDocumentsWithEqualNames)
     qputenv("BVPRINT_OUTPUT", "/var/jobs");
     EXPECT_EQ(bv::demoOutputFolder(), "/var/jobs");
     qunsetenv("BVPRINT_OUTPUT");
+}
+
+TEST(FolderSink, LeavesNoFolderOfAJobThatFailed)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("a.txt"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("text") == 4);
+    file.close();
+    QFile(folder.filePath("empty")).open(QIODevice::WriteOnly);
+    const bv::FolderSink sink(folder.filePath("jobs"));
+    for (const char *bad : {"missing.txt", "empty", "jobs"}) {
+        bv::CallControl control;
+        EXPECT_FALSE(sink.submit({"Q", "t", {folder.filePath("a.txt"), folder.filePath(bad)}, {}}, control)) << bad;
+    }
+    bv::CallControl canceled;
+    canceled.cancel();
+    EXPECT_FALSE(sink.submit({"Q", "t", {folder.filePath("a.txt")}, {}}, canceled));
+    EXPECT_EQ(QDir(folder.filePath("jobs")).entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList());
+}
+
+TEST(Documents, AreNamedByPathsAndFileUrls)
+{
+    bv::DocumentArguments arguments(false);
+    const auto paths = arguments.paths({"a b.txt", "file:///tmp/a%20b.txt", "FILE://localhost/x%25y"});
+    ASSERT_TRUE(paths);
+    EXPECT_EQ(paths.value(), (QStringList{"a b.txt", "/tmp/a b.txt", "/x%y"}));
+    for (const char *refused : {"-", "file://elsewhere/a", "file://"})
+        EXPECT_FALSE(arguments.paths({refused})) << refused;
+}
+
+TEST(PageRanges, AreCheckedAgainstThePages)
+{
+    const auto four = [](const QString &) { return std::optional<int>(4); };
+    const std::pair<const char *, const char *> rows[] = {
+        {"1-4", ""}, {"2-", ""}, {"5-", "page 5"}, {"1,3-9", "page 9"}, {"", ""}};
+    for (const auto &[range, words] : rows) {
+        const JobOptions options = *range ? JobOptions{{"page-ranges", range}} : JobOptions();
+        const std::string said = bv::checkRange(options, {"/x/s.pdf"}, four).toStdString();
+        EXPECT_EQ(said.empty(), *words == '\0') << range;
+        EXPECT_THAT(said, ::testing::HasSubstr(words));
+        EXPECT_EQ(bv::checkRange(options, {"/x/s.pdf"}, {}), QString()) << "no count is known";
+        EXPECT_EQ(bv::checkRange(options, {"a", "b"}, four).isEmpty(), options.empty());
+    }
 }
 
 // Each text with the resulting option; an empty option means that the text is refused.

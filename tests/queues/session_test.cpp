@@ -28,7 +28,8 @@ TEST(WithoutAServer, TheQueueIsWhatTheRequestSays)
         const auto source = bv::makePpdSource(request, QString());
         ASSERT_TRUE(session && source);
         EXPECT_EQ(source.value()->hasPrinter(), !request.noPrinter);
-        const bv::PrintQueue listed = source.value()->queues().value().at(0);
+        bv::CallControl control;
+        const bv::PrintQueue listed = source.value()->queues(control).value().at(0);
         EXPECT_EQ(listed.name, name);
         EXPECT_EQ(listed.deviceUri, uri);
         const bv::Printer *printer = session.value()->currentPrinter();

@@ -134,12 +134,13 @@ TEST_F(Printing, SeveralDocumentsAreOneJobAndOneRefusalCancelsIt)
     const QString second = write("2.txt", "second\n");
     const QString picture = write("3.png", QByteArray::fromHex("89504e470d0a1a0a0000000d4948445200000001"));
     bv::PrintServerSink sink;
-    const auto refused = sink.submit({"QL70", "title", {first, picture, second}, {}});
+    bv::CallControl control;
+    const auto refused = sink.submit({"QL70", "title", {first, picture, second}, {}}, control);
     ASSERT_FALSE(refused);
     EXPECT_THAT(refused.error().toStdString(), HasSubstr("3.png"));
-    const auto job = sink.submit({"QL70", "title", {first, second}, {{"k", "v"}}});
+    const auto job = sink.submit({"QL70", "title", {first, second}, {{"k", "v"}}}, control);
     ASSERT_TRUE(job) << job.error().toStdString();
-    const RecordedJob got = m_server.recorded(job.value().value_or(0));
+    const RecordedJob got = m_server.recorded(job.value().id.value_or(0));
     EXPECT_EQ(got.data, "first\nsecond\n");
     EXPECT_EQ(got.arguments[2], "title");
     EXPECT_EQ(got.options.at("k"), "v");
@@ -217,7 +218,10 @@ TEST_F(Printing, ATruncatedPpdIsReportedWithQueueAndReason)
     ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
     const QByteArray text = whole.readAll();
     ASSERT_TRUE(m_server.addQueue("CUT", write("cut.ppd", text.left(text.size() / 2))));
-    const auto ppd = bv::PrintServer::ppd("CUT");
+    bv::CallControl control;
+    const auto fetched = bv::PrintServer::ppd("CUT", control);
+    ASSERT_TRUE(fetched);
+    const auto ppd = bv::PpdFile::open(fetched.value());
     ASSERT_FALSE(ppd);
     EXPECT_THAT(ppd.error().toStdString(), AllOf(HasSubstr("of the queue CUT is cut off"), Not(HasSubstr("tmp"))));
 }
@@ -229,7 +233,8 @@ TEST_F(Printing, QueuesAreListedWithTheirDetails)
     ASSERT_TRUE(m_server.administer("lpadmin", {"-p", "RAW", "-D", "Ein Drucker", "-L", "Flur"}));
     ASSERT_TRUE(m_server.administer("cupsdisable", {"RAW"}));
     ASSERT_TRUE(m_server.administer("lpadmin", {"-d", "QL70"}));
-    const auto queues = bv::PrintServer::queues();
+    bv::CallControl control;
+    const auto queues = bv::PrintServer::queues(control);
     ASSERT_TRUE(queues);
     ASSERT_EQ(queues.value().size(), 2U);
     const bv::PrintQueue &ours = queues.value()[0];
@@ -240,7 +245,10 @@ TEST_F(Printing, QueuesAreListedWithTheirDetails)
     EXPECT_EQ(raw.description, "Ein Drucker");
     EXPECT_EQ(raw.location, "Flur");
     EXPECT_TRUE(raw.isStopped && !raw.isDefault);
-    EXPECT_FALSE(bv::PrintServer::ppd("RAW"));
+    EXPECT_FALSE(bv::PrintServer::ppd("RAW", control));
+    // A class has the PPD of its first member.
+    ASSERT_TRUE(m_server.administer("lpadmin", {"-p", "QL70", "-c", "Both"}));
+    EXPECT_TRUE(bv::PrintServer::ppd("Both", control));
 }
 
 } // namespace

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// Looks at the bytes of an IPP message before libcups reads them.
+#pragma once
+
+#include <QByteArray>
+
+namespace bv {
+
+// Whether the message is complete and its collections are not nested too deep. libcups reads nested collections by
+// recursion without a limit (RFC 8010, 3.1.6).
+bool isReadableIpp(const QByteArray &message);
+
+} // namespace bv

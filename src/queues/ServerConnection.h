@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// A connection to the print server on which nothing lasts for ever: connecting, each answer and the whole call have
+// their limits, answers have a size, and a canceled call ends at once.
+#pragma once
+
+#include "platform/Result.h"
+#include "queues/CallControl.h"
+
+#include <QByteArray>
+#include <cups/cups.h>
+#include <memory>
+#include <span>
+
+namespace bv {
+
+struct IppDelete
+{
+    void operator()(ipp_t *message) const { ippDelete(message); }
+};
+using IppMessage = std::unique_ptr<ipp_t, IppDelete>;
+
+// Makes a request that names the queue and the user.
+IppMessage queueRequest(ipp_op_t operation, const QString &queue);
+
+// What became of a request. Without a message the server did not answer, or with something that is no answer.
+struct ServerAnswer
+{
+    IppMessage message;
+    QString problem; // without a message: a sentence for the user
+
+    // The server says that it did what was asked.
+    bool isGood() const { return message && status() <= IPP_STATUS_OK_CONFLICTING; }
+    // The server said no. status() says why.
+    bool isRefusal() const { return message && !isGood(); }
+    ipp_status_t status() const { return message ? ippGetStatusCode(message.get()) : IPP_STATUS_ERROR_INTERNAL; }
+    // The server's own words about the status, or those of libcups. Without a full stop at the end.
+    QString words() const;
+};
+
+// The server is the one that libcups names (CUPS_SERVER, client.conf). Belongs to one thread.
+class ServerConnection
+{
+public:
+    static constexpr std::chrono::milliseconds kConnectLimit{5000};
+    // For one answer, and for any step in which no byte comes or goes.
+    static constexpr std::chrono::milliseconds kAnswerLimit{10000};
+
+    // The control is borrowed.
+    static Result<ServerConnection> open(CallControl &control);
+    ServerConnection(ServerConnection &&) noexcept;
+    ServerConnection &operator=(ServerConnection &&) noexcept;
+    ~ServerConnection();
+
+    // A canceled call goes on for this long before its answer is given up. For requests whose answer must be known.
+    void setPatience(std::chrono::milliseconds patience);
+
+    // Sends a request and reads the answer.
+    ServerAnswer ask(const IppMessage &request);
+
+    // The same for a request that is followed by a document. beginDocument() returns a sentence for the user on a
+    // failure. sendBytes() returns false when the server takes no more; then endDocument() tells why, if it said so.
+    QString beginDocument(const IppMessage &request);
+    bool sendBytes(std::span<const char> bytes);
+    ServerAnswer endDocument();
+
+    // The file at a path of the server, if it has at most `maximum` bytes.
+    struct Download
+    {
+        enum class Outcome { Had, Missing, TooLarge, Failed };
+        Outcome outcome = Outcome::Failed;
+        QByteArray bytes;
+        QString problem; // when it failed: a sentence for the user
+    };
+    Download download(const QByteArray &path, qsizetype maximum);
+
+private:
+    struct Limits;
+    struct HttpClose
+    {
+        void operator()(http_t *http) const { httpClose(http); }
+    };
+
+    ServerConnection(http_t *http, std::unique_ptr<Limits> limits);
+    http_status_t awaitStatus();
+    enum class Body { Whole, Broken, TooLarge };
+    // Appends the body of the answer to *bytes. Broken: it is cut off or too slow.
+    Body readBody(qsizetype maximum, QByteArray *bytes);
+    ServerAnswer readAnswer(http_status_t status, int requestId);
+    // Logs in with what needs no question (a certificate, the user at the other end of a local socket), and connects
+    // anew. False when that is not possible.
+    bool logIn(const char *method, const char *path);
+    QString complaint(http_status_t status) const;
+
+    std::unique_ptr<Limits> m_limits; // libcups has its address
+    std::unique_ptr<http_t, HttpClose> m_http;
+    int m_documentRequest = 0;
+};
+
+// The sentence for a server that does not answer.
+QString noAnswerSentence();
+
+} // namespace bv
