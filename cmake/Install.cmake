@@ -20,14 +20,14 @@ set(BV_PLACES ${CMAKE_INSTALL_BINDIR} lib/bvco ${BV_FILTERS} ${BV_PPD_FOLDER} ${
 # Runs first, so that an installation is never left half done. Also creates the folders.
 install(CODE "
   set(places [==[${BV_PLACES}]==])
-  set(programs [==[$<TARGET_FILE:bvprint>;$<TARGET_FILE:bvco>;$<TARGET_FILE:bvpages>;$<TARGET_FILE:QL70Helper>;$<TARGET_FILE:QL70Walk>;$<TARGET_FILE:bvql70>]==])
+  set(programs [==[$<TARGET_FILE:bvprint>;$<TARGET_FILE:bvco>;$<TARGET_FILE:bvpages>;$<TARGET_FILE:QL70Helper>;$<TARGET_FILE:QL70Walk>;$<TARGET_FILE:QL70Resolve>;$<TARGET_FILE:bvql70>]==])
   include([==[${CMAKE_SOURCE_DIR}/cmake/InstallCheck.cmake]==])")
 
 install(TARGETS bvprint RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 # bvprint looks for the plug-in and for bvpages beside itself, in ../lib/bvco.
 install(TARGETS bvco LIBRARY DESTINATION lib/bvco)
 install(TARGETS bvpages RUNTIME DESTINATION lib/bvco)
-install(TARGETS QL70Helper QL70Walk RUNTIME DESTINATION "${BV_HELPERS}")
+install(TARGETS QL70Helper QL70Walk QL70Resolve RUNTIME DESTINATION "${BV_HELPERS}")
 
 install(TARGETS bvql70 RUNTIME DESTINATION ${BV_FILTERS})
 

@@ -106,8 +106,10 @@ void reportComplaints(const std::string &program, int fd)
         diagnosticLine(formatLog("%@: %@", {program, line}));
 }
 
-std::optional<ChildResult> run(const std::string &program, std::span<const std::string> arguments)
+std::optional<ChildResult> run(const std::string &program, std::span<const std::string> arguments,
+                               std::optional<std::chrono::milliseconds> limit)
 {
+    const auto begin = std::chrono::steady_clock::now();
     std::vector<char *> words;
     words.push_back(const_cast<char *>(program.c_str()));
     for (const std::string &argument : arguments)
@@ -139,7 +141,13 @@ std::optional<ChildResult> run(const std::string &program, std::span<const std::
     // Read before waiting: a child that prints more than the pipe holds would otherwise never end.
     ChildResult result;
     try {
-        readToEnd(readEnd.get(), &result.output); // output read before a failure is kept
+        // Output read before a failure is kept.
+        if (!limit) {
+            readToEnd(readEnd.get(), &result.output);
+        } else if (!readToEndBefore(readEnd.get(), &result.output, std::string::npos, begin + *limit)) {
+            report(program, "ended at its time limit", errno);
+            kill(child, SIGKILL);
+        }
     } catch (const std::bad_alloc &) {
         readEnd.reset(); // a child that still writes gets a closed pipe and ends
         waitFor(child);
@@ -153,9 +161,10 @@ std::optional<ChildResult> run(const std::string &program, std::span<const std::
 
 } // namespace
 
-std::optional<ChildResult> runChild(const std::string &program, std::span<const std::string> arguments)
+std::optional<ChildResult> runChild(const std::string &program, std::span<const std::string> arguments,
+                                    std::optional<std::chrono::milliseconds> limit)
 {
-    return withoutThrowing(std::nullopt, [&] { return run(program, arguments); });
+    return withoutThrowing(std::nullopt, [&] { return run(program, arguments, limit); });
 }
 
 bool startProgram(const std::string &program)

@@ -3,6 +3,7 @@
 // libcups.
 #pragma once
 
+#include <chrono>
 #include <optional>
 #include <span>
 #include <string>
@@ -16,11 +17,12 @@ struct ChildResult
     int exitCode = -1;  // its exit status, or -1 when a signal ended it
 };
 
-// Runs `program` (a real path) with `arguments`, reads its standard output to the end and waits until it exits, without
-// a time limit. The child inherits the environment; its standard input is empty. Its standard error goes to the
-// diagnostic log, line by line, after it has ended. Nothing, with the reason in the diagnostic log, when the child
-// cannot be started.
-std::optional<ChildResult> runChild(const std::string &program, std::span<const std::string> arguments);
+// Runs `program` (a real path) with `arguments`, reads its standard output to the end and waits until it exits. With a
+// limit, a child whose output has not ended by then is killed; what it wrote before is in the result. The child
+// inherits the environment; its standard input is empty. Its standard error goes to the diagnostic log, line by line,
+// after it has ended. Nothing, with the reason in the diagnostic log, when the child cannot be started.
+std::optional<ChildResult> runChild(const std::string &program, std::span<const std::string> arguments,
+                                    std::optional<std::chrono::milliseconds> limit = std::nullopt);
 
 // Starts `program` (a real path) in a session of its own and does not wait for it. It inherits only the environment and
 // outlives this process. False, with the reason in the diagnostic log, when it cannot be started.

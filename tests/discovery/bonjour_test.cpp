@@ -17,6 +17,9 @@
 
 #include <QUrl>
 #include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <fstream>
 
 namespace {
 
@@ -30,7 +33,7 @@ class Publisher
 {
 public:
     explicit Publisher(const std::string &name)
-        : m_program({"avahi-publish", "-s", name, "_pdl-datastream._tcp", "9100", "txtvers=1"})
+        : m_program({"avahi-publish", "-s", "--", name, "_pdl-datastream._tcp", "9100", "txtvers=1"})
     {
         EXPECT_TRUE(m_program.waitFor("Established")) << m_program.output();
     }
@@ -49,19 +52,53 @@ QString uriOf(const std::string &name)
 
 TEST(Bonjour, ResolvesNamesOfEveryKind)
 {
-    for (const char *name : {"QL70", "QL 70 (é) lab", "QL70 rev. 1.2", "100% \"color\" / プリンタ"}) {
+    const bvtest::ListRoot root;
+    for (const char *name : {"QL70", "QL 70 (é) lab", "QL70 rev. 1.2", "100% \"color\" / プリンタ", "-h"}) {
         const Publisher publisher(name);
         EXPECT_THAT(bv::walkHost(uriOf(name)), Optional(Eq(kAddress))) << name;
     }
 }
 
-TEST(Bonjour, AnUnknownNameEndsAtTheTimeLimit)
+// A daemon hangs for as long as this exists.
+class Stopped
 {
-    const auto begin = std::chrono::steady_clock::now();
-    EXPECT_EQ(bv::walkHost(uriOf("nobody")), std::nullopt);
-    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - begin;
-    EXPECT_GE(taken.count(), 1);
-    EXPECT_LT(taken.count(), 3);
+public:
+    explicit Stopped(const char *variable) : m_process(std::atoi(std::getenv(variable))) { kill(m_process, SIGSTOP); }
+    Stopped(const Stopped &) = delete;
+    Stopped &operator=(const Stopped &) = delete;
+    ~Stopped() { kill(m_process, SIGCONT); }
+
+private:
+    pid_t m_process;
+};
+
+TEST(Bonjour, EndsAtTheTimeLimitWhateverHangs)
+{
+    const bvtest::ListRoot root;
+    const Publisher publisher("QL70");
+    const char *kHanging[] = {nullptr, "BV_AVAHI_PID", "BV_BUS_PID", bv::kResolverPath};
+    for (const char *hanging : kHanging) {
+        const auto stopped = hanging && *hanging == 'B' ? std::make_unique<Stopped>(hanging) : nullptr;
+        if (hanging == bv::kResolverPath) {
+            const std::filesystem::path resolver = bv::mapRootPath(bv::kResolverPath);
+            std::filesystem::remove(resolver);
+            std::ofstream(resolver) << "#!/bin/sh\nkill -STOP $$\n";
+            std::filesystem::permissions(resolver, std::filesystem::perms(0755));
+        }
+        const auto begin = std::chrono::steady_clock::now();
+        EXPECT_EQ(bv::walkHost(uriOf(hanging ? "QL70" : "nobody")), std::nullopt);
+        const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - begin;
+        std::printf("%s: %.3f s\n", hanging ? hanging : "no such service", taken.count());
+        EXPECT_GE(taken.count(), .99);
+        EXPECT_LT(taken.count(), 3);
+    }
+}
+
+TEST(Bonjour, EndsAtOnceWithoutAResolver)
+{
+    const bvtest::ListRoot root;
+    std::filesystem::remove(bv::mapRootPath(bv::kResolverPath));
+    EXPECT_EQ(bv::walkHost(uriOf("QL70")), std::nullopt);
 }
 
 TEST(Bonjour, TheRefreshReachesThePrinterBehindTheName)

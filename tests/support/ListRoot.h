@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// A scratch root with the built helper installed in it.
+// A scratch root with the built helper and the program that resolves services installed in it.
 #pragma once
 
 #include "support/TestRoot.h"
@@ -15,6 +15,7 @@ public:
         const std::filesystem::path helper = bv::mapRootPath(kHelperPath);
         std::filesystem::remove(helper);
         std::filesystem::create_symlink(BV_BUILD_DIR "/bin/QL70Helper", helper);
+        std::filesystem::create_symlink(BV_BUILD_DIR "/bin/QL70Resolve", helper.parent_path() / "QL70Resolve");
     }
 
     // Path of a file in the root's folder.

@@ -1,7 +1,7 @@
 #!/bin/sh
 # SPDX-License-Identifier: GPL-2.0-or-later
 # in_bonjour_namespace.sh COMMAND [ARGUMENT...]: runs a command in a new network namespace with its own D-Bus and Avahi
-# daemons. The machine's address inside is 10.99.0.1. Exit status: the command's, or 77 when no such namespace can be
+# daemons. The machine's address inside is 10.99.0.1. BV_BUS_PID and BV_AVAHI_PID name the daemons. Exit status: the command's, or 77 when no such namespace can be
 # created.
 set -u
 
@@ -66,6 +66,7 @@ export DBUS_SYSTEM_BUS_ADDRESS="unix:path=$folder/bus"
 /usr/sbin/avahi-daemon -f "$folder/avahi.conf" --no-drop-root --no-chroot --no-rlimits > "$folder/avahi.log" 2>&1 &
 avahi=$!
 wait_for grep -q 'startup complete' "$folder/avahi.log" || { cat "$folder/avahi.log"; kill $avahi $bus; exit 1; }
+export BV_BUS_PID=$bus BV_AVAHI_PID=$avahi
 "$@"
 status=$?
 kill $avahi $bus
