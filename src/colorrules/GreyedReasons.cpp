@@ -6,8 +6,11 @@
 #include "platform/Bundle.h"
 #include "platform/PlainTip.h"
 
+#include <QCheckBox>
 #include <QComboBox>
-#include <QWidget>
+#include <QLabel>
+#include <QSet>
+#include <algorithm>
 
 namespace bv {
 
@@ -47,7 +50,55 @@ QString reasonFor(const CSTRule &rule, PDEControlTable table)
     return sentences.join(QLatin1Char('\n'));
 }
 
+// Gives the labels of greyed controls the color of greyed text.
+void greyLabels(PDEControlTable table)
+{
+    QSet<QWidget *> panes;
+    for (const PDEControlItem *row = table; row && row->kind != kPDEControlEnd; ++row)
+        if (row->control && row->control->parentWidget())
+            panes.insert(row->control->parentWidget());
+    for (const QWidget *pane : panes) {
+        for (QLabel *label : pane->findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly)) {
+            if (!label->buddy())
+                continue;
+            QPalette own; // resolves to the pane's own colors
+            if (!label->buddy()->isEnabled())
+                own.setColor(QPalette::WindowText, pane->palette().color(QPalette::Disabled, QPalette::WindowText));
+            if (label->testAttribute(Qt::WA_SetPalette) || own.resolveMask() != 0)
+                label->setPalette(own);
+        }
+    }
+}
+
+// How many settings the box makes meaningless, by itself or with others.
+int settingsGreyedBy(const PDEControlItem &box, PDEControlTable table)
+{
+    QSet<const PDEControlItem *> targets;
+    for (const CSTRule *rule = cstColorOption; rule->type != kCSTTableEnd; ++rule) {
+        const CSTCondition *end = rule->conditions + rule->conditionCount;
+        const bool named = std::any_of(rule->conditions, end, [&](const CSTCondition &condition) {
+            return std::string_view(condition.key) == box.identifier && conditionHolds(condition, table);
+        });
+        const PDEControlItem *target = findControlRow(rule->target, table);
+        if (named && target && target->control && matchRule(*rule, table))
+            targets.insert(target);
+    }
+    return int(targets.size());
+}
+
 } // namespace
+
+SwitchedOff switchedOffByBox(PDEControlTable table)
+{
+    for (const PDEControlItem *row = table; row && row->kind != kPDEControlEnd; ++row) {
+        const auto *box = qobject_cast<const QCheckBox *>(row->control);
+        if (!box || !box->isChecked())
+            continue;
+        if (const int settings = settingsGreyedBy(*row, table); settings > 0)
+            return {row, settings};
+    }
+    return {};
+}
 
 void explainGreyedControls(PDEControlTable table)
 {
@@ -59,6 +110,7 @@ void explainGreyedControls(PDEControlTable table)
         setPlainTip(row->control, reason);
         row->control->setAccessibleDescription(reason);
     }
+    greyLabels(table);
 }
 
 void applyOptionRules(PDEControlTable table)

@@ -8,8 +8,19 @@
 namespace bv {
 
 // Sets the texts of all controls in the table that a rule can grey out, and removes them from controls that are
-// available. Call it after the rules were applied to the same table.
+// available. Labels of greyed controls look greyed as well; they stay enabled. Call it after the rules were applied to
+// the same table.
 void explainGreyedControls(PDEControlTable table);
+
+// A check box that is on, and how many settings of the table it makes meaningless.
+struct SwitchedOff
+{
+    const PDEControlItem *box = nullptr; // null: there is none
+    int settings = 0;
+};
+
+// The first such box in the table; null gives none.
+SwitchedOff switchedOffByBox(PDEControlTable table);
 
 // Applies the rules to a table and updates the texts.
 void applyOptionRules(PDEControlTable table);

@@ -121,8 +121,11 @@ void QueueRoom::restoreDefaults()
         return;
     m_session->ticket().clear();
     m_rows->restoreDefaults();
-    if (m_holder)
+    if (m_holder) {
         m_holder->panel().restoreValuesAndReturnError(nullptr);
+        // The panel may show a part of its view that only the old choices made available.
+        m_holder->panel().willShow();
+    }
     updateConflicts();
 }
 

@@ -5,6 +5,7 @@
 #include "colorrules/GreyedReasons.h"
 #include "platform/Bundle.h"
 #include "plugin/PanelLog.h"
+#include "plugin/SwitchedOffNote.h"
 #include "profiles/ProfileOperations.h"
 #include "profileui/ProfileControl.h"
 #include "ui_PDEMain.h"
@@ -55,6 +56,8 @@ void PDEPlugInInterface::connectOutlets()
     Ui::PDEMain form;
     pdeMainView = new MainView;
     form.setupUi(pdeMainView);
+    switchedOff = new SwitchedOffNote(pdeMainView);
+    form.layout_MainView->addWidget(switchedOff);
     form.group_Simulation->setTitle(localizedString("Simulation"));
     onColorView = form.onColorView;
     onAdvancedView = form.onAdvancedView;
@@ -78,6 +81,8 @@ void PDEPlugInInterface::connectActions()
         connect(box, &QCheckBox::clicked, this, &PDEPlugInInterface::selectItem);
     for (const QComboBox *menu : onAdvancedView->findChildren<QComboBox *>())
         connect(menu, &QComboBox::activated, this, &PDEPlugInInterface::constraints);
+
+    connect(switchedOff, &SwitchedOffNote::turnedOff, this, &PDEPlugInInterface::constraints);
 
     const auto *toAdvanced = pdeMainView->findChild<QPushButton *>(QStringLiteral("button_AdvanceColorOptions"));
     connect(toAdvanced, &QPushButton::clicked, painChange.get(), &PainChangeController::ColorToAdvancedView);
@@ -175,14 +180,18 @@ void PDEPlugInInterface::PPDOptionKeyValueDidChange(const QString &, const QStri
 
 void PDEPlugInInterface::constraints()
 {
-    if (pdeMainView) // the joined table points to controls in the view
-        bv::applyOptionRules(compTable.get());
+    if (!pdeMainView) // the joined table points to controls in the view
+        return;
+    bv::applyOptionRules(compTable.get());
+    switchedOff->update(compTable.get());
 }
 
 void PDEPlugInInterface::selectItem()
 {
-    if (onColorView)
-        bv::applyOptionRules(onColorView->getControlData());
+    if (!onColorView)
+        return;
+    bv::applyOptionRules(onColorView->getControlData());
+    switchedOff->update(compTable.get());
 }
 
 void PDEPlugInInterface::terminate()

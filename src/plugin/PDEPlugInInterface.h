@@ -11,6 +11,8 @@
 
 class ProfileControl;
 
+class SwitchedOffNote;
+
 class PDEPlugInInterface : public QObject, public bv::PrintPanel
 {
     Q_OBJECT
@@ -49,7 +51,8 @@ private:
     PMPrintSettings setting = nullptr;
     PMPrintSession session = nullptr;
     ppd_file_t *ppd = nullptr;
-    QPointer<MainView> pdeMainView; // owned; null once a dialog has destroyed it with its window
+    QPointer<MainView> pdeMainView;         // owned; null once a dialog has destroyed it with its window
+    SwitchedOffNote *switchedOff = nullptr; // in the view
     QPointer<ColorOptions> onColorView;
     QPointer<AdvancedColorOptions> onAdvancedView;
     std::unique_ptr<PainChangeController> painChange;

@@ -39,4 +39,21 @@ TEST(GreyedReasons, NameTheCurrentConditionAndDisappearWithIt)
     EXPECT_TRUE(intent->accessibleDescription().isEmpty());
 }
 
+TEST(GreyedReasons, TheBoxThatSwitchesSettingsOffIsFoundWithTheirNumber)
+{
+    bvtest::RuleTable t;
+    EXPECT_EQ(bv::switchedOffByBox(nullptr).box, nullptr);
+    EXPECT_EQ(bv::switchedOffByBox(t.table()).box, nullptr);
+    t.box("ColorAsGrayCheckBox")->setChecked(true);
+    vColorPresetConstraints(t.table());
+    int greyed = 0;
+    for (const PDEControlItem *row = t.table(); row->kind != kPDEControlEnd; ++row)
+        greyed += row->control->isEnabled() ? 0 : 1;
+    const bv::SwitchedOff found = bv::switchedOffByBox(t.table());
+    ASSERT_NE(found.box, nullptr);
+    EXPECT_STREQ(found.box->identifier, "ColorAsGrayCheckBox");
+    EXPECT_GT(found.settings, 5);
+    EXPECT_LE(found.settings, greyed);
+}
+
 } // namespace

@@ -305,4 +305,34 @@ INSTANTIATE_TEST_SUITE_P(PoorPpds, PoorPanel,
                                              bvtest::ppdOption("BVEconoMode", "On Off", "Boolean") +
                                              bvtest::ppdOption("BVBrightness", "Only", "PickOne", "Lost")));
 
+TEST_F(Panel, SaysWhatABoxSwitchedOffAndTurnsItOff)
+{
+    open();
+    choose("menu_QuickColor", 3);
+    control<QPushButton>("button_AdvanceColorOptions")->click();
+    const int height = view->sizeHint().height();
+    auto *gray = control<QCheckBox>("check_ColorAsGrayscale");
+    auto *text = control<QLabel>("text_SwitchedOff");
+    auto *turnOff = control<QPushButton>("button_TurnOff");
+    EXPECT_TRUE(text->isHidden() && turnOff->isHidden());
+    gray->click();
+    EXPECT_FALSE(text->isHidden() || turnOff->isHidden());
+    EXPECT_TRUE(text->text().contains(QStringLiteral("Color as Grayscale"))) << qPrintable(text->text());
+    EXPECT_EQ(turnOff->accessibleDescription(), text->text());
+    const auto greyed = [&](const char *name) {
+        const auto *of = control<QLabel>(name);
+        return of->palette().color(QPalette::Active, QPalette::WindowText) ==
+               of->palette().color(QPalette::Disabled, QPalette::WindowText);
+    };
+    panel->constraints();
+    EXPECT_TRUE(greyed("text_iRGBIntent"));
+    EXPECT_TRUE(control<QLabel>("text_iRGBIntent")->isEnabled());
+    turnOff->click();
+    EXPECT_FALSE(gray->isChecked());
+    EXPECT_TRUE(text->isHidden() && turnOff->isHidden());
+    EXPECT_FALSE(greyed("text_iRGBIntent"));
+    EXPECT_TRUE(control<QComboBox>("menu_iRGBIntent")->isEnabled());
+    EXPECT_EQ(view->sizeHint().height(), height) << "nothing moved";
+}
+
 } // namespace
