@@ -11,12 +11,6 @@
 #include <memory>
 #include <utility>
 
-// libcups does not free all that it makes of a PPD's printer presets (under the leak checker only).
-extern "C" [[gnu::visibility("default")]] const char *__lsan_default_suppressions()
-{
-    return "leak:_ppdCacheCreateWithPPD\nleak:cupsAddOption\n";
-}
-
 namespace {
 
 using testing::ElementsAre;
