@@ -3,6 +3,7 @@
 #include "jobs/StandardAttributes.h"
 
 #include <array>
+#include <cstring>
 
 namespace bv {
 
@@ -16,23 +17,27 @@ struct Row
     const char *value;
 };
 
+constexpr char kColor[] = "color";
+
 // clang-format off
 constexpr std::array<Row, 5> kRows = {{
     {"BVColorAsGray", "True",  "print-color-mode", "monochrome"},
-    {"BVColorAsGray", "False", "print-color-mode", "color"},
+    {"BVColorAsGray", "False", "print-color-mode", kColor},
     {"ColorModel",    "Gray",  "print-color-mode", "monochrome"},
-    {"ColorModel",    "RGB",   "print-color-mode", "color"},
-    {"ColorModel",    "CMYK",  "print-color-mode", "color"},
+    {"ColorModel",    "RGB",   "print-color-mode", kColor},
+    {"ColorModel",    "CMYK",  "print-color-mode", kColor},
 }};
 // clang-format on
 
-QString chosen(const JobOptions &options, ppd_file_t *ppd, const char *keyword)
+// Whether the job has this choice. A color choice that is also the PPD's default says nothing: the controls had it from
+// the start, and the print server may have a default of its own.
+bool isChosen(const JobOptions &options, ppd_file_t *ppd, const Row &row)
 {
-    if (const auto found = options.find(QString::fromLatin1(keyword)); found != options.end())
-        return found->second;
-    ppd_option_t *option = ppd ? ppdFindOption(ppd, keyword) : nullptr;
-    // Ignores a default that is not one of the option's choices.
-    return option && ppdFindChoice(option, option->defchoice) ? QString::fromUtf8(option->defchoice) : QString();
+    const auto found = options.find(QString::fromLatin1(row.option));
+    if (found == options.end() || found->second.compare(QLatin1String(row.choice), Qt::CaseInsensitive) != 0)
+        return false;
+    const ppd_option_t *option = ppd && std::strcmp(row.value, kColor) == 0 ? ppdFindOption(ppd, row.option) : nullptr;
+    return !option || qstricmp(option->defchoice, row.choice) != 0;
 }
 
 } // namespace
@@ -40,7 +45,7 @@ QString chosen(const JobOptions &options, ppd_file_t *ppd, const char *keyword)
 void addStandardAttributes(JobOptions &options, ppd_file_t *ppd)
 {
     for (const Row &row : kRows)
-        if (chosen(options, ppd, row.option).compare(QLatin1String(row.choice), Qt::CaseInsensitive) == 0)
+        if (isChosen(options, ppd, row))
             options.try_emplace(QString::fromLatin1(row.attribute), QString::fromLatin1(row.value));
 }
 

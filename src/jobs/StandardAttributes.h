@@ -8,9 +8,10 @@
 
 namespace bv {
 
-// Adds the attributes for the options; for an option that is missing, the PPD's default counts. Without them the print
-// server fills in missing attributes (PWG 5100.13) from the printer's capabilities, and a job in gray would be
-// announced as a color job. Attributes that are set already stay. The PPD may be null.
+// Adds the attributes for what the job's options choose: without them the print server fills in its own defaults (PWG
+// 5100.13), and a job in gray would be announced as a color job. Nothing is made of an option that is missing, or of a
+// color choice that is the PPD's default; there an administrator's default holds (`lpadmin -o
+// print-color-mode-default=…`). Attributes that are set already stay. The PPD may be null; then any choice counts.
 void addStandardAttributes(JobOptions &options, ppd_file_t *ppd);
 
 } // namespace bv

@@ -51,21 +51,25 @@ TEST(JobOptions, IncludeTheColorModeOfTheChoice)
     }
 }
 
-TEST(JobOptions, IncludeTheColorModeOfAValidDefault)
+// The printer's own default is no choice: a default of the print server would be overruled.
+TEST(JobOptions, IncludeNoColorModeOfADefault)
 {
-    const QTemporaryDir folder;
-    for (const char *choices : {"", "*BVColorAsGray True: \"\"\n"}) {
-        QFile file(folder.filePath("gray.ppd"));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write("*PPD-Adobe: \"4.3\"\n*OpenUI *BVColorAsGray: Boolean\n*DefaultBVColorAsGray: True\n");
-        file.write(choices);
-        file.write("*CloseUI: *BVColorAsGray\n");
-        file.close();
-        const auto ppd = bv::PpdFile::open(file.fileName());
-        ASSERT_TRUE(ppd) << ppd.error().toStdString();
-        JobOptions options;
-        bv::addStandardAttributes(options, ppd.value().handle());
-        EXPECT_EQ(options.count("print-color-mode"), *choices ? 1U : 0U);
+    const auto ppd = bv::PpdFile::open(BV_SOURCE_DIR "/resources/QL70.ppd");
+    ASSERT_TRUE(ppd);
+    ppd_option_t *gray = ppdFindOption(ppd.value().handle(), "BVColorAsGray");
+    for (const std::string standard : {"False", "True"}) {
+        standard.copy(gray->defchoice, sizeof gray->defchoice);
+        for (const QString choice : {"", "False", "True"}) {
+            JobOptions options;
+            if (!choice.isEmpty())
+                options["BVColorAsGray"] = choice;
+            bv::addStandardAttributes(options, ppd.value().handle());
+            const QString expected = choice == u"True"                          ? "monochrome"
+                                     : choice == u"False" && standard == "True" ? "color"
+                                                                                : "";
+            const auto found = options.find("print-color-mode");
+            EXPECT_EQ(found == options.end() ? QString() : found->second, expected) << standard;
+        }
     }
 }
 

@@ -50,6 +50,18 @@ protected:
         return settings;
     }
 
+    // Prints from our dialog's controls, after the given commands.
+    std::map<QString, QString> printedByBatch(const QStringList &commands)
+    {
+        BatchProcess batch;
+        batch.setVariable("CUPS_SERVER", m_server.address());
+        batch.start({"--queue", "QL70"});
+        for (const QString &command : QStringList{"panelView", "willShow", "restoreValues"} + commands +
+                                          QStringList{QStringLiteral("print \"%1\"").arg(kDocument)})
+            EXPECT_TRUE(batch.send(command).contains("result")) << command.toStdString();
+        return settingsOf(++m_job);
+    }
+
     // Prints like another program, with options as for lp(1). Returns the settings that the printer gets.
     std::map<QString, QString> printed(const QStringList &options)
     {
@@ -87,15 +99,16 @@ TEST_F(PrintChain, ASelectedPrinterProfileReachesThePrinter)
 
 TEST_F(PrintChain, OurDialogAndAnotherProgramPrintTheSame)
 {
-    BatchProcess batch;
-    batch.setVariable("CUPS_SERVER", m_server.address());
-    batch.start({"--queue", "QL70"});
-    for (const char *command :
-         {"panelView", "willShow", "restoreValues", "set menu_QuickColor 2", "set check_EconomyPrint 1"})
-        ASSERT_TRUE(batch.send(command).contains("result")) << command;
-    ASSERT_TRUE(batch.send(QStringLiteral("print \"%1\"").arg(kDocument)).contains("result"));
-    const auto ours = settingsOf(++m_job);
+    const auto ours = printedByBatch({"set menu_QuickColor 2", "set check_EconomyPrint 1"});
     EXPECT_EQ(ours, printed({"BVQuickColor=Presentation", "BVEconoMode=True"}));
+}
+
+TEST_F(PrintChain, AnAdministratorsColorModeHoldsUntilAUserChooses)
+{
+    ASSERT_TRUE(m_server.administer("lpadmin", {"-p", "QL70", "-o", "print-color-mode-default=monochrome"}));
+    EXPECT_EQ(printed({})["BVColorAsGray"], "/True");
+    EXPECT_EQ(printed({"print-color-mode=color"})["BVColorAsGray"], "/False");
+    EXPECT_EQ(printedByBatch({})["BVColorAsGray"], "/True");
 }
 
 } // namespace
