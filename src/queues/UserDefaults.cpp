@@ -1,0 +1,305 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// Reads and changes the files of lpoptions. libcups' own calls for this (cupsGetDests2, cupsSetDests2) also look for
+// printers on the network, mix in the print server's defaults, and write the server's default printer down as the
+// user's. The options in a line are taken apart by libcups.
+#include "queues/UserDefaults.h"
+
+#include "queues/InputFile.h"
+#include "queues/JobOnlyKeys.h"
+#include "queues/StateFolder.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+#include <algorithm>
+#include <cups/cups.h>
+
+namespace bv {
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("UserDefaults", text);
+}
+
+constexpr qint64 kLargestFile = 1024 * 1024;
+constexpr char kKeptOptions[] = "options"; // the entry of a kept ticket that holds a line's options
+
+// Standard options that libcups turns into PPD options (cupsMarkOptions). Kept as options of their own they would
+// contradict a later choice of the PPD option.
+constexpr const char *kMarkedByLibcups[] = {
+    "media",
+    "sides",
+    "output-bin",
+    "print-color-mode",
+    "output-mode",
+    "print-quality",
+    "print-content-optimize",
+    "resolution",
+    "printer-resolution",
+    "finishing-template",
+    "finishings",
+    "mirror",
+};
+
+// A line "Dest NAME OPTIONS" or "Default NAME OPTIONS". Other lines have no name.
+struct Line
+{
+    QByteArray text; // as it stands in the file, without its end
+    QByteArray word;
+    QByteArray name;
+    QByteArray options;
+};
+
+Line lineOf(const QByteArray &text)
+{
+    Line line{text, {}, {}, {}};
+    const QByteArray trimmed = text.trimmed();
+    const QByteArray simple = trimmed.left(1024).simplified();
+    const QByteArray word = simple.left(simple.indexOf(' '));
+    if (qstricmp(word.constData(), "Dest") != 0 && qstricmp(word.constData(), "Default") != 0)
+        return line;
+    const QByteArray rest = trimmed.mid(word.size()).trimmed();
+    const auto end = std::find_if(rest.begin(), rest.end(), [](char one) { return one == ' ' || one == '\t'; });
+    line.word = word;
+    line.name = rest.left(end - rest.begin());
+    line.options = rest.mid(line.name.size()).trimmed();
+    return line;
+}
+
+bool isOf(const Line &line, const QueueInstance &of)
+{
+    return !line.name.isEmpty() && qstricmp(line.name.constData(), of.name().toUtf8().constData()) == 0;
+}
+
+QString systemFile()
+{
+    return qEnvironmentVariable("CUPS_SERVERROOT", QStringLiteral("/etc/cups")) + QStringLiteral("/lpoptions");
+}
+
+QString userFile()
+{
+    return QDir::homePath() + QStringLiteral("/.cups/lpoptions");
+}
+
+// The lines of a file. None when it cannot be read; most users have no such file.
+std::vector<Line> linesOf(const QString &path)
+{
+    const Result<QByteArray> text = readInputFile(path, path, kLargestFile);
+    std::vector<Line> lines;
+    if (!text)
+        return lines;
+    for (const QByteArray &one : text.value().split('\n'))
+        lines.push_back(lineOf(one));
+    if (!lines.empty() && lines.back().text.isEmpty())
+        lines.pop_back();
+    return lines;
+}
+
+void addOptions(const QByteArray &text, UserDefaults::Options &options)
+{
+    cups_option_t *list = nullptr;
+    const int count = cupsParseOptions(text.constData(), 0, &list);
+    for (int i = 0; i < count; ++i)
+        options[QString::fromUtf8(list[i].name)] = QString::fromUtf8(list[i].value);
+    cupsFreeOptions(count, list);
+}
+
+// Options as they stand in a line.
+QByteArray optionsText(const UserDefaults::Options &options)
+{
+    QByteArray text;
+    for (const auto &[name, value] : options) {
+        QByteArray bytes = value.toUtf8();
+        const bool quoted = std::any_of(bytes.begin(), bytes.end(), [](char one) {
+            return one == ' ' || one == '\t' || one == '\'' || one == '"' || one == '\\' || one == '{' || one == '}';
+        });
+        if (quoted)
+            bytes = '"' + bytes.replace('\\', "\\\\").replace('"', "\\\"") + '"';
+        text += (text.isEmpty() ? "" : " ") + name.toUtf8() + '=' + bytes;
+    }
+    return text;
+}
+
+// Whether the entry can stand in a line and be read again.
+bool canBeStored(const QString &name, const QString &value)
+{
+    const auto isPlain = [](QChar one) { return one.unicode() >= ' ' && one.unicode() != 0x7F; };
+    // libcups takes a value that begins with a brace for a collection of values.
+    return !name.isEmpty() && !value.startsWith(u'{') && std::all_of(value.begin(), value.end(), isPlain) &&
+           std::all_of(name.begin(), name.end(), [](QChar one) {
+               return one.unicode() < 0x7F && (one.isLetterOrNumber() || QStringLiteral("-_.").contains(one));
+           });
+}
+
+// Gives the instance these options in the user's file, or takes its line out when there are none.
+QString write(const QueueInstance &of, const QByteArray &options)
+{
+    const QString path = userFile();
+    std::vector<Line> lines = linesOf(path);
+    if (lines.empty() && QFileInfo(path).size() > 0)
+        return tr("The file of your defaults, %1, cannot be read.").arg(path);
+    const auto first = std::find_if(lines.begin(), lines.end(), [&of](const Line &line) { return isOf(line, of); });
+    QByteArray text;
+    const auto put = [&text](const QByteArray &line) { text += line + '\n'; };
+    const QByteArray name = of.name().toUtf8();
+    for (auto line = lines.begin(); line != lines.end(); ++line) {
+        if (!isOf(*line, of))
+            put(line->text);
+        else if (line == first && (!options.isEmpty() || qstricmp(line->word.constData(), "Default") == 0))
+            put((line->word + ' ' + name + ' ' + options).trimmed());
+    }
+    if (first == lines.end() && !options.isEmpty())
+        put("Dest " + name + ' ' + options);
+    QSaveFile file(path);
+    if (QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) && file.write(text) == text.size() &&
+        file.commit())
+        return {};
+    return tr("Your defaults could not be written: %1: %2.").arg(path, file.errorString());
+}
+
+bool isInstanceName(const QString &text)
+{
+    constexpr qsizetype kLongest = 127; // as for a queue's name
+    return text.size() <= kLongest && std::all_of(text.begin(), text.end(), [](QChar one) {
+               return one.isLetterOrNumber() || one == u'-' || one == u'_' || one == u'.';
+           });
+}
+
+} // namespace
+
+QueueInstance QueueInstance::fromName(const QString &name)
+{
+    const qsizetype slash = name.indexOf(u'/');
+    return slash < 0 ? QueueInstance{name, {}} : QueueInstance{name.left(slash), name.mid(slash + 1)};
+}
+
+UserDefaults::UserDefaults(QString folder) : m_replaced(std::move(folder)) {}
+
+QString UserDefaults::defaultFolder()
+{
+    return stateFolder() + QStringLiteral("/bvprint/replaced-defaults");
+}
+
+std::optional<UserDefaults::Options> UserDefaults::options(const QueueInstance &of) const
+{
+    Options options;
+    bool isThere = of.instance.isEmpty();
+    for (const QString &path : {systemFile(), userFile()}) {
+        for (const Line &line : linesOf(path)) {
+            if (!isOf(line, of))
+                continue;
+            isThere = true;
+            addOptions(line.options, options);
+        }
+    }
+    return isThere ? std::optional<Options>(options) : std::nullopt;
+}
+
+QStringList UserDefaults::instances(const QString &queue) const
+{
+    QStringList names;
+    for (const QString &path : {systemFile(), userFile()}) {
+        for (const Line &line : linesOf(path)) {
+            const QueueInstance of = QueueInstance::fromName(QString::fromUtf8(line.name));
+            if (!of.instance.isEmpty() && of.queue.compare(queue, Qt::CaseInsensitive) == 0 &&
+                !names.contains(of.instance))
+                names << of.instance;
+        }
+    }
+    return names;
+}
+
+QString UserDefaults::store(const QueueInstance &of, const Options &options) const
+{
+    if (!isInstanceName(of.instance))
+        return tr("“%1” cannot be the name of defaults: use letters, digits, “-”, “_” and “.” only.").arg(of.instance);
+    Options own;
+    QByteArray before;
+    for (const Line &line : linesOf(userFile())) {
+        if (!isOf(line, of))
+            continue;
+        addOptions(line.options, own);
+        before += (before.isEmpty() ? "" : " ") + line.options;
+    }
+    if (!canTakeBack(of)) {
+        PrintDictionary kept;
+        kept.setValue(QLatin1String(kKeptOptions), PrintValue(QString::fromUtf8(before)));
+        if (!m_replaced.store(of.name(), kept))
+            return tr("Your present defaults could not be kept, so they were not replaced.");
+    }
+    for (const auto &[name, value] : options) {
+        if (value.isEmpty())
+            own.erase(name);
+        else if (canBeStored(name, value))
+            own[name] = value;
+    }
+    return write(of, optionsText(own));
+}
+
+bool UserDefaults::canTakeBack(const QueueInstance &of) const
+{
+    return QFile::exists(m_replaced.filePath(of.name()));
+}
+
+QString UserDefaults::takeBack(const QueueInstance &of) const
+{
+    const std::optional<PrintDictionary> kept = m_replaced.load(of.name());
+    const PrintValue before = kept ? kept->value(QLatin1String(kKeptOptions)) : PrintValue();
+    if (!before.string())
+        return tr("There are no earlier defaults of “%1”.").arg(of.name());
+    QString problem = write(of, before.string()->toUtf8());
+    if (problem.isEmpty())
+        QFile::remove(m_replaced.filePath(of.name()));
+    return problem;
+}
+
+PrintDictionary ticketFromDefaults(const UserDefaults::Options &options, ppd_file_t *ppd)
+{
+    cups_option_t *list = nullptr;
+    int count = 0;
+    for (const auto &[name, value] : options)
+        count = cupsAddOption(name.toUtf8().constData(), value.toUtf8().constData(), count, &list);
+    ppdMarkDefaults(ppd);
+    cupsMarkOptions(ppd, count, list);
+    cupsFreeOptions(count, list);
+
+    PrintDictionary ticket;
+    for (const auto &[name, value] : options) {
+        const bool isMarked = std::any_of(std::begin(kMarkedByLibcups), std::end(kMarkedByLibcups),
+                                          [&name](const char *standard) { return name == QLatin1String(standard); });
+        if (!isMarked && !ppdFindOption(ppd, name.toUtf8().constData()))
+            ticket.setValue(name, PrintValue(value));
+    }
+    for (ppd_option_t *option = ppdFirstOption(ppd); option; option = ppdNextOption(ppd)) {
+        const ppd_choice_t *marked = ppdFindMarkedChoice(ppd, option->keyword);
+        if (!marked || qstricmp(marked->choice, option->defchoice) == 0)
+            continue;
+        // A custom choice has its numbers in the option's value.
+        const QString keyword = QString::fromUtf8(option->keyword);
+        const auto given = options.find(keyword);
+        const bool isCustom = qstrcmp(marked->choice, "Custom") == 0 && given != options.end();
+        ticket.setValue(keyword, PrintValue(isCustom ? given->second : QString::fromUtf8(marked->choice)));
+    }
+    ppdMarkDefaults(ppd);
+    removeJobOnlyKeys(&ticket);
+    return ticket;
+}
+
+UserDefaults::Options defaultsFromTicket(const PrintDictionary &ticket)
+{
+    PrintDictionary kept = ticket;
+    removeJobOnlyKeys(&kept);
+    UserDefaults::Options options;
+    for (const auto &[key, value] : kept.entries) {
+        if (const QString *text = value.string())
+            options[key] = *text;
+        else if (const int64_t *number = value.integer())
+            options[key] = QString::number(*number);
+    }
+    return options;
+}
+
+} // namespace bv
