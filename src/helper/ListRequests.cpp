@@ -151,9 +151,14 @@ Outcome answerSwap(const Caller &caller, RequestArguments arguments)
         return outcomeOf(false);
     // The last good copy stays where the current list cannot be read; that one goes aside, once.
     const bool readable = isReadableList(source.file, from);
-    if (keepCurrent && !readable && hasReadablePrevious(*folder, caller, *target))
-        return outcomeOf(hasFreshUnreadable(*folder, caller, *target) ||
-                         copy.replace(source.file, target->unreadableName()));
+    if (keepCurrent && !readable) {
+        const std::optional<bool> keepPrevious = hasReadablePrevious(*folder, caller, *target);
+        if (!keepPrevious)
+            return outcomeOf(false);
+        if (*keepPrevious)
+            return outcomeOf(hasFreshUnreadable(*folder, caller, *target) ||
+                             copy.replace(source.file, target->unreadableName()));
+    }
     const bool copied = copy.replace(source.file, keepCurrent ? previous : current);
     // A readable list can also come back by a swap, or by hand and not through this program.
     if (copied && readable)

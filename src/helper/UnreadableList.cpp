@@ -24,10 +24,15 @@ bool isReadableList(const FileDescriptor &file, const std::string &name)
     return lseek(file.get(), 0, SEEK_SET) == 0 && text && isCompleteProfileList(*text);
 }
 
-bool hasReadablePrevious(const ListFolder &folder, const Caller &caller, const ListTarget &target)
+std::optional<bool> hasReadablePrevious(const ListFolder &folder, const Caller &caller, const ListTarget &target)
 {
     const FoundFile previous = folder.find(target.previousName(), O_RDONLY, caller, target);
-    return previous.standing == Standing::Usable && isReadableList(previous.file, target.previousName());
+    if (previous.standing == Standing::Missing)
+        return false;
+    std::string text;
+    if (previous.standing != Standing::Usable || !readToEnd(previous.file.get(), &text, kPlistMaximumBytes))
+        return std::nullopt;
+    return text.size() <= kPlistMaximumBytes && isCompleteProfileList(text);
 }
 
 bool hasFreshUnreadable(const ListFolder &folder, const Caller &caller, const ListTarget &target)

@@ -4,6 +4,8 @@
 
 #include "helper/ListFolder.h"
 
+#include <optional>
+
 namespace bv {
 
 // Whether the open file is a readable list. The file must be at its start, and is there again afterwards. The name is
@@ -11,8 +13,8 @@ namespace bv {
 bool isReadableList(const FileDescriptor &file, const std::string &name);
 
 // Whether the previous list is there and readable. An unreadable current list must then go aside, and the previous one
-// stay in place.
-bool hasReadablePrevious(const ListFolder &folder, const Caller &caller, const ListTarget &target);
+// stay in place. Nothing when that cannot be found out, as on a failing disk; it must then stay as well.
+std::optional<bool> hasReadablePrevious(const ListFolder &folder, const Caller &caller, const ListTarget &target);
 
 // Whether an unreadable list is kept aside and no readable list has been written since. The kept list must then stay.
 bool hasFreshUnreadable(const ListFolder &folder, const Caller &caller, const ListTarget &target);

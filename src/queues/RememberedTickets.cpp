@@ -69,8 +69,9 @@ bool RememberedTickets::store(const QString &queue, const PrintDictionary &ticke
     const QString path = filePath(queue);
     const QByteArray json = QJsonDocument(toJson(kept)).toJson();
     QSaveFile file(path);
-    const bool stored =
-        QDir().mkpath(m_folder) && file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.commit();
+    // Flushed first, since commit() does not see that a write of its own fails.
+    const bool stored = QDir().mkpath(m_folder) && file.open(QIODevice::WriteOnly) && file.write(json) == json.size() &&
+                        file.flush() && file.commit();
     if (!stored)
         logLine(QStringLiteral("choices of \"%1\" not remembered: %2: %3").arg(queue, path, file.errorString()));
     return stored;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // Preloaded into a program under test: makes a file operation fail, write less, or end the process.
 //
-// FAULT=CALL:N:ACTION   applies to the N-th call (from 1) of CALL; "any" counts all calls
-//   ACTION  ENOSPC, EIO, EROFS   the call fails with this error
+// FAULT=CALL:N:ACTION   applies to the N-th call (from 1) of CALL; "any" counts all calls but "open", "each" all
+//   ACTION  ENOSPC, EIO, EROFS, EACCES, EINTR   the call fails with this error
 //           SHORT                a write writes only half of its bytes
 //           KILL                 the process is killed (SIGKILL) before the call
 //           TORN                 a write writes half of its bytes, then the process is killed
@@ -10,16 +10,19 @@
 //           MOVE                 before the call, FAULT_TARGET is renamed to the name in FAULT_NAME
 //           WAIT                 before the call, the process waits until the FIFO in FAULT_NAME was opened for writing
 //                                and closed again
+// FAULT_UNDER=FOLDER    only calls on this folder and what is in it count
 // FAULT_LOG=FILE        appends the name of each call to the file, one per line
 // FAULT_CLOCK=1         the process does not sleep; its clock is moved forward instead
 // FAULT_LOGINS=1        the password database ignores the case of login names, as some databases do
 //
-// Names of calls: write and pwrite are "write", fsync and fdatasync are "fsync" ("fsync-folder" for a folder), rename
-// and renameat are "rename", openat is "open", fcntl with F_OFD_SETLK is "lock". "open" is not logged and not part of
-// "any". Calls on descriptors 0 to 2 are left alone and not counted.
+// Names of calls: write, pwrite and sendfile are "write", fsync and fdatasync are "fsync" ("fsync-folder" for a
+// folder), rename, renameat and renameat2 are "rename", unlink and unlinkat "unlink", link and linkat "link", mkdir and
+// mkdirat "mkdir", open and openat "open", fcntl with F_OFD_SETLK is "lock". "open" is logged for the setting "each"
+// only. Calls on descriptors 0 to 2 are left alone and not counted.
 #include <algorithm>
 #include <cctype>
 #include <cerrno>
+#include <climits>
 #include <csignal>
 #include <cstdarg>
 #include <cstdio>
@@ -30,6 +33,7 @@
 #include <pwd.h>
 #include <string>
 #include <string_view>
+#include <sys/sendfile.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/types.h>
@@ -43,7 +47,8 @@ struct ErrorRow
     std::string_view name;
     int error;
 };
-constexpr ErrorRow kErrors[] = {{"ENOSPC", ENOSPC}, {"EIO", EIO}, {"EROFS", EROFS}};
+constexpr ErrorRow kErrors[] = {
+    {"ENOSPC", ENOSPC}, {"EIO", EIO}, {"EROFS", EROFS}, {"EACCES", EACCES}, {"EINTR", EINTR}};
 
 template <typename Function> Function *next(const char *name)
 {
@@ -97,23 +102,43 @@ void advance(timespec *time, const timespec &by)
     time->tv_nsec = (time->tv_nsec + by.tv_nsec) % 1'000'000'000;
 }
 
+// The path of an open file, or of a name in an open folder. Empty for what has none.
+std::string pathOf(int descriptor, const char *name = nullptr)
+{
+    if (name && *name == '/')
+        return name;
+    char path[PATH_MAX];
+    const std::string link = descriptor == AT_FDCWD ? "/proc/self/cwd" : "/proc/self/fd/" + std::to_string(descriptor);
+    const ssize_t length = readlink(link.c_str(), path, sizeof(path));
+    std::string whole(path, length > 0 ? static_cast<size_t>(length) : 0);
+    return name ? whole.append("/").append(name) : whole;
+}
+
+bool concerns(const std::string &path)
+{
+    const char *under = std::getenv("FAULT_UNDER");
+    return !under || path.starts_with(under);
+}
+
 enum class Fate { Normal, Fail, Short, Torn };
 
 // Decides what happens to this call. Sets errno or ends the process when the fault says so.
-Fate fateOf(std::string_view call)
+Fate fateOf(std::string_view call, const std::string &path)
 {
     static int calls = 0;
-    const bool counted = call != "open";
-    if (counted)
-        logCall(call);
     const char *setting = std::getenv("FAULT");
+    const std::string_view fault(setting ? setting : "");
+    const size_t first = fault.find(':');
+    const std::string_view which = fault.substr(0, first);
+    if (!concerns(path))
+        return Fate::Normal;
+    if (call != "open" || which == "each")
+        logCall(call);
     if (!setting)
         return Fate::Normal;
-    const std::string_view fault(setting);
-    const size_t first = fault.find(':');
     const size_t second = fault.find(':', first + 1);
     const std::string_view action = fault.substr(second + 1);
-    if ((fault.substr(0, first) != call && (fault.substr(0, first) != "any" || !counted)) ||
+    if ((which != call && which != "each" && (which != "any" || call == "open")) ||
         ++calls != std::atoi(setting + first + 1))
         return Fate::Normal;
     if (action == "KILL")
@@ -136,7 +161,7 @@ template <typename Write> ssize_t faultyWrite(int descriptor, size_t size, Write
 {
     if (descriptor <= STDERR_FILENO)
         return write(size);
-    const Fate fate = fateOf("write");
+    const Fate fate = fateOf("write", pathOf(descriptor));
     if (fate == Fate::Fail)
         return -1;
     const ssize_t written = write(fate == Fate::Normal || size < 2 ? size : size / 2);
@@ -169,47 +194,121 @@ ssize_t pwrite64(int descriptor, const void *bytes, size_t size, off64_t offset)
     return pwrite(descriptor, bytes, size, offset);
 }
 
+ssize_t sendfile(int to, int from, off_t *offset, size_t size)
+{
+    return faultyWrite(to, size, [&](size_t part) {
+        return next<ssize_t(int, int, off_t *, size_t)>("sendfile")(to, from, offset, part);
+    });
+}
+
+ssize_t sendfile64(int to, int from, off64_t *offset, size_t size)
+{
+    return sendfile(to, from, offset, size);
+}
+
 int fsync(int descriptor)
 {
     const char *call = isFolder(descriptor) ? "fsync-folder" : "fsync";
-    return fateOf(call) == Fate::Fail ? -1 : next<int(int)>("fsync")(descriptor);
+    return fateOf(call, pathOf(descriptor)) == Fate::Fail ? -1 : next<int(int)>("fsync")(descriptor);
 }
 
 int fdatasync(int descriptor)
 {
-    return fateOf("fsync") == Fate::Fail ? -1 : next<int(int)>("fdatasync")(descriptor);
+    return fateOf("fsync", pathOf(descriptor)) == Fate::Fail ? -1 : next<int(int)>("fdatasync")(descriptor);
 }
 
 int ftruncate(int descriptor, off_t size) noexcept
 {
-    return fateOf("ftruncate") == Fate::Fail ? -1 : next<int(int, off_t)>("ftruncate")(descriptor, size);
+    return fateOf("ftruncate", pathOf(descriptor)) == Fate::Fail ? -1
+                                                                 : next<int(int, off_t)>("ftruncate")(descriptor, size);
 }
 
-int rename(const char *from, const char *to) noexcept
+int fchmod(int descriptor, mode_t mode) noexcept
 {
-    return fateOf("rename") == Fate::Fail ? -1 : next<int(const char *, const char *)>("rename")(from, to);
+    return fateOf("fchmod", pathOf(descriptor)) == Fate::Fail ? -1 : next<int(int, mode_t)>("fchmod")(descriptor, mode);
+}
+
+int fchown(int descriptor, uid_t user, gid_t group) noexcept
+{
+    return fateOf("fchown", pathOf(descriptor)) == Fate::Fail
+               ? -1
+               : next<int(int, uid_t, gid_t)>("fchown")(descriptor, user, group);
 }
 
 int renameat(int fromFolder, const char *from, int toFolder, const char *to) noexcept
 {
-    return fateOf("rename") == Fate::Fail
+    return fateOf("rename", pathOf(toFolder, to)) == Fate::Fail
                ? -1
                : next<int(int, const char *, int, const char *)>("renameat")(fromFolder, from, toFolder, to);
 }
 
+int renameat2(int fromFolder, const char *from, int toFolder, const char *to, unsigned flags) noexcept
+{
+    return fateOf("rename", pathOf(toFolder, to)) == Fate::Fail
+               ? -1
+               : next<int(int, const char *, int, const char *, unsigned)>("renameat2")(fromFolder, from, toFolder, to,
+                                                                                        flags);
+}
+
+int rename(const char *from, const char *to) noexcept
+{
+    return fateOf("rename", pathOf(AT_FDCWD, to)) == Fate::Fail
+               ? -1
+               : next<int(const char *, const char *)>("rename")(from, to);
+}
+
 int unlinkat(int folder, const char *name, int flags) noexcept
 {
-    return fateOf("unlink") == Fate::Fail ? -1 : next<int(int, const char *, int)>("unlinkat")(folder, name, flags);
+    return fateOf("unlink", pathOf(folder, name)) == Fate::Fail
+               ? -1
+               : next<int(int, const char *, int)>("unlinkat")(folder, name, flags);
+}
+
+int unlink(const char *name) noexcept
+{
+    return fateOf("unlink", pathOf(AT_FDCWD, name)) == Fate::Fail ? -1 : next<int(const char *)>("unlink")(name);
+}
+
+int linkat(int fromFolder, const char *from, int toFolder, const char *to, int flags) noexcept
+{
+    return fateOf("link", pathOf(toFolder, to)) == Fate::Fail
+               ? -1
+               : next<int(int, const char *, int, const char *, int)>("linkat")(fromFolder, from, toFolder, to, flags);
+}
+
+int mkdir(const char *name, mode_t mode) noexcept
+{
+    return fateOf("mkdir", pathOf(AT_FDCWD, name)) == Fate::Fail ? -1
+                                                                 : next<int(const char *, mode_t)>("mkdir")(name, mode);
 }
 
 int openat(int folder, const char *name, int flags, ...)
 {
     va_list more;
     va_start(more, flags);
-    const mode_t mode = flags & O_CREAT ? va_arg(more, mode_t) : 0;
+    const mode_t mode = flags & (O_CREAT | O_TMPFILE) ? va_arg(more, mode_t) : 0;
     va_end(more);
-    return fateOf("open") == Fate::Fail ? -1
-                                        : next<int(int, const char *, int, ...)>("openat")(folder, name, flags, mode);
+    return fateOf("open", pathOf(folder, name)) == Fate::Fail
+               ? -1
+               : next<int(int, const char *, int, ...)>("openat")(folder, name, flags, mode);
+}
+
+int open(const char *name, int flags, ...)
+{
+    va_list more;
+    va_start(more, flags);
+    const mode_t mode = flags & (O_CREAT | O_TMPFILE) ? va_arg(more, mode_t) : 0;
+    va_end(more);
+    return openat(AT_FDCWD, name, flags, mode);
+}
+
+int open64(const char *name, int flags, ...)
+{
+    va_list more;
+    va_start(more, flags);
+    const mode_t mode = flags & (O_CREAT | O_TMPFILE) ? va_arg(more, mode_t) : 0;
+    va_end(more);
+    return openat(AT_FDCWD, name, flags, mode);
 }
 
 int nanosleep(const timespec *time, timespec *left)
@@ -242,7 +341,7 @@ int fcntl(int descriptor, int command, ...)
     va_start(more, command);
     void *argument = va_arg(more, void *);
     va_end(more);
-    if (command == F_OFD_SETLK && fateOf("lock") == Fate::Fail)
+    if (command == F_OFD_SETLK && fateOf("lock", pathOf(descriptor)) == Fate::Fail)
         return -1;
     return next<int(int, int, ...)>("fcntl")(descriptor, command, argument);
 }
