@@ -2,6 +2,7 @@
 // The dialog's behavior. Any step that may wait for the network runs after the window has announced it and was painted.
 #include "dialog/PrintDialog.h"
 
+#include "dialog/DeviceWait.h"
 #include "dialog/InputGate.h"
 #include "dialog/JobRows.h"
 #include "dialog/JobSending.h"
@@ -49,7 +50,8 @@ PrintDialog::PrintDialog(std::shared_ptr<const QueueSource> source, std::shared_
                          PanelLoader &loader, RememberedTickets &remembered, PrintDialogStart start)
     : m_source(std::move(source)), m_loader(loader), m_remembered(remembered), m_start(std::move(start)),
       m_parts(new PrintDialogLayout(this)), m_gate(new InputGate(this)),
-      m_sending(new JobSending(std::move(sink), m_start.pageCount, m_parts->sending))
+      m_deviceWait(std::make_unique<DeviceWait>(m_parts->wait, m_gate, m_parts->cancel)),
+      m_sending(std::make_unique<JobSending>(std::move(sink), m_start.pageCount, m_parts->sending))
 {
     setObjectName(QStringLiteral("printDialog"));
     setWindowTitle(tr("Print"));
@@ -58,6 +60,7 @@ PrintDialog::PrintDialog(std::shared_ptr<const QueueSource> source, std::shared_
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_parts);
     m_stepTimer.setSingleShot(true);
+    m_loader.setPanelWait(m_deviceWait.get());
     connectParts();
     resize(startSize());
 
@@ -80,6 +83,7 @@ PrintDialog::~PrintDialog()
     // Panels must take their views out of the window before it is destroyed.
     m_current = nullptr;
     m_rooms.clear();
+    m_loader.setPanelWait(nullptr);
 }
 
 void PrintDialog::connectParts()
@@ -96,8 +100,8 @@ void PrintDialog::connectParts()
     connect(m_parts->restore, &QPushButton::clicked, this, &PrintDialog::restoreDefaults);
     connect(m_parts->print, &QPushButton::clicked, this, &PrintDialog::print);
     connect(m_parts->sending, &SendingRow::stopped, this, &PrintDialog::stopSending);
-    connect(m_sending, &JobSending::sent, this, &PrintDialog::finish);
-    connect(m_sending, &JobSending::failed, this, &PrintDialog::reportFailure);
+    connect(m_sending.get(), &JobSending::sent, this, &PrintDialog::finish);
+    connect(m_sending.get(), &JobSending::failed, this, &PrintDialog::reportFailure);
     connect(m_gate, &InputGate::escaped, this, &PrintDialog::reject);
 }
 
@@ -268,7 +272,12 @@ void PrintDialog::preparePane()
     if (!m_current || m_current->state() == QueueRoom::State::Listed)
         return;
     if (m_current->state() == QueueRoom::State::Opened) {
+        m_deviceWait->begin();
         m_current->preparePane(m_loader);
+        m_deviceWait->end();
+        m_current->setDevice(m_deviceWait->device());
+        if (!isVisible())
+            return; // rejected meanwhile
         if (!m_current->noPaneReason().isEmpty())
             m_parts->queues->markWithoutPane(m_current->queue().name, m_current->noPaneReason());
         if (!m_current->paneWarning().isEmpty())
@@ -287,6 +296,7 @@ void PrintDialog::showCurrent()
     } else {
         m_current->enter();
         m_parts->showQueue(m_current->rows(), m_current->pane(), m_current->paneName(), m_current->noPaneReason());
+        m_parts->showPaneNote(m_deviceWait->note(m_current->device()));
         if (m_current->queue().isStopped && messageText().isEmpty())
             m_parts->message->say(MessageBar::Kind::Note,
                                   tr("This printer is stopped. You can print all the same: it keeps the job and prints "
@@ -443,6 +453,7 @@ void PrintDialog::reject()
 {
     m_listing.cancel();
     m_opening.cancel();
+    m_deviceWait->giveUp();
     m_sending->disconnect(this);
     if (m_sending->isRunning())
         m_sending->stop();

@@ -16,6 +16,7 @@
 
 namespace bv {
 
+class DeviceWait;
 class InputGate;
 class JobSending;
 class PaneSurvey;
@@ -109,7 +110,8 @@ private:
     BackgroundCall<Result<std::vector<PrintQueue>>> m_listing;
     BackgroundCall<Result<QueueRoom::Ppds>> m_opening;
     InputGate *m_gate;
-    JobSending *m_sending;
+    std::unique_ptr<DeviceWait> m_deviceWait;
+    std::unique_ptr<JobSending> m_sending;
     QTimer m_stepTimer;
     Step m_step = nullptr; // runs when the timer fires
     QString m_noQueue;     // why there is no current queue; empty while unknown

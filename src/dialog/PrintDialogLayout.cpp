@@ -136,10 +136,16 @@ QWidget *PrintDialogLayout::makePlace()
     m_paneTitle = heading(QString(), place);
     m_paneTitle->setObjectName(QStringLiteral("paneTitle"));
     m_place = new QStackedWidget(place);
+    m_paneNote = new QLabel(place);
+    m_paneNote->setObjectName(QStringLiteral("paneNote"));
+    m_paneNote->setTextFormat(Qt::PlainText);
+    m_paneNote->setWordWrap(true);
+    m_paneNote->hide();
     wait = new WaitPanel;
     m_place->addWidget(wait);
     auto *box = column(place);
     box->addWidget(m_paneTitle);
+    box->addWidget(m_paneNote);
     box->addWidget(m_place, 1);
     return place;
 }
@@ -191,7 +197,14 @@ void PrintDialogLayout::showQueue(PpdOptionRows *rows, QWidget *pane, const QStr
 void PrintDialogLayout::showWait(PpdOptionRows *rows, const QString &sentence)
 {
     showQueue(rows, nullptr, QString(), sentence);
+    showPaneNote(QString());
     wait->wait(sentence);
+}
+
+void PrintDialogLayout::showPaneNote(const QString &note)
+{
+    m_paneNote->setText(note);
+    m_paneNote->setVisible(!note.isEmpty());
 }
 
 QString PrintDialogLayout::placeText() const

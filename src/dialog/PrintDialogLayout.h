@@ -48,6 +48,8 @@ public:
     void showQueue(PpdOptionRows *rows, QWidget *pane, const QString &paneName, const QString &sentence);
     // Shows the rows, and in place of the pane what is being waited for.
     void showWait(PpdOptionRows *rows, const QString &sentence);
+    // Shows a quiet line above the pane; none when it is empty.
+    void showPaneNote(const QString &note);
     // The sentence shown instead of a pane. Empty while a pane is shown.
     QString placeText() const;
 
@@ -74,6 +76,7 @@ private:
     QStackedWidget *m_rows = nullptr;
     QStackedWidget *m_place = nullptr;
     QLabel *m_paneTitle = nullptr;
+    QLabel *m_paneNote = nullptr;
     QWidget *m_noRows = nullptr;
     bool m_summaryAside = false;
 };

@@ -58,6 +58,10 @@ public:
     // A sentence for the user when the panel refused some values, else empty.
     QString paneWarning() const { return m_paneWarning; }
 
+    // The address of the device that the panel asked while it was prepared, or was kept from asking; empty: none.
+    void setDevice(const std::string &device) { m_device = device; }
+    const std::string &device() const { return m_device; }
+
     // Tell the panel that its view is about to be shown or hidden. leave() returns false when the panel refuses.
     void enter();
     bool leave();
@@ -88,6 +92,7 @@ private:
     QStringList m_paneKeys;
     QString m_noPaneReason;
     QString m_paneWarning;
+    std::string m_device;
     // The order matters: members are destroyed from last to first, the panel before its session and the rows before
     // their PPD.
     std::optional<PpdFile> m_rowsPpd;

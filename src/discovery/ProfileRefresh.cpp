@@ -6,12 +6,16 @@
 #include "discovery/DeviceAddress.h"
 #include "discovery/WalkWords.h"
 #include "platform/Log.h"
+#include "platform/PanelWait.h"
+#include "platform/RootPath.h"
 #include "platform/UserName.h"
 #include "profiles/HelperRequest.h"
 #include "profiles/ProfileOperations.h"
+#include "profiles/ProfilePaths.h"
 #include "profiles/RequestNames.h"
 
 #include <charconv>
+#include <sys/stat.h>
 
 namespace {
 
@@ -37,6 +41,13 @@ std::optional<int32_t> walkResult(const std::optional<std::string> &answer)
     return result;
 }
 
+// When the stored list was written, in seconds since 1970; 0 when there is none.
+int64_t storedSince()
+{
+    struct stat about = {};
+    return stat(bv::mapRootPath(bv::profilePaths().current).c_str(), &about) == 0 ? about.st_mtime : 0;
+}
+
 int32_t refreshed(const std::string &outcome)
 {
     bv::diagnosticLine("Profile refresh: " + outcome);
@@ -53,7 +64,13 @@ int32_t PDECommon::commonGetProfilesFromMIB(PMPrintSession session)
         return 0; // the reason is in the log
     if (!bv::helperAvailable())
         return refreshed("no helper");
+    bv::PanelWait *wait = bv::panelWait();
+    if (wait && !wait->wantsDevice(*host))
+        return refreshed("the dialog goes on without the printer");
+    const int64_t since = storedSince();
     // The status of the walk goes to the log only. Its result is the list file, which a failed walk updates too.
     const std::optional<int32_t> result = walkResult(bv::runHelper(bv::kWalkRequest, walkRequest(*host)));
+    if (wait)
+        wait->deviceAsked(*host, result == 0, since);
     return refreshed(result ? "the walk ended with " + std::to_string(*result) : "the helper gave no result");
 }

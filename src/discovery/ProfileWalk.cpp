@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <csignal>
 #include <cstring>
 #include <memory>
 #include <netinet/in.h>
@@ -311,12 +312,36 @@ void optProc(int /*argc*/, char *const * /*argv*/, int option)
     }
 }
 
+namespace {
+
+// A dialog whose user does not want to wait ends the walk. A list that is just being written is finished first.
+class HeldTermination
+{
+public:
+    HeldTermination()
+    {
+        sigset_t termination;
+        sigemptyset(&termination);
+        sigaddset(&termination, SIGTERM);
+        sigprocmask(SIG_BLOCK, &termination, &m_before);
+    }
+    ~HeldTermination() { sigprocmask(SIG_SETMASK, &m_before, nullptr); }
+    HeldTermination(const HeldTermination &) = delete;
+    HeldTermination &operator=(const HeldTermination &) = delete;
+
+private:
+    sigset_t m_before = {};
+};
+
+} // namespace
+
 int32_t bv::walkProfileTable(int32_t argc, char **argv, const WalkLimits &limits)
 {
     prepareSnmpEnvironment();
     const int32_t status = walkBehindFence(argc, argv, limits);
     // Flush, so that the library's output comes before anything that the caller prints.
     std::fflush(stdout);
+    const HeldTermination untilTheListIsWritten;
     vRestructPlistSpool2Current(status < 0 ? kNotWalked : status);
     return status;
 }

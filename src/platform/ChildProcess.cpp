@@ -5,8 +5,11 @@
 #include "platform/FileDescriptor.h"
 #include "platform/Log.h"
 #include "platform/NoThrow.h"
+#include "platform/PanelWait.h"
 
+#include <array>
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <cstring>
 #include <fcntl.h>
@@ -91,6 +94,43 @@ int waitFor(pid_t child)
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
+// Ends a child that nobody waits for any more, and waits for its end: it may still finish a file.
+void end(pid_t child)
+{
+    constexpr int kTries = 100;
+    constexpr std::chrono::milliseconds kPause{2};
+    kill(child, SIGTERM);
+    for (int i = 0; i < kTries; ++i) {
+        if (const pid_t ended = waitpid(child, nullptr, WNOHANG); ended == child || (ended < 0 && errno != EINTR))
+            return;
+        std::this_thread::sleep_for(kPause);
+    }
+    kill(child, SIGKILL);
+    waitFor(child);
+}
+
+using Deadline = std::optional<std::chrono::steady_clock::time_point>;
+
+// Reads everything that the child prints, up to the deadline. What was read before a failure is kept.
+PanelWait::End readWaiting(int output, std::string *text, const Deadline &deadline)
+{
+    using End = PanelWait::End;
+    PanelWait *wait = panelWait();
+    if (!wait && !deadline)
+        readToEnd(output, text);
+    if (!wait)
+        return !deadline || readToEndBefore(output, text, std::string::npos, *deadline) ? End::Input : End::TimeOver;
+    std::array<char, 4096> bytes;
+    for (;;) {
+        if (const End end = wait->waitForInput(output, deadline); end != End::Input)
+            return end;
+        const ssize_t count = readSome(output, bytes);
+        if (count <= 0)
+            return End::Input;
+        text->append(bytes.data(), static_cast<size_t>(count));
+    }
+}
+
 // Writes the child's standard error to the diagnostic log, each line with the child's name in front. Very long output
 // is cut.
 void reportComplaints(const std::string &program, int fd)
@@ -141,12 +181,18 @@ std::optional<ChildResult> run(const std::string &program, std::span<const std::
     // Read before waiting: a child that prints more than the pipe holds would otherwise never end.
     ChildResult result;
     try {
-        // Output read before a failure is kept.
-        if (!limit) {
-            readToEnd(readEnd.get(), &result.output);
-        } else if (!readToEndBefore(readEnd.get(), &result.output, std::string::npos, begin + *limit)) {
-            report(program, "ended at its time limit", errno);
+        const Deadline deadline = limit ? Deadline(begin + *limit) : Deadline();
+        switch (readWaiting(readEnd.get(), &result.output, deadline)) {
+        case PanelWait::End::Input:
+            break;
+        case PanelWait::End::TimeOver:
+            report(program, "ended at its time limit", ETIMEDOUT);
             kill(child, SIGKILL);
+            break;
+        case PanelWait::End::GaveUp:
+            report(program, "ended for the user", ECANCELED);
+            end(child);
+            return std::nullopt;
         }
     } catch (const std::bad_alloc &) {
         readEnd.reset(); // a child that still writes gets a closed pipe and ends

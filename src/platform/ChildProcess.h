@@ -20,7 +20,8 @@ struct ChildResult
 // Runs `program` (a real path) with `arguments`, reads its standard output to the end and waits until it exits. With a
 // limit, a child whose output has not ended by then is killed; what it wrote before is in the result. The child
 // inherits the environment; its standard input is empty. Its standard error goes to the diagnostic log, line by line,
-// after it has ended. Nothing, with the reason in the diagnostic log, when the child cannot be started.
+// after it has ended. Nothing, with the reason in the diagnostic log, when the child cannot be started, or when the
+// dialog no longer wants to wait for it (platform/PanelWait.h); then it is ended, and waited for.
 std::optional<ChildResult> runChild(const std::string &program, std::span<const std::string> arguments,
                                     std::optional<std::chrono::milliseconds> limit = std::nullopt);
 

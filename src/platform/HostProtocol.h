@@ -3,6 +3,7 @@
 // The dialog includes no other header of a plug-in. All calls come from the dialog's main thread, and none throws.
 #pragma once
 
+#include "platform/PanelWait.h"
 #include "platform/PrintSettings.h"
 
 #include <QStringList>
@@ -80,7 +81,17 @@ public:
                                                                                      PrintPanelCallback *hostInfo) = 0;
 };
 
+// A second interface that the root object of a plug-in may have. A dialog that does not know it leaves it alone.
+class PrintPanelWaiting
+{
+public:
+    virtual ~PrintPanelWaiting() = default;
+    // Offers something to all panels of the plug-in; null takes it back. Borrowed.
+    virtual void setPanelWait(PanelWait *wait) = 0;
+};
+
 } // namespace bv
 
 #define BV_PRINT_PANEL_FACTORY_IID "vnd.brevane.pde.PrintPanelFactory/1"
 Q_DECLARE_INTERFACE(bv::PrintPanelFactory, BV_PRINT_PANEL_FACTORY_IID)
+Q_DECLARE_INTERFACE(bv::PrintPanelWaiting, "vnd.brevane.pde.PrintPanelWaiting/1")

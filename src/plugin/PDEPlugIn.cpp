@@ -20,3 +20,8 @@ PDEPlugIn::PDEPanelsForType(const QString &type, bv::PrintPanelCallback *hostInf
     panels.push_back(std::make_unique<PDEPlugInInterface>(hostInfo));
     return panels;
 }
+
+void PDEPlugIn::setPanelWait(bv::PanelWait *wait)
+{
+    bv::setPanelWait(wait);
+}

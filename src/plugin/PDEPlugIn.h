@@ -8,15 +8,16 @@
 
 #include <QObject>
 
-class PDEPlugIn : public QObject, public bv::PrintPanelFactory
+class PDEPlugIn : public QObject, public bv::PrintPanelFactory, public bv::PrintPanelWaiting
 {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID BV_PRINT_PANEL_FACTORY_IID)
-    Q_INTERFACES(bv::PrintPanelFactory)
+    Q_INTERFACES(bv::PrintPanelFactory bv::PrintPanelWaiting)
 
 public:
     bool initWithBundle(const bv::PluginBundle &bundle) override;
     // One panel for the printer-module type; nothing for any other type.
     std::optional<std::vector<std::unique_ptr<bv::PrintPanel>>>
     PDEPanelsForType(const QString &type, bv::PrintPanelCallback *hostInfo) override;
+    void setPanelWait(bv::PanelWait *wait) override;
 };

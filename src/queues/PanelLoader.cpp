@@ -39,6 +39,12 @@ std::optional<Panels> PanelLoader::panels(const QString &type, PrintPanelCallbac
     return m_factory ? m_factory->PDEPanelsForType(type, callback) : std::nullopt;
 }
 
+void PanelLoader::setPanelWait(PanelWait *wait)
+{
+    if (auto *waiting = m_factory ? qobject_cast<PrintPanelWaiting *>(m_loader.instance()) : nullptr)
+        waiting->setPanelWait(wait);
+}
+
 std::unique_ptr<PrintPanel> PanelLoader::printerPanel(PrintPanelCallback *callback)
 {
     std::optional<Panels> found = panels(QString::fromLatin1(kPrinterModulePanelType), callback);

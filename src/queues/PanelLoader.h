@@ -28,6 +28,9 @@ public:
     // The first panel of the printer module; null when the plug-in has none.
     std::unique_ptr<PrintPanel> printerPanel(PrintPanelCallback *callback);
 
+    // Offers something to all panels, if the plug-in knows what to do with it; null takes it back. Borrowed.
+    void setPanelWait(PanelWait *wait);
+
 private:
     QPluginLoader m_loader;
     PrintPanelFactory *m_factory = nullptr;

@@ -88,7 +88,9 @@ Queues listQueues(ServerConnection &server)
     if (!answer.message)
         return Queues::failure(answer.problem);
     // A server without any queue says "not found".
-    if (answer.isRefusal() && answer.status() != IPP_STATUS_ERROR_NOT_FOUND)
+    if (answer.status() == IPP_STATUS_ERROR_NOT_FOUND)
+        return std::vector<PrintQueue>();
+    if (answer.isRefusal())
         return Queues::failure(tr("The print server does not tell its queues: %1.").arg(answer.words()));
     return queuesOf(answer.message.get());
 }

@@ -9,6 +9,7 @@
 #include <QThread>
 #include <algorithm>
 #include <arpa/inet.h>
+#include <csignal>
 #include <cstring>
 #include <grp.h>
 #include <netinet/in.h>
@@ -245,11 +246,22 @@ void PrivateCupsd::stop()
 {
     if (m_server.state() == QProcess::NotRunning)
         return;
+    goOn();
     m_server.terminate();
     if (!m_server.waitForFinished(kPatience)) {
         m_server.kill();
         m_server.waitForFinished(kPatience);
     }
+}
+
+void PrivateCupsd::pause()
+{
+    kill(static_cast<pid_t>(m_server.processId()), SIGSTOP);
+}
+
+void PrivateCupsd::goOn()
+{
+    kill(static_cast<pid_t>(m_server.processId()), SIGCONT);
 }
 
 bool PrivateCupsd::administer(const QString &program, const QStringList &arguments)

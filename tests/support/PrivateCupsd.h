@@ -33,8 +33,11 @@ public:
     bool useFilters();
     // Starts the server. Returns an error text, or empty on success.
     QString start();
-    // Stops the server.
+    // Ends the server.
     void stop();
+    // Stops the server where it stands, so that it takes connections and answers nothing, and lets it go on.
+    void pause();
+    void goOn();
 
     // The value of CUPS_SERVER for this server.
     QString address() const { return m_folder + QStringLiteral("/sock"); }

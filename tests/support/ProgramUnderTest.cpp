@@ -79,6 +79,12 @@ bool ProgramUnderTest::waitFor(std::string_view text)
     return true;
 }
 
+void ProgramUnderTest::readWhatIsThere()
+{
+    while (readSome(milliseconds(0))) {
+    }
+}
+
 long ProgramUnderTest::numberBehind(std::string_view mark) const
 {
     const size_t at = m_output.rfind(mark);

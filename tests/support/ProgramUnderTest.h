@@ -22,6 +22,8 @@ public:
 
     // Reads until the output contains the text. False when the program ends or 20 s pass before.
     bool waitFor(std::string_view text);
+    // Reads what the program has written until now. Does not wait.
+    void readWhatIsThere();
     // The output so far.
     const std::string &output() const { return m_output; }
     // The number after the last occurrence of `mark` in the output. 0 when there is none.
