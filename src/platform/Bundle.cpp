@@ -43,7 +43,7 @@ QString Bundle::localizedString(const QString &key) const
 {
     if (!m_tables->loaded)
         return key;
-    const QString text = m_tables->texts.translate("bvco", key.toUtf8().constData());
+    QString text = m_tables->texts.translate("bvco", key.toUtf8().constData());
     if (!text.isEmpty())
         return text;
     if (!m_tables->missed.contains(key)) {
