@@ -2,6 +2,7 @@
 // The dialog's behavior. Any step that may wait for the network runs after the window has announced it and was painted.
 #include "dialog/PrintDialog.h"
 
+#include "dialog/DefaultsMenu.h"
 #include "dialog/DeviceWait.h"
 #include "dialog/InputGate.h"
 #include "dialog/JobRows.h"
@@ -9,7 +10,6 @@
 #include "dialog/PaneSurvey.h"
 #include "dialog/PrintDialogLayout.h"
 #include "dialog/QueueList.h"
-#include "queues/JobOnlyKeys.h"
 #include "queues/PanelLoader.h"
 #include "widgets/DocumentList.h"
 #include "widgets/MessageBar.h"
@@ -98,6 +98,10 @@ void PrintDialog::connectParts()
     connect(m_parts->documents, &DocumentList::refused, this, &PrintDialog::say);
     connect(m_parts->job, &JobRows::changed, this, &PrintDialog::updateReadiness);
     connect(m_parts->restore, &QPushButton::clicked, this, &PrintDialog::restoreDefaults);
+    connect(m_parts->defaults, &DefaultsMenu::failed, this, &PrintDialog::say);
+    connect(m_parts->defaults, &DefaultsMenu::done, this,
+            [this](const QString &sentence) { m_parts->message->say(MessageBar::Kind::Note, sentence); });
+    m_parts->defaults->setVisible(m_start.withUserDefaults);
     connect(m_parts->print, &QPushButton::clicked, this, &PrintDialog::print);
     connect(m_parts->sending, &SendingRow::stopped, this, &PrintDialog::stopSending);
     connect(m_sending.get(), &JobSending::sent, this, &PrintDialog::finish);
@@ -211,6 +215,11 @@ QueueRoom *PrintDialog::room(const QString &queue)
     return found == m_rooms.end() ? nullptr : found->get();
 }
 
+QString PrintDialog::instanceOf(const QueueRoom &room) const
+{
+    return room.queue().name == m_start.queue ? m_start.instance : QString();
+}
+
 QString PrintDialog::nowWaitingFor() const
 {
     return tr("The options of “%1” are being prepared…").arg(queueTitle(m_current->queue()));
@@ -242,16 +251,15 @@ void PrintDialog::takePpds(Result<QueueRoom::Ppds> ppds)
         showCurrent();
         return;
     }
-    std::optional<PrintDictionary> ticket = m_remembered.load(m_current->queue().name);
     // The given ticket belongs to the first queue. Keep its name, so that another try at opening it uses the ticket
     // too.
     if (m_start.queue.isEmpty())
         m_start.queue = m_current->queue().name;
-    if (m_start.ticket && m_current->queue().name == m_start.queue) {
-        ticket = m_start.ticket;
-        removeJobOnlyKeys(&*ticket);
-    }
-    m_current->open(std::move(ppds.value()), m_source->hasPrinter(), ticket);
+    const StartChoices choices =
+        startChoices(m_start, m_remembered, m_current->queue().name, ppds.value().rows.handle());
+    if (!choices.note.isEmpty())
+        m_parts->message->say(MessageBar::Kind::Note, choices.note);
+    m_current->open(std::move(ppds.value()), m_source->hasPrinter(), choices);
     m_hadPrinter = true;
     connect(m_current->rows(), &PpdOptionRows::choiceMade, this,
             [this, opened = m_current](const QString &keyword, const QString &choice) {
@@ -295,6 +303,8 @@ void PrintDialog::showCurrent()
         m_parts->showQueue(m_current->rows(), nullptr, QString(), m_openFailure);
     } else {
         m_current->enter();
+        m_parts->defaults->setTarget({m_current->queue().name, instanceOf(*m_current)}, queueTitle(m_current->queue()),
+                                     [room = m_current] { return room->choices(); });
         m_parts->showQueue(m_current->rows(), m_current->pane(), m_current->paneName(), m_current->noPaneReason());
         m_parts->showPaneNote(m_deviceWait->note(m_current->device()));
         if (m_current->queue().isStopped && messageText().isEmpty())
@@ -357,7 +367,9 @@ void PrintDialog::refreshSummary()
 void PrintDialog::updateReadiness()
 {
     m_parts->reason->explain(reasonNotToPrint());
-    m_parts->restore->setEnabled(!m_busy && m_current && m_current->state() == QueueRoom::State::Ready);
+    const bool isReady = !m_busy && m_current && m_current->state() == QueueRoom::State::Ready;
+    m_parts->restore->setEnabled(isReady);
+    m_parts->defaults->setEnabled(isReady);
 }
 
 QString PrintDialog::reasonNotToPrint() const
@@ -426,7 +438,9 @@ void PrintDialog::endSending()
 
 void PrintDialog::finish(const SentJob &job)
 {
-    m_remembered.store(m_current->queue().name, m_current->ticket());
+    // The choices of an instance stand in the user's defaults, and those of the queue stay as they are.
+    if (instanceOf(*m_current).isEmpty())
+        m_remembered.store(m_current->queue().name, m_current->ticket());
     emit printed(job.note);
     accept();
 }

@@ -29,7 +29,9 @@ struct PrintDialogStart
     QString queue;                         // to choose; empty for the default queue
     std::optional<PrintDictionary> ticket; // replaces the remembered ticket of that queue
     QStringList documents;
-    PageCount pageCount = {}; // of a document; empty: no page count is known
+    PageCount pageCount = {};      // of a document; empty: no page count is known
+    QString instance = {};         // of the queue: the set of the user's defaults to start from
+    bool withUserDefaults = false; // whether the user's defaults for all programs are read and can be stored
 };
 
 class PrintDialog : public QDialog
@@ -97,6 +99,8 @@ private:
     void finish(const SentJob &job);
     void reportFailure(const QString &sentence);
     QString nowWaitingFor() const;
+    // The instance that the start names, when this is its queue.
+    QString instanceOf(const QueueRoom &room) const;
 
     std::shared_ptr<const QueueSource> m_source;
     PanelLoader &m_loader;

@@ -2,6 +2,7 @@
 // Builds the layout, keeps the tab order, and moves the summary when the window's width changes.
 #include "dialog/PrintDialogLayout.h"
 
+#include "dialog/DefaultsMenu.h"
 #include "dialog/JobRows.h"
 #include "dialog/PpdOptionRows.h"
 #include "dialog/QueueList.h"
@@ -156,6 +157,7 @@ QBoxLayout *PrintDialogLayout::makeButtons(QDialog *dialog)
     restore->setObjectName(QStringLiteral("restoreDefaults"));
     setPlainTip(restore, tr("Put all of the printer's settings back to what its driver proposes"));
     restore->setAutoDefault(false);
+    defaults = new DefaultsMenu(this);
     cancel = new QPushButton(tr("Cancel"), this);
     cancel->setObjectName(QStringLiteral("cancel"));
     cancel->setAutoDefault(false);
@@ -167,6 +169,7 @@ QBoxLayout *PrintDialogLayout::makeButtons(QDialog *dialog)
     connect(cancel, &QPushButton::clicked, dialog, &QDialog::reject);
     auto *row = new QHBoxLayout;
     row->addWidget(restore);
+    row->addWidget(defaults);
     row->addWidget(reason, 1);
     row->addWidget(cancel);
     row->addWidget(print);
@@ -261,7 +264,8 @@ void PrintDialogLayout::widenSide()
 // order inside the pane stays unchanged.
 void PrintDialogLayout::setTabOrders()
 {
-    const QList<QWidget *> behind = {wait->skipButton(), summary, sending->stopButton(), restore, cancel, print};
+    const QList<QWidget *> behind = {
+        wait->skipButton(), summary, sending->stopButton(), restore, defaults, cancel, print};
     QWidget *before = queues->popUp();
     for (QWidget *widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain()) {
         const bool takesTabs = (widget->focusPolicy() & Qt::TabFocus) != 0;

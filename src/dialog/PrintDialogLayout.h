@@ -13,6 +13,7 @@ class QStackedWidget;
 
 namespace bv {
 
+class DefaultsMenu;
 class DocumentList;
 class JobRows;
 class MessageBar;
@@ -37,6 +38,7 @@ public:
     JobRows *job = nullptr;
     SummaryView *summary = nullptr;
     QPushButton *restore = nullptr;
+    DefaultsMenu *defaults = nullptr;
     QPushButton *cancel = nullptr;
     QPushButton *print = nullptr;
     ReasonLabel *reason = nullptr;

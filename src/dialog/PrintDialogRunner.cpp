@@ -53,7 +53,13 @@ int runPrintDialog(const WindowRequest &request, PanelLoader &loader)
 {
     PrintDialogStart start;
     const SessionRequest &session = request.session;
-    start.queue = session.usesServer() ? session.queue : session.queueWithoutServer();
+    start.queue = session.queueWithoutServer();
+    if (session.usesServer()) {
+        const QueueInstance named = QueueInstance::fromName(session.queue);
+        start.queue = named.queue;
+        start.instance = named.instance;
+        start.withUserDefaults = true;
+    }
     DocumentArguments arguments;
     Result<QStringList> documents = arguments.paths(request.documents);
     if (!documents)

@@ -4,7 +4,34 @@
 
 #include "queues/PanelLoader.h"
 
+#include <algorithm>
+
 namespace bv {
+
+namespace {
+
+// Puts the values of a panel's options, and of what belongs to these options (OPTIONCustom …), into each dictionary
+// within the ticket that holds one of them.
+void putIntoNested(const PrintDictionary &ticket, const PrintDictionary &values, const QStringList &paneKeys)
+{
+    const auto isPanels = [&paneKeys](const QString &name) {
+        return std::any_of(paneKeys.begin(), paneKeys.end(),
+                           [&name](const QString &key) { return name.startsWith(key); });
+    };
+    for (const auto &[key, value] : ticket.entries) {
+        const PrintDictionaryRef nested = value.dictionary();
+        if (!nested)
+            continue;
+        putIntoNested(*nested, values, paneKeys);
+        if (std::none_of(paneKeys.begin(), paneKeys.end(), [&](const QString &one) { return nested->contains(one); }))
+            continue;
+        for (const auto &[name, wanted] : values.entries)
+            if (isPanels(name))
+                nested->setValue(name, wanted);
+    }
+}
+
+} // namespace
 
 QString noPaneSentence(const QString &queueTitle)
 {
@@ -36,13 +63,15 @@ Result<QueueRoom::Ppds> QueueRoom::fetch(const QueueSource &source, const QStrin
     return Ppds{std::move(panel.value()), std::move(rows.value())};
 }
 
-void QueueRoom::open(Ppds ppds, bool hasPrinter, const std::optional<PrintDictionary> &ticket)
+void QueueRoom::open(Ppds ppds, bool hasPrinter, const StartChoices &choices)
 {
     m_rowsPpd.emplace(std::move(ppds.rows));
     m_session = std::make_unique<QueueSession>(QueueIdentity{m_queue.name, m_queue.deviceUri, hasPrinter},
                                                std::move(ppds.panel));
-    if (ticket)
-        m_session->ticket().replace(*ticket);
+    if (choices.ticket)
+        m_session->ticket().replace(*choices.ticket);
+    if (choices.areUserDefaults)
+        m_userDefaults = *choices.ticket;
     m_rows = new PpdOptionRows(m_rowsPpd->handle());
     m_rows->readFrom(m_session->printSettings());
     m_state = State::Opened;
@@ -70,6 +99,7 @@ void QueueRoom::preparePane(PanelLoader &loader)
         return;
     }
     m_holder = std::move(holder);
+    giveUserDefaultsToPanel();
     m_paneName = m_holder->panel().panelName();
     connect(m_holder.get(), &PanelHolder::changed, this, &QueueRoom::panelChanged);
 }
@@ -91,6 +121,25 @@ QString QueueRoom::saveValues()
     if (m_holder && !m_holder->panel().saveValuesAndReturnError(&error))
         return error.isEmpty() ? tr("The choices of “%1” could not be kept.").arg(queueTitle(m_queue)) : error;
     return {};
+}
+
+// A panel keeps its choices in dictionaries of its own within the ticket. Once it has made them, the defaults of its
+// options are put there, and it reads them.
+void QueueRoom::giveUserDefaultsToPanel()
+{
+    PrintPanel &panel = m_holder->panel();
+    if (m_userDefaults.entries.empty() || !panel.saveValuesAndReturnError(nullptr))
+        return;
+    putIntoNested(m_session->ticket().entries(), m_userDefaults, m_paneKeys);
+    panel.restoreValuesAndReturnError(nullptr);
+}
+
+Result<UserDefaults::Options> QueueRoom::choices()
+{
+    m_rows->writeTo(m_session->printSettings());
+    if (const QString problem = saveValues(); !problem.isEmpty())
+        return Result<UserDefaults::Options>::failure(problem);
+    return defaultsFromTicket(ticket());
 }
 
 PrintDictionary QueueRoom::summary()

@@ -4,6 +4,7 @@
 
 #include "dialog/PanelHolder.h"
 #include "dialog/PpdOptionRows.h"
+#include "dialog/StartChoices.h"
 #include "jobs/PrintJob.h"
 #include "queues/QueueSession.h"
 #include "queues/QueueSource.h"
@@ -41,7 +42,7 @@ public:
     static Result<Ppds> fetch(const QueueSource &source, const QString &queue, CallControl &control);
 
     // Creates session and rows, and fills the ticket.
-    void open(Ppds ppds, bool hasPrinter, const std::optional<PrintDictionary> &ticket);
+    void open(Ppds ppds, bool hasPrinter, const StartChoices &choices);
     // Creates the panel and its view. May wait for the network. Never fails: when there is no pane, noPaneReason() says
     // why.
     void preparePane(PanelLoader &loader);
@@ -67,6 +68,8 @@ public:
     bool leave();
     // Has the panel write its values into the ticket. Returns a sentence for the user when it cannot.
     QString saveValues();
+    // The present choices of rows and panel. A failure is a sentence for the user.
+    Result<UserDefaults::Options> choices();
 
     // The panel's summary. An empty dictionary without a panel.
     PrintDictionary summary();
@@ -86,7 +89,10 @@ signals:
     void panelChanged();
 
 private:
+    void giveUserDefaultsToPanel();
+
     PrintQueue m_queue;
+    PrintDictionary m_userDefaults; // what the panel has to be given when it is there
     State m_state = State::Listed;
     QString m_paneName;
     QStringList m_paneKeys;

@@ -10,8 +10,10 @@
 #include "queues/RememberedTickets.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSignalSpy>
@@ -48,10 +50,11 @@ protected:
     }
 
     // Opens the window on the queue and waits until it is ready.
-    void open(const QStringList &documents)
+    void open(const QStringList &documents, const QString &instance = QString())
     {
-        m_dialog = std::make_unique<PrintDialog>(m_source, m_sink, m_loader, m_remembered,
-                                                 bv::PrintDialogStart{QStringLiteral("QL70"), std::nullopt, documents});
+        m_dialog =
+            std::make_unique<PrintDialog>(m_source, m_sink, m_loader, m_remembered,
+                                          bv::PrintDialogStart{"QL70", std::nullopt, documents, {}, instance, true});
         QSignalSpy ready(m_dialog.get(), &PrintDialog::ready);
         m_dialog->show();
         ASSERT_TRUE(ready.wait());
@@ -129,6 +132,40 @@ TEST_F(WindowPrinting, ChoicesArePrintedAndRestoredTheNextTime)
     EXPECT_EQ(find<QSpinBox>("copies")->value(), 1);
     EXPECT_TRUE(find<QAbstractButton>("allPages")->isChecked());
     EXPECT_EQ(find<QListWidget>("documentList")->count(), 0);
+}
+
+// The menu's actions are triggered by name; a menu that is open would block the test.
+TEST_F(WindowPrinting, StartsFromTheUsersDefaultsStoresThemAndTakesThemBack)
+{
+    qputenv("XDG_STATE_HOME", m_folder.filePath("state").toUtf8());
+    QDir(m_folder.path()).mkpath(".cups");
+    const QByteArray before = "Dest QL70 BVQuickColor=Photo Duplex=DuplexTumble number-up=2\n"
+                              "Dest QL70/Proof BVQuickColor=Presentation\n";
+    const QString file = write(".cups/lpoptions", before);
+    const auto lpoptions = [&file] {
+        QFile now(file);
+        return now.open(QIODevice::ReadOnly) ? now.readAll() : QByteArray();
+    };
+    open({});
+    EXPECT_EQ(quickColor()->currentText(), "Photo");
+    click("check_EconomyPrint");
+    find<QAction>("useForAll")->trigger();
+    EXPECT_TRUE(lpoptions().contains("BVEconoMode=True")) << m_dialog->messageText().toStdString();
+    EXPECT_TRUE(lpoptions().contains("Duplex=DuplexTumble")) << lpoptions().constData();
+    EXPECT_TRUE(lpoptions().contains("\nDest QL70/Proof BVQuickColor=Presentation\n"));
+    // A new window shows what was stored.
+    open({});
+    EXPECT_TRUE(find<QCheckBox>("check_EconomyPrint")->isChecked());
+    find<QAction>("takeBack")->trigger();
+    EXPECT_EQ(lpoptions(), before);
+    open({write("a.txt", "a\n")}, "Proof");
+    EXPECT_EQ(quickColor()->currentText(), "Presentation");
+    QSignalSpy printed(m_dialog.get(), &PrintDialog::printed);
+    click("print");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !printed.isEmpty(); }, 30000)) << m_dialog->messageText().toStdString();
+    EXPECT_EQ(m_remembered.load("QL70"), std::nullopt);
+    open({}, "Nobody");
+    EXPECT_TRUE(m_dialog->messageText().contains("Nobody"));
 }
 
 } // namespace

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// What the dialog starts from for a queue: a given ticket, the one that it remembers, or the user's own defaults.
+#pragma once
+
+#include "queues/RememberedTickets.h"
+#include "queues/UserDefaults.h"
+
+namespace bv {
+
+struct PrintDialogStart;
+
+struct StartChoices
+{
+    std::optional<PrintDictionary> ticket; // nothing: the printer's defaults
+    bool areUserDefaults = false;          // no panel has seen the ticket
+    QString note;                          // a sentence for the user; may be empty
+};
+
+// An instance that the start names comes before what is remembered. Changes the PPD's marks and marks its defaults.
+StartChoices startChoices(const PrintDialogStart &start, const RememberedTickets &remembered, const QString &queue,
+                          ppd_file_t *ppd);
+
+} // namespace bv
