@@ -54,6 +54,9 @@ Result<QueueRoom::Ppds> QueueRoom::fetch(const QueueSource &source, const QStrin
     const Result<PpdText> text = source.ppd(queue, control);
     if (!text)
         return Fetched::failure(text.error());
+    // libcups may need a minute for tens of thousands of options. The server has nothing to do with that.
+    constexpr std::chrono::minutes kReadingLimit{10};
+    control.allow(kReadingLimit);
     Result<PpdFile> panel = PpdFile::open(text.value());
     if (!panel)
         return Fetched::failure(panel.error());

@@ -68,6 +68,8 @@ IppMessage parse(const QByteArray &bytes)
 // When to give up. libcups asks whenever it has waited a little.
 struct ServerConnection::Limits
 {
+    explicit Limits(CallControl &callControl) : control(callControl) {}
+
     CallControl &control;
     milliseconds patience{0};
     Clock::time_point answerBy = Clock::now();
