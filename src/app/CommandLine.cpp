@@ -19,7 +19,7 @@ struct OptionRow
 };
 
 // clang-format off
-constexpr std::array<OptionRow, 10> kOptions = {{
+constexpr std::array<OptionRow, 13> kOptions = {{
     {"batch",      "SCRIPT", [](CommandLine &line) -> QString & { return line.script; },            "carry out the commands of a file (-: standard input), without a window"},
     {"plugin",     "FILE",   [](CommandLine &line) -> QString & { return line.plugin; },            "the plug-in to load (default: the one beside this program)"},
     {"queue",      "NAME",   [](CommandLine &line) -> QString & { return line.session.queue; },     "the print queue, or QUEUE/NAME for a set of your defaults (default: the print server's; with --ppd: QL70)"},
@@ -28,6 +28,9 @@ constexpr std::array<OptionRow, 10> kOptions = {{
     {"ticket",     "FILE",   [](CommandLine &line) -> QString & { return line.session.ticket; },    "a ticket to start from, as JSON"},
     {"screenshot", "FILE",   [](CommandLine &line) -> QString & { return line.screenshot; },        "write a picture of the ready window (PNG), and end"},
     {"no-printer", nullptr,  nullptr,                                                               "with --ppd: there is no current printer"},
+    {"share-profiles", nullptr, nullptr,                                                            "give a list of profiles to the users that are named in place of files; see --from, --replace"},
+    {"from",       "USER",   [](CommandLine &line) -> QString & { return line.share.from; },        "with --share-profiles: whose list (default: yours, or that of the user who called sudo)"},
+    {"replace",    nullptr,  nullptr,                                                               "with --share-profiles: also to users who have a list"},
     {"help",       nullptr,  nullptr,                                                               "print this and end"},
     {"version",    nullptr,  nullptr,                                                               "print the version and end"},
 }};
@@ -65,6 +68,18 @@ Result<CommandLine> parseCommandLine(const QStringList &arguments)
     line.session.noPrinter = parser.isSet(QStringLiteral("no-printer"));
     line.documents = parser.positionalArguments();
 
+    line.share.replace = parser.isSet(QStringLiteral("replace"));
+    const bool isShared = parser.isSet(QStringLiteral("share-profiles"));
+    if (!isShared && (line.share.replace || !line.share.from.isEmpty()))
+        return failure(QStringLiteral("The options --from and --replace need --share-profiles."));
+    if (isShared) {
+        line.mode = CommandLine::Mode::Share;
+        line.share.users = line.documents;
+        if (line.share.users.isEmpty() || !line.script.isEmpty())
+            return failure(QStringLiteral("The option --share-profiles takes the login names of users, and no batch."));
+        return line;
+    }
+
     if (!line.script.isEmpty())
         line.mode = CommandLine::Mode::Batch;
     if (line.mode == CommandLine::Mode::Batch && !line.documents.isEmpty())
@@ -80,6 +95,7 @@ QString commandLineHelp()
 {
     QString text = QStringLiteral("Usage: bvprint [options] [FILE...]\n"
                                   "       bvprint [options] --batch SCRIPT\n"
+                                  "       bvprint --share-profiles [--from USER] [--replace] USER...\n"
                                   "Opens the print dialog for the files, or carries out a batch.\n\n");
     for (const OptionRow &row : kOptions) {
         const QString usage =
@@ -91,6 +107,7 @@ QString commandLineHelp()
         "puts the printer's defaults and the ticket into them. Without it, print sends the first item of every\n"
         "menu after panelView, and none of the pane's options before.\n");
     text += QStringLiteral("\nExit status: 0 printed or cancelled, 1 a command or job of the batch failed,\n"
+                           "or a user did not get the list of profiles,\n"
                            "2 bad arguments, PPD, ticket or plug-in, or no print queue.\n");
     return text;
 }

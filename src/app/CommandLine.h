@@ -2,6 +2,7 @@
 // The command line of bvprint: what the options are called and what they mean.
 #pragma once
 
+#include "app/ShareProfiles.h"
 #include "platform/Result.h"
 #include "queues/SessionRequest.h"
 
@@ -12,7 +13,7 @@ namespace bv {
 // One parsed command line. Strings are empty where the option was not given.
 struct CommandLine
 {
-    enum class Mode { Dialog, Batch, Help, Version };
+    enum class Mode { Dialog, Batch, Share, Help, Version };
 
     Mode mode = Mode::Dialog;
     SessionRequest session; // --queue, --ppd, --device-uri, --ticket, --no-printer
@@ -20,6 +21,7 @@ struct CommandLine
     QString plugin;         // --plugin; empty: the installed or built plug-in
     QString screenshot;     // --screenshot: a PNG file to save the window to; then it is closed
     QStringList documents;  // the files to print
+    ShareRequest share;     // --share-profiles, --from, --replace
 };
 
 // Reads the arguments, without the program's name. The sentence of a failure names the wrong argument; the program then

@@ -2,6 +2,7 @@
 // bvprint: the print dialog, as a window or driven by a batch of commands.
 #include "app/CommandLine.h"
 #include "app/MessageFilter.h"
+#include "app/ShareProfiles.h"
 #include "app/WindowSystem.h"
 #include "batch/BatchRunner.h"
 #include "dialog/PrintDialogRunner.h"
@@ -93,6 +94,8 @@ int main(int argc, char **argv)
     using Mode = bv::CommandLine::Mode;
     if (line.mode == Mode::Help || line.mode == Mode::Version)
         return say(line.mode == Mode::Help ? bv::commandLineHelp() : bv::commandLineVersion());
+    if (line.mode == Mode::Share)
+        return bv::shareProfiles(line.share);
     const bv::Result<QByteArray> platform = bv::windowSystem(line);
     if (!platform)
         return refuse(platform.error());
