@@ -6,6 +6,8 @@
 
 #include "queues/CallControl.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QObject>
 #include <QTimer>
 #include <condition_variable>
@@ -150,12 +152,17 @@ private:
         }
         T value = result ? std::move(*result) : std::move(*m_late);
         const std::function<void(T)> done = std::move(m_done);
-        // This may be an event of the receiver, which must not be deleted in its own event.
-        m_receiver.release()->deleteLater();
         {
             const std::lock_guard lock(m_state->mutex);
             m_state->receiver = nullptr;
         }
+        // This may be an event of the receiver, which must not be deleted in its own event. Until it goes, neither its
+        // timer nor the event of a thread that ended late may reach this object, which `done` may end.
+        QObject *receiver = m_receiver.release();
+        for (QTimer *watch : receiver->findChildren<QTimer *>())
+            watch->stop();
+        QCoreApplication::removePostedEvents(receiver, QEvent::MetaCall);
+        receiver->deleteLater();
         m_state->control.cancel();
         m_state.reset();
         done(std::move(value));
