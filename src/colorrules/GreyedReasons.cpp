@@ -88,6 +88,17 @@ int settingsGreyedBy(const PDEControlItem &box, PDEControlTable table)
 
 } // namespace
 
+QString greyedReason(const PDEControlItem &row, PDEControlTable table)
+{
+    // As with the controls themselves, the last rule for a target decides.
+    QString reason;
+    for (const CSTRule *rule = cstColorOption; rule->type != kCSTTableEnd; ++rule) {
+        if (std::string_view(rule->target) == row.identifier)
+            reason = matchRule(*rule, table) ? reasonFor(*rule, table) : QString();
+    }
+    return reason;
+}
+
 SwitchedOff switchedOffByBox(PDEControlTable table)
 {
     for (const PDEControlItem *row = table; row && row->kind != kPDEControlEnd; ++row) {

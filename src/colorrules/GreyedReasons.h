@@ -5,12 +5,17 @@
 
 #include "common/PDEControlItem.h"
 
+#include <QString>
+
 namespace bv {
 
 // Sets the texts of all controls in the table that a rule can grey out, and removes them from controls that are
 // available. Labels of greyed controls look greyed as well; they stay enabled. Call it after the rules were applied to
 // the same table.
 void explainGreyedControls(PDEControlTable table);
+
+// Why the rules make a control of the table meaningless just now, in sentences for the user. Empty when they do not.
+QString greyedReason(const PDEControlItem &row, PDEControlTable table);
 
 // A check box that is on, and how many settings of the table it makes meaningless.
 struct SwitchedOff

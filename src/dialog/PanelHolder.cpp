@@ -39,11 +39,17 @@ QString PanelHolder::prepare()
     m_area->setObjectName(QStringLiteral("paneArea"));
     m_area->setWidget(view);
     view->show();
-    QString error;
-    if (!m_panel->restoreValuesAndReturnError(&error))
-        return error.isEmpty() ? tr("Not all of the choices could be restored. Look them through.") : error;
+    const QString problem = restoreValues();
     m_watcher.watch(view);
-    return {};
+    return problem;
+}
+
+QString PanelHolder::restoreValues()
+{
+    QString error;
+    if (m_panel->restoreValuesAndReturnError(&error))
+        return {};
+    return error.isEmpty() ? tr("Not all of the choices could be restored. Look them through.") : error;
 }
 
 } // namespace bv

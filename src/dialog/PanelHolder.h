@@ -29,6 +29,9 @@ public:
     // Returns a sentence for the user when the panel has no view or refuses the values; empty on success.
     QString prepare();
 
+    // Has the panel show the ticket's values again. Returns a sentence for the user when it refuses some.
+    QString restoreValues();
+
     // The scroll area with the view. Null before prepare() and after it failed. Owned by the holder.
     QWidget *area() const { return m_area; }
 

@@ -359,7 +359,8 @@ void PrintDialog::refreshSummary()
     if (m_current && m_current->state() == QueueRoom::State::Ready)
         m_current->updateConflicts();
     if (m_current && m_current->pane())
-        m_parts->summary->showSummary(m_current->summary());
+        m_parts->summary->showSummary(m_current->summary(), m_current->defaultSummary(),
+                                      summaryHints(m_current->pane()));
     else
         m_parts->summary->showNote(m_current && !m_busy ? tr("There are no color options to sum up.") : QString());
 }

@@ -95,7 +95,17 @@ void QueueRoom::preparePane(PanelLoader &loader)
         m_noPaneReason = noPaneSentence(queueTitle(m_queue));
         return;
     }
+    // First with an empty ticket, to learn what the defaults look like; the ticket object stays the same.
+    const PrintDictionary chosen = m_session->ticket().entries();
+    m_session->ticket().clear();
     m_paneWarning = holder->prepare();
+    if (holder->area())
+        m_defaultSummary = holder->panel().summaryInfo();
+    if (!chosen.entries.empty()) {
+        m_session->ticket().replace(chosen);
+        if (holder->area())
+            m_paneWarning = holder->restoreValues();
+    }
     if (!holder->area()) {
         m_noPaneReason = m_paneWarning;
         m_paneWarning.clear();

@@ -73,6 +73,8 @@ public:
 
     // The panel's summary. An empty dictionary without a panel.
     PrintDictionary summary();
+    // What the summary says while every setting is as the printer proposes. Empty without a panel.
+    const PrintDictionary &defaultSummary() const { return m_defaultSummary; }
     // Has the panel write its choices into the ticket and checks whether they conflict with the rows.
     void updateConflicts();
     // Call this when the user made a choice in the rows. Checks for conflicts again and tells the panel.
@@ -99,6 +101,7 @@ private:
     QString m_noPaneReason;
     QString m_paneWarning;
     std::string m_device;
+    PrintDictionary m_defaultSummary;
     // The order matters: members are destroyed from last to first, the panel before its session and the rows before
     // their PPD.
     std::optional<PpdFile> m_rowsPpd;

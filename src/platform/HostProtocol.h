@@ -28,6 +28,13 @@ inline constexpr char kSummaryDisplayOrder[] = "Summary Display Order";
 inline constexpr int kColumnIdentifierRole = 0x0100 + 70; // Qt::UserRole + 70
 inline constexpr int kIconShownRole = 0x0100 + 71;        // Qt::UserRole + 71
 
+// Dynamic properties that a panel may set on the controls of its view, so that a dialog can sort the summary: the name
+// of the control's item in the summary, the localized title of its group, and why the setting has no effect just now
+// (empty when it has one). Strings; a dialog and a panel that know nothing of them work together all the same.
+inline constexpr char kSummaryNameProperty[] = "bvSummaryName";
+inline constexpr char kSummaryGroupProperty[] = "bvSummaryGroup";
+inline constexpr char kSummaryOffProperty[] = "bvSummaryOff";
+
 // Where a plug-in lies and which language its texts have.
 struct PluginBundle
 {

@@ -5,6 +5,7 @@
 #include "colorrules/GreyedReasons.h"
 #include "platform/Bundle.h"
 #include "plugin/PanelLog.h"
+#include "plugin/SummaryProperties.h"
 #include "plugin/SwitchedOffNote.h"
 #include "profiles/ProfileOperations.h"
 #include "profileui/ProfileControl.h"
@@ -47,6 +48,7 @@ void PDEPlugInInterface::myLoad()
     profileControl->setPMPrint(setting, session);
     profileControl->setConstTable(compTable.get());
     painChange->createPDEItemForPPDKeyEachView();
+    bv::nameSummaryControls(compTable.get(), pdeMainView);
     connectActions();
     _PDEEpilog(this, "load the view");
 }
@@ -184,6 +186,7 @@ void PDEPlugInInterface::constraints()
         return;
     bv::applyOptionRules(compTable.get());
     switchedOff->update(compTable.get());
+    bv::explainSummaryControls(compTable.get());
 }
 
 void PDEPlugInInterface::selectItem()
@@ -192,6 +195,7 @@ void PDEPlugInInterface::selectItem()
         return;
     bv::applyOptionRules(onColorView->getControlData());
     switchedOff->update(compTable.get());
+    bv::explainSummaryControls(compTable.get());
 }
 
 void PDEPlugInInterface::terminate()

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// Shows the summary as a table of two columns with wrapped texts.
+// Sorts the summary into rows, and renews only what differs.
 #include "widgets/SummaryView.h"
 
 #include "platform/HostProtocol.h"
+#include "platform/PlainTip.h"
 
+#include <QHeaderView>
 #include <QScrollBar>
+#include <algorithm>
 
 namespace bv {
 
@@ -49,54 +52,163 @@ SummaryView::Items summaryItems(const PrintDictionary &summary)
     return items;
 }
 
-SummaryView::SummaryView(QWidget *parent) : QTextEdit(parent)
+SummaryHints summaryHints(const QWidget *view)
 {
-    setObjectName(QStringLiteral("summaryView"));
-    setReadOnly(true);
-    setTabChangesFocus(true);
-    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    setFocusPolicy(Qt::StrongFocus);
-    setAccessibleName(tr("Summary"));
-    setSizeAdjustPolicy(QAbstractScrollArea::AdjustIgnored);
-    document()->setDocumentMargin(6);
+    SummaryHints hints;
+    if (!view)
+        return hints;
+    for (const QWidget *control : view->findChildren<QWidget *>()) {
+        const QVariant name = control->property(kSummaryNameProperty);
+        if (name.isValid())
+            hints.insert(name.toString(), {control->property(kSummaryGroupProperty).toString(),
+                                           control->property(kSummaryOffProperty).toString()});
+    }
+    return hints;
 }
 
-void SummaryView::showSummary(const PrintDictionary &summary)
+SummaryView::SummaryView(QWidget *parent) : QTreeWidget(parent)
 {
-    Items items = summaryItems(summary);
-    if (items == m_items && !items.empty())
-        return;
-    m_items = std::move(items);
+    setObjectName(QStringLiteral("summaryView"));
+    setAccessibleName(tr("Summary"));
+    setColumnCount(2);
+    setHeaderLabels({tr("Setting"), tr("Choice")});
+    setHeaderHidden(true);
+    header()->setStretchLastSection(true);
+    setUniformRowHeights(true);
+    setIndentation(fontMetrics().averageCharWidth() * 2);
+    setSelectionMode(SingleSelection);
+    setTabKeyNavigation(false);
+    setTextElideMode(Qt::ElideRight);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    connect(this, &QTreeWidget::itemExpanded, this,
+            [this](const QTreeWidgetItem *item) { m_unfolded[item->text(0)] = true; });
+    connect(this, &QTreeWidget::itemCollapsed, this,
+            [this](const QTreeWidgetItem *item) { m_unfolded[item->text(0)] = false; });
+}
+
+void SummaryView::showSummary(const PrintDictionary &summary, const PrintDictionary &defaults,
+                              const SummaryHints &hints)
+{
+    m_items = summaryItems(summary);
     if (m_items.empty()) {
         showNote(tr("There is nothing to sum up."));
         return;
     }
-    QString html = QStringLiteral("<table cellspacing=\"0\" cellpadding=\"1\" width=\"100%\">");
+    const QString differs = tr("Changed");
+    const QString rest = tr("Unchanged");
+    QStringList headings = {differs};
+    std::vector<Row> rows;
     for (const auto &[name, value] : m_items) {
-        const QString nameCell = QStringLiteral("<td width=\"52%\">%1</td>").arg(name.toHtmlEscaped());
-        const QString valueCell = QStringLiteral("<td width=\"48%\"><b>%1</b></td>").arg(value.toHtmlEscaped());
-        html += QStringLiteral("<tr>") + (isRightToLeft() ? valueCell + nameCell : nameCell + valueCell) +
-                QStringLiteral("</tr>");
+        const std::optional<QString> usual = displayText(defaults.value(name));
+        const SummaryHint hint = hints.value(name);
+        const bool changed = usual && *usual != value;
+        rows.push_back({changed ? differs : hint.group.isEmpty() ? rest : hint.group, name, value, hint.off, changed});
+        if (!headings.contains(rows.back().heading))
+            headings << rows.back().heading;
     }
+    std::stable_sort(rows.begin(), rows.end(), [&headings](const Row &one, const Row &other) {
+        return headings.indexOf(one.heading) < headings.indexOf(other.heading);
+    });
+    const bool same = hasSamePlaces(rows);
+    m_rows = std::move(rows);
+    if (same)
+        renewTexts();
+    else
+        rebuild();
+}
+
+bool SummaryView::hasSamePlaces(const std::vector<Row> &rows) const
+{
+    return m_cells.size() == rows.size() &&
+           std::equal(rows.begin(), rows.end(), m_rows.begin(), m_rows.end(), [](const Row &one, const Row &other) {
+               return one.heading == other.heading && one.name == other.name;
+           });
+}
+
+QTreeWidgetItem *SummaryView::addHeading(const QString &text)
+{
+    auto *heading = new QTreeWidgetItem(this, {text});
+    heading->setFirstColumnSpanned(true);
+    heading->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+    return heading;
+}
+
+void SummaryView::rebuild()
+{
     const int position = verticalScrollBar()->value();
-    setHtml(html + QStringLiteral("</table>"));
-    alignTexts();
+    clear();
+    m_cells.clear();
+    if (!m_rows.front().changed)
+        addHeading(tr("All as the printer proposes."));
+    QTreeWidgetItem *heading = nullptr;
+    for (const Row &row : m_rows) {
+        if (!heading || heading->text(0) != row.heading) {
+            heading = addHeading(row.heading);
+            const QSignalBlocker quiet(this); // this is not the user's doing
+            heading->setExpanded(m_unfolded.value(row.heading, row.changed));
+        }
+        m_cells.push_back(new QTreeWidgetItem(heading));
+    }
+    renewTexts();
+    fitColumns();
     verticalScrollBar()->setValue(position);
 }
 
-void SummaryView::alignTexts()
+void SummaryView::renewTexts()
 {
-    QTextBlockFormat direction;
-    direction.setLayoutDirection(layoutDirection());
-    QTextCursor all(document());
-    all.select(QTextCursor::Document);
-    all.mergeBlockFormat(direction);
+    const QBrush dimmed = palette().brush(QPalette::Disabled, QPalette::Text);
+    for (size_t i = 0; i < m_rows.size(); ++i) {
+        const Row &row = m_rows[i];
+        QTreeWidgetItem &cell = *m_cells[i];
+        const QString spoken =
+            row.name + QStringLiteral(": ") + row.value + (row.off.isEmpty() ? QString() : u'\n' + row.off);
+        if (cell.data(0, Qt::AccessibleTextRole).toString() == spoken)
+            continue;
+        QFont strong = font();
+        strong.setBold(row.changed);
+        for (const int column : {0, 1}) {
+            cell.setText(column, column == 0 ? row.name : row.value);
+            cell.setData(column, Qt::ForegroundRole, row.off.isEmpty() ? QVariant() : dimmed);
+            cell.setToolTip(column, plainTip(spoken));
+        }
+        cell.setFont(1, strong);
+        cell.setData(0, Qt::AccessibleTextRole, spoken);
+    }
+}
+
+void SummaryView::fitColumns()
+{
+    // Long names leave the values two fifths; the tip has what does not fit.
+    const int room = viewport()->width();
+    setColumnWidth(0, std::min(sizeHintForColumn(0), room * 3 / 5));
+}
+
+void SummaryView::resizeEvent(QResizeEvent *event)
+{
+    QTreeWidget::resizeEvent(event);
+    fitColumns();
 }
 
 void SummaryView::showNote(const QString &note)
 {
     m_items.clear();
-    setPlainText(note);
+    m_rows.clear();
+    m_cells.clear();
+    clear();
+    if (!note.isEmpty())
+        addHeading(note);
+}
+
+QStringList SummaryView::lines() const
+{
+    QStringList lines;
+    for (int i = 0; i < topLevelItemCount(); ++i) {
+        const QTreeWidgetItem *heading = topLevelItem(i);
+        lines << heading->text(0);
+        for (int row = 0; row < heading->childCount(); ++row)
+            lines << heading->child(row)->text(0) + QStringLiteral(": ") + heading->child(row)->text(1);
+    }
+    return lines;
 }
 
 } // namespace bv

@@ -35,14 +35,40 @@ TEST(Summary, FollowsTheOrderArrayAndSkipsValuesWithoutText)
     EXPECT_EQ(summaryItems(summary).size(), 2U);
 }
 
-TEST(Summary, ShowsMarkupAsText)
+TEST(Summary, ShowsWhatDiffersFirstAndTheRestInGroups)
 {
-    PrintDictionary summary;
-    summary.setValue("<b>A</b>", "1 < 2 & 3");
+    PrintDictionary defaults;
+    for (const char *name : {"Toner", "<b>Sharp</b>", "Photo", "Paper"})
+        defaults.setValue(name, "usual");
+    PrintDictionary summary = defaults;
+    summary.setValue(kSummaryDisplayOrder, PrintArray{"Toner", "Photo", "<b>Sharp</b>", "Paper"});
+    const SummaryHints hints = {{"Photo", {"Images", {}}}, {"<b>Sharp</b>", {"Images", "Gray is on."}}};
     SummaryView view;
-    view.showSummary(summary);
-    EXPECT_TRUE(view.toPlainText().contains("<b>A</b>"));
-    EXPECT_TRUE(view.toPlainText().contains("1 < 2 & 3"));
+    view.showSummary(summary, defaults, hints);
+    EXPECT_EQ(view.lines(), (QStringList{"All as the printer proposes.", "Unchanged", "Toner: usual", "Paper: usual",
+                                         "Images", "Photo: usual", "<b>Sharp</b>: usual"}));
+    const QTreeWidgetItem *dimmed = view.topLevelItem(2)->child(1);
+    EXPECT_FALSE(view.topLevelItem(2)->isExpanded());
+    EXPECT_TRUE(dimmed->data(0, Qt::AccessibleTextRole).toString().contains("Gray is on."));
+    EXPECT_TRUE(dimmed->data(1, Qt::ForegroundRole).isValid());
+
+    summary.setValue("Photo", "vivid");
+    view.topLevelItem(2)->setExpanded(true);
+    view.showSummary(summary, defaults, hints);
+    EXPECT_EQ(view.lines(), (QStringList{"Changed", "Photo: vivid", "Unchanged", "Toner: usual", "Paper: usual",
+                                         "Images", "<b>Sharp</b>: usual"}));
+    EXPECT_TRUE(view.topLevelItem(0)->isExpanded());
+    EXPECT_TRUE(view.topLevelItem(0)->child(0)->font(1).bold());
+    EXPECT_TRUE(view.topLevelItem(2)->isExpanded()) << "what the user unfolded stays so";
+
+    const QTreeWidgetItem *row = view.topLevelItem(0)->child(0);
+    summary.setValue("Photo", "vivid & <i>deep</i>");
+    view.showSummary(summary, defaults, {{"Photo", {"Images", {}}}, {"<b>Sharp</b>", {"Images", {}}}});
+    EXPECT_EQ(view.topLevelItem(0)->child(0), row) << "only texts are renewed";
+    EXPECT_EQ(row->text(1), "vivid & <i>deep</i>");
+    EXPECT_FALSE(view.topLevelItem(2)->child(0)->data(1, Qt::ForegroundRole).isValid());
+    view.showNote("Nothing.");
+    EXPECT_EQ(view.lines(), QStringList{"Nothing."});
 }
 
 TEST(ChangeWatcherTest, ReportsSeveralChangesOfOneTurnOnce)

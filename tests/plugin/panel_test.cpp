@@ -324,11 +324,17 @@ TEST_F(Panel, SaysWhatABoxSwitchedOffAndTurnsItOff)
         return of->palette().color(QPalette::Active, QPalette::WindowText) ==
                of->palette().color(QPalette::Disabled, QPalette::WindowText);
     };
+    const auto *hidden = control<QComboBox>("menu_tRGBIntent");
+    EXPECT_EQ(hidden->property(bv::kSummaryNameProperty).toString(), "Text RGB Intent");
+    EXPECT_EQ(hidden->property(bv::kSummaryGroupProperty).toString(), "Text");
+    EXPECT_TRUE(hidden->property(bv::kSummaryOffProperty).toString().contains("Color as Grayscale"));
+    EXPECT_EQ(gray->property(bv::kSummaryGroupProperty).toString(), "General settings");
     panel->constraints();
     EXPECT_TRUE(greyed("text_iRGBIntent"));
     EXPECT_TRUE(control<QLabel>("text_iRGBIntent")->isEnabled());
     turnOff->click();
     EXPECT_FALSE(gray->isChecked());
+    EXPECT_TRUE(hidden->property(bv::kSummaryOffProperty).toString().isEmpty());
     EXPECT_TRUE(text->isHidden() && turnOff->isHidden());
     EXPECT_FALSE(greyed("text_iRGBIntent"));
     EXPECT_TRUE(control<QComboBox>("menu_iRGBIntent")->isEnabled());
