@@ -2,6 +2,7 @@
 // Paints the sheet in the middle, as large as it fits.
 #include "preview/SheetView.h"
 
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
@@ -36,10 +37,19 @@ constexpr KeyRow kKeys[] = {
 };
 // clang-format on
 
+// A picture, for screen readers: they pass over the name of a widget of no particular kind.
+QAccessibleInterface *accessiblePicture(const QString &className, QObject *object)
+{
+    if (className != QLatin1String(SheetView::staticMetaObject.className()))
+        return nullptr;
+    return new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::Graphic);
+}
+
 } // namespace
 
 SheetView::SheetView(QWidget *parent) : QWidget(parent)
 {
+    QAccessible::installFactory(accessiblePicture); // once, however often it is called
     setObjectName(QStringLiteral("previewSheet"));
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

@@ -4,6 +4,7 @@
 #include "preview/PagePreview.h"
 #include "preview/SheetView.h"
 
+#include <QAccessible>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
@@ -105,6 +106,9 @@ TEST_F(Preview, TurnsPagesByKeysWheelButtonsAndField)
     show({write("a.pdf", pdfWithPages(std::vector<QSize>(5, kA4))), write("b.pdf", pdfWithPages({kA4, kA4}))});
     EXPECT_EQ(said(pageName(1, 5, "a.pdf")), pageName(1, 5, "a.pdf"));
     EXPECT_EQ(shownColor(), QColor(Qt::red));
+    const QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(sheet());
+    EXPECT_EQ(accessible->role(), QAccessible::Graphic);
+    EXPECT_EQ(accessible->text(QAccessible::Name), pageName(1, 5, "a.pdf"));
     EXPECT_FALSE(find<QToolButton>("previewBack")->isEnabled());
     QTest::keyClick(sheet(), Qt::Key_PageDown);
     EXPECT_EQ(said(pageName(2, 5, "a.pdf")), pageName(2, 5, "a.pdf"));
