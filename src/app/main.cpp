@@ -8,6 +8,7 @@
 #include "dialog/PrintDialogRunner.h"
 #include "jobs/DocumentArguments.h"
 #include "jobs/FolderSink.h"
+#include "jobs/PdfPages.h"
 #include "jobs/PrintServerSink.h"
 #include "platform/FileDescriptor.h"
 #include "queues/BackgroundCall.h"
@@ -50,7 +51,7 @@ int runBatch(const bv::CommandLine &line, bv::PanelLoader &loader)
     if (line.session.usesServer())
         sink = std::make_shared<bv::PrintServerSink>();
     const bool scriptIsInput = line.script == u"-";
-    bv::BatchCommands commands(*session.value(), loader, sink, bv::DocumentArguments(!scriptIsInput));
+    bv::BatchCommands commands(*session.value(), loader, sink, bv::DocumentArguments(!scriptIsInput), bv::pdfPages());
     // With these signals ignored, a closed pipe or a file at its size limit is a write error and does not kill the
     // program.
     std::signal(SIGPIPE, SIG_IGN);

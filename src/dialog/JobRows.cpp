@@ -2,7 +2,6 @@
 // Copies and page range. The range is checked while the user types.
 #include "dialog/JobRows.h"
 
-#include "jobs/PageRange.h"
 #include "platform/PlainTip.h"
 #include "queues/JobOnlyKeys.h"
 
@@ -63,6 +62,11 @@ JobOptions JobRows::options() const
     if (m_somePages->isChecked())
         options[QString::fromLatin1(kPageRangesKey)] = parsePageRange(m_range->text()).toOption();
     return options;
+}
+
+std::vector<PageRun> JobRows::pages() const
+{
+    return m_somePages->isChecked() ? parsePageRange(m_range->text()).runs : std::vector<PageRun>();
 }
 
 QString JobRows::problem() const

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "jobs/JobSink.h"
+#include "jobs/PageRange.h"
 
 #include <QWidget>
 
@@ -28,6 +29,8 @@ public:
     JobOptions options() const;
     // A sentence for the user about a wrong page range. Empty when the range is valid.
     QString problem() const;
+    // The runs of pages that are printed. None at all means all pages, or a range with a problem.
+    std::vector<PageRun> pages() const;
 
     QSpinBox *copies() const { return m_copies; }
     QFormLayout *form() const { return m_form; }

@@ -8,6 +8,7 @@
 #include "dialog/JobRows.h"
 #include "dialog/JobSending.h"
 #include "dialog/PaneSurvey.h"
+#include "dialog/PreviewBinding.h"
 #include "dialog/PrintDialogLayout.h"
 #include "dialog/QueueList.h"
 #include "queues/PanelLoader.h"
@@ -38,7 +39,7 @@ constexpr int kRestMilliseconds = 200;
 // Wide enough for pane and summary side by side, if the screen is.
 QSize startSize()
 {
-    constexpr QSize kRoomy(1200, 680);
+    constexpr QSize kRoomy(1200, 800);
     constexpr QSize kFrame(16, 48); // space for the window frame
     const QScreen *screen = QGuiApplication::primaryScreen();
     return screen ? kRoomy.boundedTo(screen->availableSize() - kFrame) : kRoomy;
@@ -49,7 +50,7 @@ QSize startSize()
 PrintDialog::PrintDialog(std::shared_ptr<const QueueSource> source, std::shared_ptr<const JobSink> sink,
                          PanelLoader &loader, RememberedTickets &remembered, PrintDialogStart start)
     : m_source(std::move(source)), m_loader(loader), m_remembered(remembered), m_start(std::move(start)),
-      m_parts(new PrintDialogLayout(this)), m_gate(new InputGate(this)),
+      m_parts(new PrintDialogLayout(this)), m_preview(new PreviewBinding(*m_parts, this)), m_gate(new InputGate(this)),
       m_deviceWait(std::make_unique<DeviceWait>(m_parts->wait, m_gate, m_parts->cancel)),
       m_sending(std::make_unique<JobSending>(std::move(sink), m_start.pageCount, m_parts->sending))
 {
@@ -315,6 +316,7 @@ void PrintDialog::showCurrent()
     }
     refreshSummary();
     updateReadiness();
+    m_preview->start();
     emit ready();
 }
 
@@ -363,6 +365,7 @@ void PrintDialog::refreshSummary()
                                       summaryHints(m_current->pane()));
     else
         m_parts->summary->showNote(m_current && !m_busy ? tr("There are no color options to sum up.") : QString());
+    m_preview->follow(m_current);
 }
 
 void PrintDialog::updateReadiness()

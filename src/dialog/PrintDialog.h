@@ -21,6 +21,7 @@ class InputGate;
 class JobSending;
 class PaneSurvey;
 class PanelLoader;
+class PreviewBinding;
 class PrintDialogLayout;
 
 // Settings from the command line.
@@ -107,6 +108,7 @@ private:
     RememberedTickets &m_remembered;
     PrintDialogStart m_start;
     PrintDialogLayout *m_parts;
+    PreviewBinding *m_preview;
 
     std::vector<std::unique_ptr<QueueRoom>> m_rooms;
     QueueRoom *m_current = nullptr; // one of m_rooms, or null

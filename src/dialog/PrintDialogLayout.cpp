@@ -6,6 +6,8 @@
 #include "dialog/JobRows.h"
 #include "dialog/PpdOptionRows.h"
 #include "dialog/QueueList.h"
+#include "dialog/WindowSettings.h"
+#include "preview/PagePreview.h"
 #include "platform/PlainTip.h"
 #include "widgets/DocumentList.h"
 #include "widgets/MessageBar.h"
@@ -31,6 +33,10 @@
 namespace bv {
 
 namespace {
+
+// The preview unfolds by itself where it has so many lines of text for its sheet, so that it never takes the place of
+// settings on a small screen.
+constexpr int kPreviewLines = 14;
 
 // Widths in average characters.
 constexpr int kSideCharacters = 44;       // the side, at least
@@ -111,6 +117,7 @@ QWidget *PrintDialogLayout::makeSide()
     m_settings->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     m_sideColumn->addWidget(m_settings);
     m_sideColumn->addWidget(makeSummary(), 1);
+    m_sideColumn->addWidget(makePreview(), 1);
     m_sideColumn->addStretch(0);
     side->setFixedWidth(fontMetrics().averageCharWidth() * kSideCharacters);
     return side;
@@ -129,6 +136,17 @@ QWidget *PrintDialogLayout::makeSummary()
     box->addWidget(label);
     box->addWidget(summary, 1);
     return m_summaryBox;
+}
+
+QWidget *PrintDialogLayout::makePreview()
+{
+    preview = new PagePreview(this);
+    preview->setFolded(true);
+    connect(preview, &PagePreview::foldedByUser, this, [this](bool folded) {
+        m_previewFoldedByUser = folded;
+        m_previewUnfoldedByUser = !folded;
+    });
+    return preview;
 }
 
 QWidget *PrintDialogLayout::makePlace()
@@ -219,6 +237,7 @@ void PrintDialogLayout::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     placeSummary();
+    placePreview();
 }
 
 bool PrintDialogLayout::event(QEvent *event)
@@ -251,6 +270,24 @@ void PrintDialogLayout::placeSummary()
     setTabOrders();
 }
 
+void PrintDialogLayout::unfoldPreview()
+{
+    if (!m_previewPlaced)
+        m_previewFoldedByUser = previewWasFolded();
+    m_previewPlaced = true;
+    placePreview();
+}
+
+void PrintDialogLayout::placePreview()
+{
+    if (!m_previewPlaced || m_previewFoldedByUser || m_previewUnfoldedByUser)
+        return;
+    const int others =
+        m_settings->sizeHint().height() + (m_summaryAside ? 0 : m_summaryBox->minimumSizeHint().height());
+    const int room = m_side->height() - others - 2 * m_sideColumn->spacing();
+    preview->setFolded(room < preview->heightForSheet(fontMetrics().height() * kPreviewLines));
+}
+
 // Makes the side wider for longer texts (another language, another PPD), but leaves the pane the room it needs.
 void PrintDialogLayout::widenSide()
 {
@@ -260,13 +297,30 @@ void PrintDialogLayout::widenSide()
     m_side->setFixedWidth(std::clamp(content, character * kSideCharacters, character * kWidestSideCharacters));
 }
 
+// The last control inside `owner` in the tab order, or `otherwise` if it has none.
+QWidget *PrintDialogLayout::lastControl(const QWidget *owner, QWidget *otherwise) const
+{
+    QWidget *last = otherwise;
+    for (QWidget *widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain()) {
+        if ((widget->focusPolicy() & Qt::TabFocus) != 0 && owner->isAncestorOf(widget))
+            last = widget;
+    }
+    return last;
+}
+
 // New widgets are added at the end of the tab chain. Everything that belongs behind them is appended again, so that the
 // order inside the pane stays unchanged.
 void PrintDialogLayout::setTabOrders()
 {
+    // Rows, preview, pane: from top to bottom, then to the next column.
+    QWidget *before = lastControl(m_rows->currentWidget(), lastControl(job, queues->popUp()));
+    for (QWidget *widget : preview->controls()) {
+        setTabOrder(before, widget);
+        before = widget;
+    }
     const QList<QWidget *> behind = {
         wait->skipButton(), summary, sending->stopButton(), restore, defaults, cancel, print};
-    QWidget *before = queues->popUp();
+    before = queues->popUp();
     for (QWidget *widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain()) {
         const bool takesTabs = (widget->focusPolicy() & Qt::TabFocus) != 0;
         const bool moved = std::any_of(behind.begin(), behind.end(), [widget](const QWidget *one) {

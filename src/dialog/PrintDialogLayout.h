@@ -17,6 +17,7 @@ class DefaultsMenu;
 class DocumentList;
 class JobRows;
 class MessageBar;
+class PagePreview;
 class PaneArea;
 class PpdOptionRows;
 class QueueList;
@@ -36,6 +37,7 @@ public:
     MessageBar *message = nullptr;
     DocumentList *documents = nullptr;
     JobRows *job = nullptr;
+    PagePreview *preview = nullptr;
     SummaryView *summary = nullptr;
     QPushButton *restore = nullptr;
     DefaultsMenu *defaults = nullptr;
@@ -52,6 +54,9 @@ public:
     void showWait(PpdOptionRows *rows, const QString &sentence);
     // Shows a quiet line above the pane; none when it is empty.
     void showPaneNote(const QString &note);
+    // Unfolds the preview if there is room for it and the user has not folded it, else folds it. From now on it follows
+    // the window's size.
+    void unfoldPreview();
     // The sentence shown instead of a pane. Empty while a pane is shown.
     QString placeText() const;
 
@@ -63,11 +68,14 @@ private:
     QWidget *makeSide();
     QWidget *makePlace();
     QWidget *makeSummary();
+    QWidget *makePreview();
     QBoxLayout *makeButtons(QDialog *dialog);
     // Puts the summary beside the pane in a wide window, else below the job's settings.
     void placeSummary();
     void widenSide();
+    void placePreview();
     void setTabOrders();
+    QWidget *lastControl(const QWidget *owner, QWidget *otherwise) const;
     void alignLabels(PpdOptionRows *rows);
 
     QBoxLayout *m_middle = nullptr;
@@ -81,6 +89,9 @@ private:
     QLabel *m_paneNote = nullptr;
     QWidget *m_noRows = nullptr;
     bool m_summaryAside = false;
+    bool m_previewPlaced = false;
+    bool m_previewFoldedByUser = false;
+    bool m_previewUnfoldedByUser = false;
 };
 
 } // namespace bv

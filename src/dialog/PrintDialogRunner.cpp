@@ -3,10 +3,13 @@
 #include "dialog/PrintDialogRunner.h"
 
 #include "dialog/PrintDialog.h"
+#include "dialog/PrintDialogLayout.h"
 #include "jobs/DocumentArguments.h"
 #include "jobs/FolderSink.h"
+#include "jobs/PdfPages.h"
 #include "jobs/PrintServerSink.h"
 #include "queues/Complaint.h"
+#include "preview/PagePreview.h"
 #include "queues/PanelLoader.h"
 #include "queues/TicketJson.h"
 
@@ -19,8 +22,10 @@ namespace bv {
 
 namespace {
 
-// The smallest supported screen; pictures are taken at this size.
-constexpr QSize kPictureSize(1024, 600);
+// Pictures are taken at this size.
+constexpr QSize kPictureSize(1200, 760);
+// They wait so long for the preview's first page.
+constexpr int kPreviewMilliseconds = 5000;
 
 int badStart(const QString &sentence)
 {
@@ -35,14 +40,19 @@ void takePicture(PrintDialog &dialog, const QString &path, int &status)
     QObject::connect(
         &dialog, &PrintDialog::ready, &dialog,
         [&dialog, path, &status] {
-            // Waits one more turn of the event loop for the layout.
-            QTimer::singleShot(0, &dialog, [&dialog, path, &status] {
+            const PagePreview *preview = dialog.parts().preview;
+            auto *wait = new QTimer(&dialog);
+            wait->setSingleShot(true);
+            QObject::connect(preview, &PagePreview::shown, wait, [wait] { wait->start(0); });
+            QObject::connect(wait, &QTimer::timeout, &dialog, [&dialog, path, &status] {
                 // Unbuffered, because errors in a last buffered write would go unnoticed.
                 QFile file(path);
                 if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !dialog.grab().save(&file, "PNG"))
                     status = badStart(QStringLiteral("The picture %1 cannot be written.").arg(path));
                 dialog.reject();
             });
+            // Waits at least one more turn of the event loop for the layout.
+            wait->start(preview->isFolded() ? 0 : kPreviewMilliseconds);
         },
         Qt::SingleShotConnection);
 }
@@ -65,6 +75,7 @@ int runPrintDialog(const WindowRequest &request, PanelLoader &loader)
     if (!documents)
         return badStart(documents.error());
     start.documents = std::move(documents.value());
+    start.pageCount = pdfPages();
     if (!session.ticket.isEmpty()) {
         Result<PrintDictionary> ticket = ticketFromFile(session.ticket);
         if (!ticket)

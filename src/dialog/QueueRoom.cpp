@@ -155,6 +155,17 @@ Result<UserDefaults::Options> QueueRoom::choices()
     return defaultsFromTicket(ticket());
 }
 
+JobOptions QueueRoom::options()
+{
+    // A refusal is ignored: before printing the panel is asked again, and then it counts.
+    if (m_holder)
+        m_holder->panel().saveValuesAndReturnError(nullptr);
+    Ticket choices;
+    choices.replace(m_session->ticket().entries());
+    m_rows->writeTo(&choices);
+    return jobOptions(choices.entries(), m_session->ppdFile());
+}
+
 PrintDictionary QueueRoom::summary()
 {
     return m_holder ? m_holder->panel().summaryInfo() : PrintDictionary();

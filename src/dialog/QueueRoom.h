@@ -71,6 +71,11 @@ public:
     // The present choices of rows and panel. A failure is a sentence for the user.
     Result<UserDefaults::Options> choices();
 
+    // All options of a job with the present choices. Call it in the state Ready.
+    JobOptions options();
+    // For looking up the meaning of an option. Null before open().
+    ppd_file_t *ppd() const { return m_session ? m_session->ppdFile() : nullptr; }
+
     // The panel's summary. An empty dictionary without a panel.
     PrintDictionary summary();
     // What the summary says while every setting is as the printer proposes. Empty without a panel.

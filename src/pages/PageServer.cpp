@@ -63,7 +63,7 @@ QImage inGray(const QImage &picture)
 
 } // namespace
 
-PageServer::PageServer(std::unique_ptr<DocumentReader> reader, int input, int output)
+PageServer::PageServer(std::unique_ptr<PageReader> reader, int input, int output)
     : m_reader(std::move(reader)), m_input(input), m_output(output)
 {}
 

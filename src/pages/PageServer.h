@@ -2,7 +2,7 @@
 // Answers requests for the pages of one document until there are no more requests.
 #pragma once
 
-#include "pages/DocumentReader.h"
+#include "pages/PageReader.h"
 
 namespace bv {
 
@@ -10,7 +10,7 @@ class PageServer
 {
 public:
     // The reader may be null: then every answer is that the document cannot be shown.
-    PageServer(std::unique_ptr<DocumentReader> reader, int input, int output);
+    PageServer(std::unique_ptr<PageReader> reader, int input, int output);
 
     // Returns when the input ends, or when a request makes no sense or an answer cannot be written.
     void serve();
@@ -22,7 +22,7 @@ private:
     void render(const PageRequest &request, PageAnswer &answer, QImage *picture);
     bool write(const PageAnswer &answer, const QImage &picture);
 
-    std::unique_ptr<DocumentReader> m_reader;
+    std::unique_ptr<PageReader> m_reader;
     int m_input;
     int m_output;
     bool m_laidOut = false;

@@ -2,14 +2,14 @@
 // Pages of a PDF document, by Poppler.
 #pragma once
 
-#include "pages/DocumentReader.h"
+#include "pages/PageReader.h"
 
 #include <QFile>
 #include <poppler-qt6.h>
 
 namespace bv {
 
-class PdfReader final : public DocumentReader
+class PdfReader final : public PageReader
 {
 public:
     explicit PdfReader(int descriptor);

@@ -2,14 +2,14 @@
 // A picture file (PNG, JPEG, TIFF, ...) as a document, by Qt's image plug-ins.
 #pragma once
 
-#include "pages/DocumentReader.h"
+#include "pages/PageReader.h"
 
 #include <QFile>
 #include <QImageReader>
 
 namespace bv {
 
-class PictureReader final : public DocumentReader
+class PictureReader final : public PageReader
 {
 public:
     explicit PictureReader(int descriptor);

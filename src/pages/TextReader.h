@@ -2,7 +2,7 @@
 // A plain text file as a document, laid out as the print server's filter does: 10 characters an inch, 6 lines an inch.
 #pragma once
 
-#include "pages/DocumentReader.h"
+#include "pages/PageReader.h"
 
 #include <QFont>
 #include <QString>
@@ -10,7 +10,7 @@
 
 namespace bv {
 
-class TextReader final : public DocumentReader
+class TextReader final : public PageReader
 {
 public:
     // Needs a QGuiApplication for the font.

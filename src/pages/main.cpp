@@ -60,7 +60,7 @@ int main(int argc, char **argv)
     int wordCount = 3;
     if (content == bv::PageContent::Text)
         application.emplace(wordCount, words.data());
-    std::unique_ptr<bv::DocumentReader> reader = bv::makeReader(content, bv::kDocumentDescriptor);
+    std::unique_ptr<bv::PageReader> reader = bv::makeReader(content, bv::kDocumentDescriptor);
     raiseFence();
     bv::PageServer(std::move(reader), STDIN_FILENO, STDOUT_FILENO).serve();
     // Without the destructors, which could stumble over what a broken document left behind.

@@ -199,11 +199,18 @@ void PagePreview::setFolded(bool folded)
         return;
     m_folded = folded;
     m_body->setVisible(!folded);
+    setSizePolicy(QSizePolicy::Preferred, folded ? QSizePolicy::Fixed : QSizePolicy::Expanding);
     if (folded) {
         closeRenderer();
         m_cache.clear();
     }
     refresh();
+}
+
+int PagePreview::heightForSheet(int sheet) const
+{
+    const int around = m_body->layout()->minimumSize().height() - m_sheet->minimumSizeHint().height();
+    return m_toggle->sizeHint().height() + layout()->spacing() + around + sheet;
 }
 
 PagePreview::Document *PagePreview::current()

@@ -40,10 +40,14 @@ public:
     bool isFolded() const { return m_folded; }
     // Folds or unfolds without foldedByUser().
     void setFolded(bool folded);
+    // The height of the whole with a sheet of this height, for a layout that decides about folding.
+    int heightForSheet(int sheet) const;
 
     // The controls in tab order.
     QList<QWidget *> controls() const;
     const SheetView &sheet() const { return *m_sheet; }
+    const Sheet &paper() const { return m_paper; }
+    bool isGray() const { return m_gray; }
     int document() const { return m_document; }
     // Counted from 1; 0 while the document is not open or has no selected page.
     int page() const;

@@ -101,7 +101,8 @@ QString SheetView::note() const
 
 QSize SheetView::sizeHint() const
 {
-    return {fontMetrics().averageCharWidth() * 30, fontMetrics().height() * 16};
+    // Other parts of a window get what they need first; this one takes what is left.
+    return minimumSizeHint();
 }
 
 QSize SheetView::minimumSizeHint() const

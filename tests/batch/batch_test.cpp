@@ -332,6 +332,9 @@ TEST_F(Batch, APanelThatRefusesStopsTheJobWithItsOwnWords)
     EXPECT_TRUE(does("set stampText hold"));
     EXPECT_EQ(result("shouldPrint"), false);
     EXPECT_FALSE(error("print " + document).isEmpty());
+    EXPECT_TRUE(does(R"(setTicket {"page-ranges":"1-3"})"));
+    EXPECT_EQ(error("print \"" BV_SOURCE_DIR "/resources/demo/sample.pdf\""),
+              "sample.pdf has 1 page; there is no page 3.");
 }
 
 TEST_F(Batch, StartsFromTheTicketThatIsNamedAndChangesItInPlace)

@@ -51,7 +51,7 @@ protected:
         if (!GetParam().ppd.isEmpty())
             source.ppdPaths["Paper"] = GetParam().ppd;
         open();
-        dialog->resize(1024, 600);
+        dialog->resize(1024, 900); // with room for the preview
         ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
     }
 
@@ -179,7 +179,8 @@ TEST_P(Keyboard, FollowsTheLayoutFromTopToBottomAtAnyWidth)
         EXPECT_LT(names.indexOf("printer"), names.indexOf("documentList"));
         EXPECT_LT(names.indexOf("documentList"), names.indexOf("copies"));
         EXPECT_LT(names.indexOf("copies"), names.indexOf("row_PageSize"));
-        EXPECT_LT(names.indexOf("row_PageSize"), paneAt);
+        EXPECT_LT(names.indexOf("row_PageSize"), names.indexOf("previewToggle"));
+        EXPECT_LT(names.indexOf("previewToggle"), paneAt);
         EXPECT_LT(paneAt, names.indexOf("summaryView")) << qPrintable(names.join(' '));
         EXPECT_LT(names.indexOf("summaryView"), names.indexOf("restoreDefaults"));
         EXPECT_LT(names.indexOf("restoreDefaults"), names.indexOf("cancel"));

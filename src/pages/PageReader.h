@@ -10,10 +10,10 @@
 
 namespace bv {
 
-class DocumentReader
+class PageReader
 {
 public:
-    virtual ~DocumentReader() = default;
+    virtual ~PageReader() = default;
 
     virtual PageContent content() const = 0;
     // Reads the document as far as needed to know its pages, which depend on the sheet where it has none of its own.
@@ -28,6 +28,6 @@ public:
 
 // Makes the reader for the document on `descriptor`, which stays open as long as the reader lives. Loads all plug-ins
 // and settings that the reader needs, but reads nothing of the document. Null for content that is not shown.
-std::unique_ptr<DocumentReader> makeReader(PageContent content, int descriptor);
+std::unique_ptr<PageReader> makeReader(PageContent content, int descriptor);
 
 } // namespace bv

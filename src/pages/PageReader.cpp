@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // Which reader reads what.
-#include "pages/DocumentReader.h"
+#include "pages/PageReader.h"
 
 #include "pages/PdfReader.h"
 #include "pages/PictureReader.h"
@@ -8,7 +8,7 @@
 
 namespace bv {
 
-std::unique_ptr<DocumentReader> makeReader(PageContent content, int descriptor)
+std::unique_ptr<PageReader> makeReader(PageContent content, int descriptor)
 {
     switch (content) {
     case PageContent::Pdf:
