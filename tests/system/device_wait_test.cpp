@@ -4,6 +4,7 @@
 #include "support/ListRoot.h"
 
 #include "dialog/DeviceWait.h"
+#include "dialog/WindowSettings.h"
 #include "dialog/InputGate.h"
 #include "widgets/WaitPanel.h"
 
@@ -30,6 +31,7 @@ protected:
     {
         DialogTest::SetUp();
         loadPlugin(QStringLiteral(BV_BUILD_DIR "/lib/bvco/bvco.so"));
+        bv::rememberPreviewFolded(true); // an unfolded one has a process of its own
         ASSERT_TRUE(m_printer.bind(QHostAddress::LocalHost, 0));
         root.write("snmp/snmp.conf", "mibs :\ndefaultPort " + std::to_string(m_printer.localPort()) + "\n");
         setenv("SNMPCONFPATH", root.file("snmp").c_str(), 1);
