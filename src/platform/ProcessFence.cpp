@@ -93,13 +93,13 @@ bool filterCalls(const FenceRules &rules)
     allow(filter, kAlways);
     // Questions that the C library asks of each stream that it opens; never one that changes a terminal.
     for (const unsigned long question : {static_cast<unsigned long>(TCGETS), static_cast<unsigned long>(FIONREAD)})
-        seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, SCMP_SYS(ioctl), 1, SCMP_A1(SCMP_CMP_EQ, question));
-    seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, SCMP_SYS(prctl), 1, SCMP_A0(SCMP_CMP_EQ, PR_SET_NAME));
+        seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, SCMP_SYS(ioctl), 1, SCMP_A1(SCMP_CMP_EQ, question, 0));
+    seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, SCMP_SYS(prctl), 1, SCMP_A0(SCMP_CMP_EQ, PR_SET_NAME, 0));
     // Asking for a limit; root could raise one again.
-    seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, SCMP_SYS(prlimit64), 1, SCMP_A2(SCMP_CMP_EQ, 0));
+    seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, SCMP_SYS(prlimit64), 1, SCMP_A2(SCMP_CMP_EQ, 0, 0));
     // abort(3)
     seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, SCMP_SYS(tgkill), 1,
-                     SCMP_A0(SCMP_CMP_EQ, static_cast<scmp_datum_t>(getpid())));
+                     SCMP_A0(SCMP_CMP_EQ, static_cast<scmp_datum_t>(getpid()), 0));
     if (!rules.readable.empty()) {
         allow(filter, kWithReadable);
         allowOpening(filter);
