@@ -268,8 +268,9 @@ PrintDictionary ticketFromDefaults(const UserDefaults::Options &options, ppd_fil
 
     PrintDictionary ticket;
     for (const auto &[name, value] : options) {
-        const bool isMarked = std::any_of(std::begin(kMarkedByLibcups), std::end(kMarkedByLibcups),
-                                          [&name](const char *standard) { return name == QLatin1String(standard); });
+        const bool isMarked =
+            std::any_of(std::begin(kMarkedByLibcups), std::end(kMarkedByLibcups),
+                        [&name = name](const char *standard) { return name == QLatin1String(standard); });
         if (!isMarked && !ppdFindOption(ppd, name.toUtf8().constData()))
             ticket.setValue(name, PrintValue(value));
     }
