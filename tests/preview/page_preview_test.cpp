@@ -200,7 +200,8 @@ TEST_F(Preview, OutlivesAProcessThatHangsLiesOrEnds)
         m_preview = std::make_unique<PagePreview>();
         useScript(line);
         show({document});
-        EXPECT_TRUE(QTest::qWaitFor([&] { return sheetNote() == QStringLiteral("No preview\n") + why; }, kPatience))
+        EXPECT_TRUE(
+            QTest::qWaitFor([&, why = why] { return sheetNote() == QStringLiteral("No preview\n") + why; }, kPatience))
             << line;
         EXPECT_EQ(children().size(), 0);
     }
