@@ -26,8 +26,8 @@ install(CODE "
 install(TARGETS bvprint RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 # bvprint looks for the plug-in and for bvpages beside itself, in ../lib/bvco.
 install(TARGETS bvco LIBRARY DESTINATION lib/bvco)
-install(TARGETS bvpages RUNTIME DESTINATION lib/bvco)
-install(TARGETS QL70Helper QL70Walk QL70Resolve RUNTIME DESTINATION "${BV_HELPERS}")
+install(TARGETS bvpages QL70Resolve RUNTIME DESTINATION lib/bvco)
+install(TARGETS QL70Helper QL70Walk RUNTIME DESTINATION "${BV_HELPERS}")
 
 install(TARGETS bvql70 RUNTIME DESTINATION ${BV_FILTERS})
 

@@ -2,8 +2,8 @@
 // Has QL70Resolve look up a service, and ends it at the limit.
 #include "platform/NetworkService.h"
 
+#include "platform/Bundle.h"
 #include "platform/ChildProcess.h"
-#include "platform/RootPath.h"
 
 #include <arpa/inet.h>
 #include <array>
@@ -35,12 +35,19 @@ std::optional<bv::AddressRecord> recordOf(const std::string &line)
 
 } // namespace
 
+std::string bv::resolverPath()
+{
+    const bv::Bundle *bundle = pluginBundle();
+    const std::string plugin = bundle ? bundle->path().toStdString() : std::string();
+    return plugin.substr(0, plugin.find_last_of('/') + 1) + "QL70Resolve";
+}
+
 std::optional<std::vector<bv::AddressRecord>> bv::resolveService(const std::string &name, const std::string &type,
                                                                  const std::string &domain,
                                                                  std::chrono::milliseconds limit)
 {
     const std::array<std::string, 4> words = {std::to_string(limit.count()), name, type, domain};
-    const std::optional<ChildResult> result = runChild(mapRootPath(kResolverPath), words, limit);
+    const std::optional<ChildResult> result = runChild(resolverPath(), words, limit);
     const std::optional<AddressRecord> record = result ? recordOf(result->output) : std::nullopt;
     if (!record)
         return std::nullopt;

@@ -10,9 +10,8 @@
 
 namespace bv {
 
-// The fixed logical path of the program that asks the Avahi daemon, beside the helper.
-inline constexpr char kResolverPath[] =
-    "/Library/Application Support/BREVANE/QL70/Helpers/QL70Helper.app/Contents/MacOS/QL70Resolve";
+// The path of the program that asks the Avahi daemon: beside the plug-in's file, since it belongs to the plug-in.
+std::string resolverPath();
 
 // A socket address record as the system's network calls use it (struct sockaddr_in for IPv4).
 using AddressRecord = std::vector<std::byte>;

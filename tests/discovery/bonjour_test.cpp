@@ -10,11 +10,14 @@
 #include "support/ProgramUnderTest.h"
 
 #include "discovery/DeviceAddress.h"
+#include "platform/Bundle.h"
+#include "platform/NetworkService.h"
 #include "profiles/ProfileOperations.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QTemporaryDir>
 #include <QUrl>
 #include <chrono>
 #include <csignal>
@@ -50,9 +53,23 @@ QString uriOf(const std::string &name)
     return QStringLiteral("dnssd://%1._pdl-datastream._tcp.local./?uuid=1").arg(QString::fromLatin1(host));
 }
 
-TEST(Bonjour, ResolvesNamesOfEveryKind)
+// Puts a link to the resolver beside a plug-in, and lets the tests put something else there.
+class Bonjour : public testing::Test
 {
+protected:
+    void SetUp() override
+    {
+        static const QTemporaryDir folder; // the first bundle is the one that counts
+        setPluginBundle({folder.filePath(QStringLiteral("bvco.so")), {}});
+        std::filesystem::remove(bv::resolverPath());
+        std::filesystem::create_symlink(BV_BUILD_DIR "/lib/bvco/QL70Resolve", bv::resolverPath());
+    }
+
     const bvtest::ListRoot root;
+};
+
+TEST_F(Bonjour, ResolvesNamesOfEveryKind)
+{
     for (const char *name : {"QL70", "QL 70 (é) lab", "QL70 rev. 1.2", "100% \"color\" / プリンタ", "-h"}) {
         const Publisher publisher(name);
         EXPECT_THAT(bv::walkHost(uriOf(name)), Optional(Eq(kAddress))) << name;
@@ -72,15 +89,14 @@ private:
     pid_t m_process;
 };
 
-TEST(Bonjour, EndsAtTheTimeLimitWhateverHangs)
+TEST_F(Bonjour, EndsAtTheTimeLimitWhateverHangs)
 {
-    const bvtest::ListRoot root;
     const Publisher publisher("QL70");
-    const char *kHanging[] = {nullptr, "BV_AVAHI_PID", "BV_BUS_PID", bv::kResolverPath};
+    const char *kHanging[] = {nullptr, "BV_AVAHI_PID", "BV_BUS_PID", "resolver"};
     for (const char *hanging : kHanging) {
         const auto stopped = hanging && *hanging == 'B' ? std::make_unique<Stopped>(hanging) : nullptr;
-        if (hanging == bv::kResolverPath) {
-            const std::filesystem::path resolver = bv::mapRootPath(bv::kResolverPath);
+        if (hanging && *hanging == 'r') {
+            const std::filesystem::path resolver = bv::resolverPath();
             std::filesystem::remove(resolver);
             std::ofstream(resolver) << "#!/bin/sh\nkill -STOP $$\n";
             std::filesystem::permissions(resolver, std::filesystem::perms(0755));
@@ -94,16 +110,14 @@ TEST(Bonjour, EndsAtTheTimeLimitWhateverHangs)
     }
 }
 
-TEST(Bonjour, EndsAtOnceWithoutAResolver)
+TEST_F(Bonjour, EndsAtOnceWithoutAResolver)
 {
-    const bvtest::ListRoot root;
-    std::filesystem::remove(bv::mapRootPath(bv::kResolverPath));
+    std::filesystem::remove(bv::resolverPath());
     EXPECT_EQ(bv::walkHost(uriOf("QL70")), std::nullopt);
 }
 
-TEST(Bonjour, TheRefreshReachesThePrinterBehindTheName)
+TEST_F(Bonjour, TheRefreshReachesThePrinterBehindTheName)
 {
-    const bvtest::ListRoot root;
     root.write("snmp/snmp.conf", ""); // use the standard port, which this namespace may open
     setenv("SNMPCONFPATH", root.file("snmp").c_str(), 1);
     ProgramUnderTest printer({BV_BUILD_DIR "/bin/ql70sim", "--port", "161", "--address", kAddress, "--count"});

@@ -15,7 +15,6 @@ public:
         const std::filesystem::path helper = bv::mapRootPath(kHelperPath);
         std::filesystem::remove(helper);
         std::filesystem::create_symlink(BV_BUILD_DIR "/bin/QL70Helper", helper);
-        std::filesystem::create_symlink(BV_BUILD_DIR "/bin/QL70Resolve", helper.parent_path() / "QL70Resolve");
     }
 
     // Path of a file in the root's folder.
