@@ -12,12 +12,6 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-// libcups does not free all that it makes of a PPD's printer presets (under the leak checker only).
-extern "C" [[gnu::visibility("default")]] const char *__lsan_default_suppressions()
-{
-    return "leak:_ppdCacheCreateWithPPD\nleak:cupsAddOption\n";
-}
-
 namespace {
 
 constexpr char kOption[] = "BVFuzzed";
