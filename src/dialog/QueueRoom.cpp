@@ -3,6 +3,7 @@
 #include "dialog/QueueRoom.h"
 
 #include "queues/PanelLoader.h"
+#include "queues/TicketJson.h"
 
 #include <algorithm>
 
@@ -205,7 +206,14 @@ void QueueRoom::restoreDefaults()
 Result<JobRequest> QueueRoom::makeJob(const QStringList &documents, const JobOptions &extra)
 {
     m_rows->writeTo(m_session->printSettings());
-    return prepareJob(*m_session, m_holder ? &m_holder->panel() : nullptr, documents, extra);
+    PrintPanel *panel = m_holder ? &m_holder->panel() : nullptr;
+    PrintDictionary choices;
+    Result<JobRequest> job = prepareJob(*m_session, panel, documents, extra, &choices);
+    if (panel && toJson(ticket()) != toJson(choices)) {
+        m_session->ticket().replace(choices);
+        panel->restoreValuesAndReturnError(nullptr);
+    }
+    return job;
 }
 
 } // namespace bv

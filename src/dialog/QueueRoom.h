@@ -86,7 +86,8 @@ public:
     void choiceMade(const QString &keyword, const QString &choice);
     // Empties the ticket and sets panel and rows to their defaults.
     void restoreDefaults();
-    // Makes a job of the documents with the options of the ticket and the extra ones. On a failure all choices stay.
+    // Makes a job of the documents with the options of the ticket and the extra ones. What the panel changes for the
+    // job is not kept: afterwards ticket and panel hold the user's choices again.
     Result<JobRequest> makeJob(const QStringList &documents, const JobOptions &extra);
     // The current ticket.
     const PrintDictionary &ticket() const { return m_session->ticket().entries(); }

@@ -80,16 +80,17 @@ QString checkRange(const JobOptions &options, const QStringList &documents, cons
 }
 
 Result<JobRequest> prepareJob(QueueSession &session, PrintPanel *panel, const QStringList &documents,
-                              const JobOptions &extra)
+                              const JobOptions &extra, PrintDictionary *choices)
 {
     using Job = Result<JobRequest>;
-    if (panel) {
-        QString error;
-        if (!panel->saveValuesAndReturnError(&error))
-            return Job::failure(error.isEmpty() ? tr("The options cannot be kept.") : error);
-        if (!panel->shouldPrint())
-            return Job::failure(tr("The options do not let this job be printed."));
-    }
+    QString error;
+    const bool isSaved = !panel || panel->saveValuesAndReturnError(&error);
+    if (choices)
+        *choices = deepCopy(session.ticket().entries());
+    if (!isSaved)
+        return Job::failure(error.isEmpty() ? tr("The options cannot be kept.") : error);
+    if (panel && !panel->shouldPrint())
+        return Job::failure(tr("The options do not let this job be printed."));
     return JobRequest{session.queue(), QFileInfo(documents.first()).fileName(), documents,
                       jobOptions(session.ticket().entries(), session.ppdFile(), extra)};
 }

@@ -22,4 +22,7 @@ private:
     PrintDictionaryRef m_entries = std::make_shared<PrintDictionary>();
 };
 
+// A copy that shares no nested dictionary with the original, so that a later change of one leaves the other alone.
+PrintDictionary deepCopy(const PrintDictionary &dictionary);
+
 } // namespace bv
