@@ -2,26 +2,21 @@
 // Reads one line as a job's options and the rest as a document of the print chain. Without settings the document must
 // stay as it is; with settings of options that it does not name, text may only be added; and how the document arrives
 // must make no difference.
+#include "Fuzzing.h"
 #include "filter/DocumentRewriter.h"
 #include "filter/JobSettings.h"
 
-#include <algorithm>
-#include <cstdlib>
 #include <memory>
 #include <sys/mman.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
+using fuzz::require;
+
 namespace {
 
 constexpr char kOption[] = "BVFuzzed";
 constexpr size_t kMostPieces = 100; // what a socket holds without a reader
-
-void require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 std::string replaced(std::string text, std::string_view from, std::string_view to)
 {
@@ -91,9 +86,8 @@ void checkOptions(const std::string &options)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    const std::string_view text(reinterpret_cast<const char *>(data), size);
-    const size_t end = std::min(text.find('\n'), text.size());
-    checkOptions(std::string(text.substr(0, end)));
-    checkDocument(text.substr(std::min(end + 1, text.size())));
+    fuzz::Input input(data, size);
+    checkOptions(std::string(input.line()));
+    checkDocument(input.rest());
     return 0;
 }

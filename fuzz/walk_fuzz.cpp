@@ -1,50 +1,20 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // Takes any bytes as the variables of a walk and merges the resulting spool into a list. Memory outside the slots must
 // not change, and no list may get a profile with a name that the name rule refuses.
+#include "Fuzzing.h"
 #include "discovery/FileNameRule.h"
 #include "discovery/ProfileSpool.h"
 #include "discovery/Reconciliation.h"
 
-#include <algorithm>
-#include <cstdlib>
 #include <cstring>
 #include <vector>
 
+using fuzz::require;
+
 namespace {
 
-void require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
-
-// Reads the input piece by piece. Returns zeros after its end.
-class Input
-{
-public:
-    Input(const uint8_t *data, size_t size) : m_data(data), m_left(size) {}
-    bool atEnd() const { return m_left == 0; }
-    uint8_t byte()
-    {
-        if (m_left == 0)
-            return 0;
-        --m_left;
-        return *m_data++;
-    }
-    std::vector<u_char> bytes(size_t count)
-    {
-        std::vector<u_char> taken(std::min(count, m_left));
-        std::generate(taken.begin(), taken.end(), [this] { return byte(); });
-        return taken;
-    }
-
-private:
-    const uint8_t *m_data;
-    size_t m_left;
-};
-
 // Reads one variable: column, row, length of the identifier, type, value.
-void spoolOne(Input *input)
+void spoolOne(fuzz::Input *input)
 {
     std::vector<oid> name(bv::kProfileEntryOid.begin(), bv::kProfileEntryOid.end());
     name.push_back(input->byte() % 9);
@@ -53,7 +23,7 @@ void spoolOne(Input *input)
     name.resize(input->byte() % 8 == 0 ? input->byte() % 24 : name.size());
     long number = static_cast<int8_t>(input->byte());
     const uint8_t kind = input->byte();
-    std::vector<u_char> text = input->bytes(kind >> 1);
+    std::string text(input->text(kind >> 1));
     netsnmp_variable_list variable{};
     if (kind & 1) {
         variable.type = ASN_INTEGER;
@@ -61,7 +31,7 @@ void spoolOne(Input *input)
         variable.val_len = sizeof(number);
     } else {
         variable.type = ASN_OCTET_STR;
-        variable.val.string = text.data();
+        variable.val.string = reinterpret_cast<u_char *>(text.data());
         variable.val_len = text.size();
     }
     vSpoolPlist(name.data(), name.size(), &variable, 0);
@@ -80,7 +50,7 @@ Guarded guarded;
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    Input input(data, size);
+    fuzz::Input input(data, size);
     vSpoolPlist(nullptr, 0, nullptr, 1);
     guarded = {};
     guarded.list.count = static_cast<int8_t>(input.byte()) * 8; // any count, also an invalid one

@@ -123,11 +123,9 @@ void vRestructDetail(int32_t row, ProfileList *list)
     ++list->count;
 }
 
-int32_t vRestructPlistSpool2Current(int32_t status)
+void bv::mergeSpool(int32_t status, ProfileLists *lists)
 {
-    ProfileLists lists{};
-    BVPListReadProfile_All(&lists.rgb, &lists.sim, &lists.dst);
-    ProfileList *const all[] = {&lists.rgb, &lists.sim, &lists.dst};
+    ProfileList *const all[] = {&lists->rgb, &lists->sim, &lists->dst};
 
     for (ProfileList *list : all)
         vDeleteMIBprofilesTemporary(status, list);
@@ -140,16 +138,23 @@ int32_t vRestructPlistSpool2Current(int32_t status)
     // The other two lists keep their gaps on purpose. The rows merged below fill them: users are used to that order in
     // the menus.
     if (removed)
-        BVPListPaddingProfile_Dict(&lists.rgb);
+        BVPListPaddingProfile_Dict(&lists->rgb);
 
     const int32_t rows = coveredSlots(PlistForSpool.count);
     for (int32_t row = 0; row < rows; ++row)
-        mergeRow(row, &lists.rgb, &lists.sim, &lists.dst);
+        mergeRow(row, &lists->rgb, &lists->sim, &lists->dst);
 
     for (ProfileList *list : all) {
         BVPListCleanProfile_Dict(list);
         BVPListPaddingProfile_Dict(list);
         BVPListSalvage_Dict(list);
     }
+}
+
+int32_t vRestructPlistSpool2Current(int32_t status)
+{
+    ProfileLists lists{};
+    BVPListReadProfile_All(&lists.rgb, &lists.sim, &lists.dst);
+    bv::mergeSpool(status, &lists);
     return BVPListWriteProfile_All(&lists.rgb, &lists.sim, &lists.dst);
 }

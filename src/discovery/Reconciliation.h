@@ -11,6 +11,13 @@
 // BVPListWriteProfile_All.
 int32_t vRestructPlistSpool2Current(int32_t status);
 
+namespace bv {
+
+// The merge alone, without reading and writing: what vRestructPlistSpool2Current makes of the stored lists.
+void mergeSpool(int32_t status, ProfileLists *lists);
+
+} // namespace bv
+
 // Changes the states (bv::MenuState) of all 500 records of a list before the merge. The count stays. After a good walk,
 // 1 and 2 become 1, and 4 becomes 3. After a failed walk, 1 and 2 become 0 (the record's other fields stay), and 4
 // becomes 6.

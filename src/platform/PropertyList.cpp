@@ -107,6 +107,21 @@ PropertyListNode PropertyListNode::item(std::string_view key) const
     return first == last ? PropertyListNode() : PropertyListNode(&std::prev(last)->value);
 }
 
+size_t PropertyListNode::entryCount() const
+{
+    return m_value ? m_value->entries.size() : 0;
+}
+
+std::string_view PropertyListNode::keyAt(size_t index) const
+{
+    return m_value->entries[index].key;
+}
+
+PropertyListNode PropertyListNode::valueAt(size_t index) const
+{
+    return PropertyListNode(&m_value->entries[index].value);
+}
+
 bool PropertyListNode::repeats(std::string_view key) const
 {
     const auto [first, last] = entriesOf(m_value, key);

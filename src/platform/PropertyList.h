@@ -30,6 +30,11 @@ public:
     // The value under a key of a dictionary; the last one if the key occurs more than once. The null node when the key
     // is missing or this is no dictionary.
     PropertyListNode item(std::string_view key) const;
+    // The entries of a dictionary in the order of their keys' bytes, equal keys in the order of the text: how many
+    // there are (0 for any other type), and key and value of one of them, counted from 0.
+    size_t entryCount() const;
+    std::string_view keyAt(size_t index) const;
+    PropertyListNode valueAt(size_t index) const;
     // Whether this is a dictionary with the key more than once.
     bool repeats(std::string_view key) const;
     // The value of an integer or a real as 32 bits. Fractions are cut off; values outside the range become the nearest

@@ -145,6 +145,20 @@ const char *SlotKey::at(int slot)
     return m_text.data();
 }
 
+std::optional<int> SlotKey::slotOf(std::string_view key) const
+{
+    constexpr size_t kDigits = 4;
+    if (key.size() != m_digits + kDigits || !key.starts_with(std::string_view(m_text.data(), m_digits)))
+        return std::nullopt;
+    int slot = 0;
+    for (const char digit : key.substr(m_digits)) {
+        if (digit < '0' || digit > '9')
+            return std::nullopt;
+        slot = slot * 10 + (digit - '0');
+    }
+    return slot;
+}
+
 PropertyList readProfileListFile()
 {
     const std::string path = mapRootPath(profilePaths().current);

@@ -94,6 +94,9 @@ public:
     // The key for a slot from 0 to 9999; valid until the next call.
     const char *at(int slot);
 
+    // The slot of a key of this field: the number in its four digits. Nothing for any other text.
+    std::optional<int> slotOf(std::string_view key) const;
+
 private:
     std::array<char, kProfileKeyBytes + 4> m_text{};
     size_t m_digits;

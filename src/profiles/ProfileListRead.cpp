@@ -44,12 +44,15 @@ public:
         ReadDictionaryIntEntry(m_fields.location, m_location.at(slot), &out->Location);
     }
 
+    // Goes over the entries that are there, and looks nothing up.
     void readAllSlots(ProfileList *list)
     {
-        for (int slot = 0; slot < kProfileSlots; ++slot) {
-            readInMenu(slot, &list->records[slot].InMenu);
-            readOthers(slot, &list->records[slot]);
-        }
+        readNumbers(m_fields.indexOnDevice, m_indexOnDevice, list, &ProfileRecord::IndexOnDevice);
+        readNumbers(m_fields.inMenu, m_inMenu, list, &ProfileRecord::InMenu);
+        readNumbers(m_fields.profileClass, m_profileClass, list, &ProfileRecord::ProfileClass);
+        readNumbers(m_fields.location, m_location, list, &ProfileRecord::Location);
+        readTexts(m_fields.fileName, m_fileName, list, &ProfileRecord::FileName);
+        readTexts(m_fields.profileName, m_profileName, list, &ProfileRecord::ProfileName);
         finish(list);
     }
 
@@ -61,6 +64,35 @@ public:
     }
 
 private:
+    // Calls `take(record, value)` for each slot that the field has an entry for; the last one if there are several.
+    template <typename Take>
+    static void visitSlots(bv::PropertyListNode field, const bv::SlotKey &keys, ProfileList *list, Take take)
+    {
+        for (size_t i = 0; i < field.entryCount(); ++i) {
+            const bool isLast = i + 1 == field.entryCount() || field.keyAt(i + 1) != field.keyAt(i);
+            const std::optional<int> slot = keys.slotOf(field.keyAt(i));
+            if (isLast && slot && *slot < kProfileSlots)
+                take(list->records[*slot], field.valueAt(i));
+        }
+    }
+
+    static void readNumbers(bv::PropertyListNode field, const bv::SlotKey &keys, ProfileList *list,
+                            int32_t ProfileRecord::*number)
+    {
+        visitSlots(field, keys, list, [number](ProfileRecord &record, bv::PropertyListNode value) {
+            record.*number = value.number().value_or(record.*number);
+        });
+    }
+
+    static void readTexts(bv::PropertyListNode field, const bv::SlotKey &keys, ProfileList *list,
+                          char (ProfileRecord::*text)[kProfileTextBytes])
+    {
+        visitSlots(field, keys, list, [text](ProfileRecord &record, bv::PropertyListNode value) {
+            if (const auto read = value.text())
+                bv::setFieldText(record.*text, *read);
+        });
+    }
+
     bv::PropertyListNode m_class;
     ProfileFieldDictionaries m_fields;
     bool m_complete = false;

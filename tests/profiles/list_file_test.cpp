@@ -372,7 +372,7 @@ TEST_F(ListFile, EverySeedIsRefusedOrCanBeReadAndWrittenAgain)
 {
     size_t readable = 0;
     size_t seeds = 0;
-    for (const auto &seed : std::filesystem::directory_iterator(path(BV_SOURCE_DIR) / "fuzz/seeds")) {
+    for (const auto &seed : std::filesystem::directory_iterator(path(BV_SOURCE_DIR) / "fuzz/seeds/list_file")) {
         if (!seed.is_regular_file())
             continue;
         TestRoot::writeList(TestRoot::readFile(seed.path()));
