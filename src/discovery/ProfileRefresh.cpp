@@ -41,16 +41,23 @@ std::optional<int32_t> walkResult(const std::optional<std::string> &answer)
     return result;
 }
 
-// When the stored list was written, in seconds since 1970; 0 when there is none.
-int64_t storedSince()
+// The stored list; all zero when there is none.
+struct stat storedList()
 {
     struct stat about = {};
-    return stat(bv::mapRootPath(bv::profilePaths().current).c_str(), &about) == 0 ? about.st_mtime : 0;
+    return stat(bv::mapRootPath(bv::profilePaths().current).c_str(), &about) == 0 ? about : (struct stat){};
 }
 
-int32_t refreshed(const std::string &outcome)
+// A list that is written is always a new file.
+bool isSameFile(const struct stat &one, const struct stat &other)
 {
-    bv::diagnosticLine("Profile refresh: " + outcome);
+    return one.st_ino == other.st_ino && one.st_ctim.tv_sec == other.st_ctim.tv_sec &&
+           one.st_ctim.tv_nsec == other.st_ctim.tv_nsec;
+}
+
+int32_t refreshed(const std::string &outcome, bv::LogSubject subject = bv::LogSubject::General)
+{
+    bv::diagnosticLine("Profile refresh: " + outcome, subject);
     return 0;
 }
 
@@ -67,10 +74,15 @@ int32_t PDECommon::commonGetProfilesFromMIB(PMPrintSession session)
     bv::PanelWait *wait = bv::panelWait();
     if (wait && !wait->wantsDevice(*host))
         return refreshed("the dialog goes on without the printer");
-    const int64_t since = storedSince();
+    const struct stat before = storedList();
     // The status of the walk goes to the log only. Its result is the list file, which a failed walk updates too.
     const std::optional<int32_t> result = walkResult(bv::runHelper(bv::kWalkRequest, walkRequest(*host)));
     if (wait)
-        wait->deviceAsked(*host, result == 0, since);
-    return refreshed(result ? "the walk ended with " + std::to_string(*result) : "the helper gave no result");
+        wait->deviceAsked(*host, result == 0, before.st_mtime);
+    if (!result)
+        return refreshed("the helper gave no result");
+    const std::string ended = "the walk ended with " + std::to_string(*result);
+    return isSameFile(before, storedList())
+               ? refreshed(ended + ", and the list was not written", bv::LogSubject::RefreshNotWritten)
+               : refreshed(ended);
 }

@@ -3,6 +3,7 @@
 // The dialog includes no other header of a plug-in. All calls come from the dialog's main thread, and none throws.
 #pragma once
 
+#include "platform/Log.h"
 #include "platform/PanelWait.h"
 #include "platform/PrintSettings.h"
 
@@ -97,8 +98,19 @@ public:
     virtual void setPanelWait(PanelWait *wait) = 0;
 };
 
+// A third interface of that kind: the plug-in's log can be followed, so that a dialog may speak where panels are
+// silent.
+class PrintPanelLogging
+{
+public:
+    virtual ~PrintPanelLogging() = default;
+    // The observer hears of the lines that all panels write; null ends it. Borrowed.
+    virtual void setLogObserver(LogObserver *observer) = 0;
+};
+
 } // namespace bv
 
 #define BV_PRINT_PANEL_FACTORY_IID "vnd.brevane.pde.PrintPanelFactory/1"
 Q_DECLARE_INTERFACE(bv::PrintPanelFactory, BV_PRINT_PANEL_FACTORY_IID)
 Q_DECLARE_INTERFACE(bv::PrintPanelWaiting, "vnd.brevane.pde.PrintPanelWaiting/1")
+Q_DECLARE_INTERFACE(bv::PrintPanelLogging, "vnd.brevane.pde.PrintPanelLogging/1")

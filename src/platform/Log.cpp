@@ -8,6 +8,7 @@
 #include "platform/Utf8.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <cstdlib>
 #include <langinfo.h>
@@ -20,6 +21,8 @@ namespace {
 
 // Limit for widths and precisions. Larger ones would only waste memory.
 constexpr int kMaximumWidth = 4096;
+
+std::atomic<LogObserver *> observing = nullptr;
 
 struct Placeholder
 {
@@ -225,7 +228,12 @@ void writeInSystemEncoding(std::FILE *stream, std::string_view text)
     std::fflush(stream);
 }
 
-void diagnosticLine(std::string_view text)
+void setLogObserver(LogObserver *observer)
+{
+    observing = observer;
+}
+
+void diagnosticLine(std::string_view text, LogSubject subject)
 {
     std::string line(text);
     std::replace_if(
@@ -235,6 +243,9 @@ void diagnosticLine(std::string_view text)
         std::fprintf(stderr, "bvco: %s\n", printableText(line).c_str());
     else
         syslog(LOG_USER | LOG_DEBUG, "bvco: %s", line.c_str());
+    LogObserver *observer = observing;
+    if (observer && subject != LogSubject::General)
+        observer->logged(subject);
 }
 
 } // namespace bv

@@ -69,9 +69,29 @@ std::string formatLog(std::string_view format, std::initializer_list<LogArgument
 // encoding lacks become "?". Writes nothing when the text is not UTF-8.
 void writeInSystemEncoding(std::FILE *stream, std::string_view text);
 
+// What a line of the log is about, where a program may tell its user of it.
+enum class LogSubject {
+    General,
+    ListsNotWritten,   // what the user changed in the lists of profiles is lost
+    RefreshNotWritten, // what the printer said of its profiles is lost
+};
+
 // Writes one line to the diagnostic log (syslog, level LOG_DEBUG, facility user). Every failure that the user is not
 // shown must leave a line here. With BVCO_LOG=stderr in the environment, lines go to standard error instead.
-void diagnosticLine(std::string_view text);
+void diagnosticLine(std::string_view text, LogSubject subject = LogSubject::General);
+
+// Hears of each line that has a subject, on the thread that wrote it.
+class LogObserver
+{
+public:
+    virtual void logged(LogSubject subject) = 0;
+
+protected:
+    ~LogObserver() = default;
+};
+
+// Sets the observer in this program or plug-in; null, as at first: none. Borrowed.
+void setLogObserver(LogObserver *observer);
 
 } // namespace bv
 

@@ -25,3 +25,8 @@ void PDEPlugIn::setPanelWait(bv::PanelWait *wait)
 {
     bv::setPanelWait(wait);
 }
+
+void PDEPlugIn::setLogObserver(bv::LogObserver *observer)
+{
+    bv::setLogObserver(observer);
+}

@@ -8,11 +8,14 @@
 
 #include <QObject>
 
-class PDEPlugIn : public QObject, public bv::PrintPanelFactory, public bv::PrintPanelWaiting
+class PDEPlugIn : public QObject,
+                  public bv::PrintPanelFactory,
+                  public bv::PrintPanelWaiting,
+                  public bv::PrintPanelLogging
 {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID BV_PRINT_PANEL_FACTORY_IID)
-    Q_INTERFACES(bv::PrintPanelFactory bv::PrintPanelWaiting)
+    Q_INTERFACES(bv::PrintPanelFactory bv::PrintPanelWaiting bv::PrintPanelLogging)
 
 public:
     bool initWithBundle(const bv::PluginBundle &bundle) override;
@@ -20,4 +23,5 @@ public:
     std::optional<std::vector<std::unique_ptr<bv::PrintPanel>>>
     PDEPanelsForType(const QString &type, bv::PrintPanelCallback *hostInfo) override;
     void setPanelWait(bv::PanelWait *wait) override;
+    void setLogObserver(bv::LogObserver *observer) override;
 };

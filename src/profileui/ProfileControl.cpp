@@ -188,7 +188,7 @@ void ProfileControl::writeLists()
                                                              &plistRGBDelete, &plistSIMDDelete, &plistDSTDelete)
                                : BVPListWriteProfile_All(&plistRGBDict, &plistSIMDict, &plistDSTDict);
     if (result != noErr)
-        bv::diagnosticLine("profile management: the lists were not written");
+        bv::diagnosticLine("profile management: the lists were not written", bv::LogSubject::ListsNotWritten);
 }
 
 void ProfileControl::updateAdvancedPane()

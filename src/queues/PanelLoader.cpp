@@ -45,6 +45,12 @@ void PanelLoader::setPanelWait(PanelWait *wait)
         waiting->setPanelWait(wait);
 }
 
+void PanelLoader::setLogObserver(LogObserver *observer)
+{
+    if (auto *logging = m_factory ? qobject_cast<PrintPanelLogging *>(m_loader.instance()) : nullptr)
+        logging->setLogObserver(observer);
+}
+
 std::unique_ptr<PrintPanel> PanelLoader::printerPanel(PrintPanelCallback *callback)
 {
     std::optional<Panels> found = panels(QString::fromLatin1(kPrinterModulePanelType), callback);

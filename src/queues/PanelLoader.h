@@ -30,6 +30,8 @@ public:
 
     // Offers something to all panels, if the plug-in knows what to do with it; null takes it back. Borrowed.
     void setPanelWait(PanelWait *wait);
+    // The same for one who hears of what the plug-in logs.
+    void setLogObserver(LogObserver *observer);
 
 private:
     QPluginLoader m_loader;

@@ -9,6 +9,7 @@
 #include "support/ProgramUnderTest.h"
 #include "support/SampleLists.h"
 
+#include "platform/Log.h"
 #include "platform/UserName.h"
 #include "profiles/ProfileOperations.h"
 
@@ -89,9 +90,9 @@ TEST(ProfileRefresh, WithoutAHostThereIsOnlyTheSwap)
 TEST(ProfileRefresh, EveryOutcomeIsSilentAndLeavesOneLineInTheLog)
 {
     const std::pair<std::optional<std::string>, const char *> cases[] = {
-        {"mibwalk_XPC=iRet=0\n", "Profile refresh: the walk ended with 0\n"},
-        {"a value\nmibwalk_XPC=iRet=-3\n", "Profile refresh: the walk ended with -3\n"},
-        {"mibwalk_XPC=iRet=x", "Profile refresh: the walk ended with 0\n"},
+        {"mibwalk_XPC=iRet=0\n", "Profile refresh: the walk ended with 0, and the list was not written\n"},
+        {"a value\nmibwalk_XPC=iRet=-3\n", "Profile refresh: the walk ended with -3, and the list was not written\n"},
+        {"mibwalk_XPC=iRet=x", "Profile refresh: the walk ended with 0, and the list was not written\n"},
         {"", "Profile refresh: the helper gave no result\n"},
         {std::nullopt, "Profile refresh: the helper gave no result\n"},
     };
@@ -104,6 +105,17 @@ TEST(ProfileRefresh, EveryOutcomeIsSilentAndLeavesOneLineInTheLog)
     EXPECT_THAT(logOfRefresh("lpd://10.0.0.7/q"), testing::EndsWith("Profile refresh: no helper\n"));
     EXPECT_THAT(missing.m_requests, IsEmpty());
 }
+
+// Keeps what it hears.
+class Listener : public bv::LogObserver
+{
+public:
+    Listener() { bv::setLogObserver(this); }
+    ~Listener() { bv::setLogObserver(nullptr); }
+    void logged(bv::LogSubject subject) override { subjects.push_back(subject); }
+
+    std::vector<bv::LogSubject> subjects;
+};
 
 // ---- With the real helper and a simulated printer ----
 
@@ -159,6 +171,17 @@ TEST_F(WholeRefresh, UpdatesTheListFromThePrinter)
 
     refresh(QString(80, QLatin1Char('h'))); // a host name too long to resolve, so the test need not wait
     EXPECT_THAT(rgbList(), IsEmpty()) << "profiles that nobody put into a menu go when the printer does not answer";
+}
+
+TEST_F(WholeRefresh, TellsWhoListensThatTheListCannotBeWritten)
+{
+    const Listener listener;
+    refresh(QString(80, QLatin1Char('h')));
+    EXPECT_THAT(listener.subjects, IsEmpty()) << "a printer that does not answer is no fault of the list";
+    std::filesystem::remove(bvtest::TestRoot::listFile());
+    std::filesystem::create_directory(bvtest::TestRoot::listFile());
+    refresh(QString(80, QLatin1Char('h')));
+    EXPECT_THAT(listener.subjects, ElementsAre(bv::LogSubject::RefreshNotWritten));
 }
 
 } // namespace
