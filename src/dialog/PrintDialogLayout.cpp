@@ -9,6 +9,7 @@
 #include "dialog/WindowSettings.h"
 #include "preview/PagePreview.h"
 #include "platform/PlainTip.h"
+#include "widgets/BreakingLabel.h"
 #include "widgets/DocumentList.h"
 #include "widgets/MessageBar.h"
 #include "widgets/PaneArea.h"
@@ -155,10 +156,8 @@ QWidget *PrintDialogLayout::makePlace()
     m_paneTitle = heading(QString(), place);
     m_paneTitle->setObjectName(QStringLiteral("paneTitle"));
     m_place = new QStackedWidget(place);
-    m_paneNote = new QLabel(place);
+    m_paneNote = new BreakingLabel(place);
     m_paneNote->setObjectName(QStringLiteral("paneNote"));
-    m_paneNote->setTextFormat(Qt::PlainText);
-    m_paneNote->setWordWrap(true);
     m_paneNote->hide();
     wait = new WaitPanel;
     m_place->addWidget(wait);

@@ -1,114 +1,136 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// The message bar: icon, text, action button and close button.
+// Keeps the messages and the height that they may take.
 #include "widgets/MessageBar.h"
 
-#include "platform/PlainTip.h"
+#include "widgets/MessageRow.h"
 
 #include <QAccessible>
 #include <QEvent>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPushButton>
-#include <QStyle>
-#include <QToolButton>
+#include <QResizeEvent>
+#include <QScrollBar>
+#include <QVBoxLayout>
+#include <algorithm>
 
 namespace bv {
 
 namespace {
 
-// Mixes two colors. `share` runs from 0 (only base) to 1 (only other).
-QColor mixed(const QColor &base, const QColor &other, double share)
-{
-    return QColor::fromRgbF(float(base.redF() + (other.redF() - base.redF()) * share),
-                            float(base.greenF() + (other.greenF() - base.greenF()) * share),
-                            float(base.blueF() + (other.blueF() - base.blueF()) * share));
-}
+constexpr int kLeastLines = 3; // of text, however small the window is
+constexpr int kShare = 4;      // of the window's height: one part in so many
 
 } // namespace
 
-MessageBar::MessageBar(QWidget *parent)
-    : QFrame(parent), m_icon(new QLabel(this)), m_text(new QLabel(this)), m_act(new QPushButton(this)),
-      m_close(new QToolButton(this))
+MessageBar::MessageBar(QWidget *parent) : QScrollArea(parent), m_content(new QWidget)
 {
     setObjectName(QStringLiteral("messageBar"));
-    setFrameShape(QFrame::StyledPanel);
-    setAutoFillBackground(true);
-    m_text->setTextFormat(Qt::PlainText);
-    m_text->setWordWrap(true);
-    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_text->setObjectName(QStringLiteral("messageText"));
-    m_close->setObjectName(QStringLiteral("messageClose"));
-    m_close->setAutoRaise(true);
-    m_close->setFocusPolicy(Qt::TabFocus);
-    m_close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
-    m_close->setAccessibleName(tr("Close this message"));
-    setPlainTip(m_close, tr("Close this message"));
-    connect(m_close, &QToolButton::clicked, this, &MessageBar::clear);
-    m_act->setObjectName(QStringLiteral("messageAction"));
-    m_act->setAutoDefault(false);
-    connect(m_act, &QPushButton::clicked, this, [this] {
-        const std::function<void()> action = std::move(m_action);
-        clear();
-        if (action)
-            action();
-    });
-
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(8, 4, 4, 4);
-    row->addWidget(m_icon);
-    row->addWidget(m_text, 1);
-    row->addWidget(m_act);
-    row->addWidget(m_close, 0, Qt::AlignTop);
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    setWidgetResizable(true);
+    auto *column = new QVBoxLayout(m_content);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(2);
+    setWidget(m_content);
     hide();
 }
 
-void MessageBar::say(Kind kind, const QString &text, const QString &actionName, std::function<void()> action)
+MessageBar::~MessageBar() = default;
+
+void MessageBar::say(Kind kind, const QString &text, const QString &actionName, std::function<void()> action,
+                     const QString &topic)
 {
-    m_kind = kind;
-    m_action = std::move(action);
-    m_act->setText(actionName);
-    m_act->setVisible(!actionName.isEmpty());
-    const bool problem = kind == Kind::Problem;
-    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
-    m_icon->setPixmap(style()
-                          ->standardIcon(problem ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation)
-                          .pixmap(size, size));
-    m_text->setText(text);
-    m_text->setAccessibleName(text);
-    tint();
+    const auto same = std::find_if(m_rows.begin(), m_rows.end(), [&](const MessageRow *one) {
+        return one->text() == text || (!topic.isEmpty() && one->topic() == topic);
+    });
+    if (same != m_rows.end())
+        remove(*same);
+    auto *row = new MessageRow(kind, text, topic, m_content);
+    if (!actionName.isEmpty())
+        row->addAction(actionName);
+    connect(row, &MessageRow::dismissed, this, [this, row] { remove(row); });
+    connect(row, &MessageRow::acted, this, [this, row, action = std::move(action)] {
+        const std::function<void()> act = action; // it goes together with the row
+        remove(row);
+        if (act)
+            act();
+    });
+    QWidget *before = m_rows.empty() ? m_content : m_rows.back()->buttons().back();
+    m_content->layout()->addWidget(row);
+    for (QWidget *button : row->buttons()) {
+        setTabOrder(before, button);
+        before = button;
+    }
+    m_rows.push_back(row);
+    row->show();
     show();
-    QAccessibleEvent alert(m_text, QAccessible::Alert);
+    updateGeometry();
+    // The newest one counts.
+    QMetaObject::invokeMethod(
+        this, [this] { verticalScrollBar()->setValue(verticalScrollBar()->maximum()); }, Qt::QueuedConnection);
+    QAccessibleEvent renamed(row, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&renamed);
+    QAccessibleEvent alert(row, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+}
+
+void MessageBar::remove(MessageRow *row)
+{
+    m_rows.erase(std::remove(m_rows.begin(), m_rows.end(), row), m_rows.end());
+    // The focus goes on while the row is still in the window.
+    row->hide();
+    row->deleteLater();
+    setVisible(!m_rows.empty());
+    updateGeometry();
 }
 
 void MessageBar::clear()
 {
-    m_text->clear();
-    m_action = {};
-    hide();
+    while (!m_rows.empty())
+        remove(m_rows.back());
 }
 
 QString MessageBar::text() const
 {
-    return m_text->text();
+    QStringList texts;
+    for (const MessageRow *row : m_rows)
+        texts << row->text();
+    return texts.join(u'\n');
 }
 
-void MessageBar::changeEvent(QEvent *event)
+int MessageBar::contentHeight() const
 {
-    QFrame::changeEvent(event);
-    // Reacts to the application's palette only. The bar sets its own palette here, and reacting to that would never
-    // end.
-    if (event->type() == QEvent::ParentChange || event->type() == QEvent::ApplicationPaletteChange)
-        tint();
+    const QLayout *column = m_content->layout();
+    return column->hasHeightForWidth() ? column->heightForWidth(std::max(viewport()->width(), 1))
+                                       : column->sizeHint().height();
 }
 
-void MessageBar::tint()
+QSize MessageBar::sizeHint() const
 {
-    const QPalette base = parentWidget() ? parentWidget()->palette() : QPalette();
-    QPalette tinted = base;
-    const QColor hint = m_kind == Kind::Problem ? QColor(0xe0, 0x6c, 0x00) : base.color(QPalette::Highlight);
-    tinted.setColor(QPalette::Window, mixed(base.color(QPalette::Window), hint, 0.18));
-    setPalette(tinted);
+    const int most = std::max(window()->height() / kShare, fontMetrics().height() * kLeastLines);
+    return {m_content->minimumSizeHint().width(), std::min(contentHeight(), most)};
+}
+
+QSize MessageBar::minimumSizeHint() const
+{
+    return {fontMetrics().averageCharWidth() * kLeastLines,
+            std::min(contentHeight(), fontMetrics().height() * kLeastLines)};
+}
+
+void MessageBar::resizeEvent(QResizeEvent *event)
+{
+    QScrollArea::resizeEvent(event);
+    // Texts get taller when the bar gets narrower.
+    if (event->size().width() != event->oldSize().width())
+        updateGeometry();
+}
+
+bool MessageBar::eventFilter(QObject *object, QEvent *event)
+{
+    // A message that shows all of its text is taller.
+    if (object == widget() && event->type() == QEvent::LayoutRequest)
+        updateGeometry();
+    return QScrollArea::eventFilter(object, event);
 }
 
 } // namespace bv

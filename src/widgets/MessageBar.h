@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// A bar at the top of a window that shows a note or a problem without a message box.
+// The messages at the top of a window, one below the other, without a message box.
 #pragma once
 
-#include <QFrame>
+#include <QScrollArea>
 #include <functional>
-
-class QLabel;
-class QPushButton;
-class QToolButton;
+#include <memory>
+#include <vector>
 
 namespace bv {
 
-class MessageBar : public QFrame
+class MessageRow;
+
+// Hidden while it has no message. Takes at most a share of the window's height, and scrolls then.
+class MessageBar : public QScrollArea
 {
     Q_OBJECT
 
@@ -19,27 +20,31 @@ public:
     enum class Kind { Note, Problem };
 
     explicit MessageBar(QWidget *parent = nullptr);
+    ~MessageBar() override;
 
-    // Replaces the text and announces it to assistive tools. The text is plain, never markup. `actionName` adds a
-    // button for `action`; the bar is cleared before the action runs.
-    void say(Kind kind, const QString &text, const QString &actionName = QString(), std::function<void()> action = {});
-    // Removes the text and hides the bar.
+    // Adds a message at the end and has assistive tools speak it. The text is plain, never markup; a long one shows its
+    // first lines and a button for the rest. `actionName` adds a button for `action`; the message goes before the
+    // action runs. A message with the same text, or the same topic where there is one, is replaced.
+    void say(Kind kind, const QString &text, const QString &actionName = QString(), std::function<void()> action = {},
+             const QString &topic = QString());
+    // Removes all messages.
     void clear();
-    // The text shown, or empty.
+    // The texts of all messages in full, a line each at least; empty when there is none.
     QString text() const;
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
 protected:
-    void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
-    void tint();
+    void remove(MessageRow *row);
+    int contentHeight() const;
 
-    QLabel *m_icon;
-    QLabel *m_text;
-    QPushButton *m_act;
-    QToolButton *m_close;
-    std::function<void()> m_action;
-    Kind m_kind = Kind::Note;
+    std::vector<MessageRow *> m_rows;
+    QWidget *m_content;
 };
 
 } // namespace bv

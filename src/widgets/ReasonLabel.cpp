@@ -9,11 +9,9 @@
 namespace bv {
 
 ReasonLabel::ReasonLabel(QAbstractButton *button, QString usualTip, QWidget *parent)
-    : QLabel(parent), m_button(button), m_usualTip(std::move(usualTip))
+    : BreakingLabel(parent), m_button(button), m_usualTip(std::move(usualTip))
 {
     setObjectName(QStringLiteral("printReason"));
-    setTextFormat(Qt::PlainText);
-    setWordWrap(true);
     explain(QString());
 }
 

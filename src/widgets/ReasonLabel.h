@@ -2,14 +2,15 @@
 // A label beside a button that says why the button is greyed.
 #pragma once
 
-#include <QLabel>
+#include "widgets/BreakingLabel.h"
+
 #include <QPointer>
 
 class QAbstractButton;
 
 namespace bv {
 
-class ReasonLabel : public QLabel
+class ReasonLabel : public BreakingLabel
 {
     Q_OBJECT
 

@@ -2,7 +2,8 @@
 // Text, indicator and button, one below the other in the middle.
 #include "widgets/WaitPanel.h"
 
-#include <QLabel>
+#include "widgets/BreakingLabel.h"
+
 #include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -10,12 +11,10 @@
 namespace bv {
 
 WaitPanel::WaitPanel(QWidget *parent)
-    : QWidget(parent), m_text(new QLabel(this)), m_busy(new QProgressBar(this)), m_skip(new QPushButton(this))
+    : QWidget(parent), m_text(new BreakingLabel(this)), m_busy(new QProgressBar(this)), m_skip(new QPushButton(this))
 {
     m_text->setObjectName(QStringLiteral("placeText"));
-    m_text->setTextFormat(Qt::PlainText);
     m_text->setAlignment(Qt::AlignCenter);
-    m_text->setWordWrap(true);
     m_busy->setObjectName(QStringLiteral("waitIndicator"));
     m_busy->setRange(0, 0); // moves, and shows no share
     m_busy->setTextVisible(false);
