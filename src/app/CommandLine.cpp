@@ -22,7 +22,7 @@ struct OptionRow
 constexpr std::array<OptionRow, 13> kOptions = {{
     {"batch",      "SCRIPT", [](CommandLine &line) -> QString & { return line.script; },            "carry out the commands of a file (-: standard input), without a window"},
     {"plugin",     "FILE",   [](CommandLine &line) -> QString & { return line.plugin; },            "the plug-in to load (default: the one beside this program)"},
-    {"queue",      "NAME",   [](CommandLine &line) -> QString & { return line.session.queue; },     "the print queue, or QUEUE/NAME for a set of your defaults (default: the print server's; with --ppd: QL70)"},
+    {"queue",      "NAME",   [](CommandLine &line) -> QString & { return line.session.queue; },     "the print queue, or QUEUE/NAME for a set of your defaults (default: the one printed on last, in a batch the print server's; with --ppd: QL70)"},
     {"ppd",        "FILE",   [](CommandLine &line) -> QString & { return line.session.ppd; },       "take the options from a PPD file; no print server is needed"},
     {"device-uri", "URI",    [](CommandLine &line) -> QString & { return line.session.deviceUri; }, "the device URI of the queue"},
     {"ticket",     "FILE",   [](CommandLine &line) -> QString & { return line.session.ticket; },    "a ticket to start from, as JSON"},

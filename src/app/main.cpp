@@ -18,6 +18,7 @@
 #include "queues/SessionStart.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <array>
 #include <csignal>
 #include <cstdio>
@@ -70,8 +71,13 @@ int runProgram(const bv::CommandLine &line)
     bv::PanelLoader loader;
     if (const auto loaded = loader.load(line.plugin, language); !loaded)
         return refuse(loaded.error());
-    if (!isBatch)
+    if (!isBatch) {
+        // The desktop's theme may have its own.
+        QGuiApplication::setDesktopFileName(QStringLiteral("bvprint"));
+        QGuiApplication::setWindowIcon(
+            QIcon::fromTheme(QStringLiteral("bvprint"), QIcon(QStringLiteral(":/bvprint/bvprint.svg"))));
         return bv::runPrintDialog({line.session, line.documents, line.screenshot}, loader);
+    }
     // A batch cannot operate the desktop's own file panel.
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     return runBatch(line, loader);

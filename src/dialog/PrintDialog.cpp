@@ -7,19 +7,23 @@
 #include "dialog/InputGate.h"
 #include "dialog/JobRows.h"
 #include "dialog/JobSending.h"
+#include "dialog/ListFailures.h"
 #include "dialog/PaneSurvey.h"
 #include "dialog/PreviewBinding.h"
 #include "dialog/PrintDialogLayout.h"
 #include "dialog/QueueList.h"
+#include "dialog/WindowSettings.h"
 #include "queues/PanelLoader.h"
 #include "widgets/DocumentList.h"
 #include "widgets/MessageBar.h"
 #include "widgets/ReasonLabel.h"
 #include "widgets/SendingRow.h"
 #include "widgets/SummaryView.h"
+#include "widgets/WheelGuard.h"
 
 #include <QComboBox>
 #include <QDragEnterEvent>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QListWidget>
 #include <QMimeData>
@@ -36,13 +40,19 @@ namespace {
 // A user who steps through the queue list by keys must stop on a queue this long before it is opened.
 constexpr int kRestMilliseconds = 200;
 
-// Wide enough for pane and summary side by side, if the screen is.
-QSize startSize()
+// Topics of messages. Of each, only the last message stands.
+const QString kActionTopic = QStringLiteral("action"); // what became of the user's last action
+const QString kDocumentTopic = QStringLiteral("documents");
+
+// The size of the last time, or wide enough for pane and summary side by side; no larger than the screen.
+QSize startSize(bool remembers)
 {
     constexpr QSize kRoomy(1200, 800);
     constexpr QSize kFrame(16, 48); // space for the window frame
+    const QSize last = remembers ? lastWindowSize() : QSize();
+    const QSize wanted = last.isValid() ? last : kRoomy;
     const QScreen *screen = QGuiApplication::primaryScreen();
-    return screen ? kRoomy.boundedTo(screen->availableSize() - kFrame) : kRoomy;
+    return screen ? wanted.boundedTo(screen->availableSize() - kFrame) : wanted;
 }
 
 } // namespace
@@ -55,17 +65,19 @@ PrintDialog::PrintDialog(std::shared_ptr<const QueueSource> source, std::shared_
       m_sending(std::make_unique<JobSending>(std::move(sink), m_start.pageCount, m_parts->sending))
 {
     setObjectName(QStringLiteral("printDialog"));
-    setWindowTitle(tr("Print"));
     setAcceptDrops(true);
     setSizeGripEnabled(true);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_parts);
     m_stepTimer.setSingleShot(true);
     m_loader.setPanelWait(m_deviceWait.get());
+    m_listFailures = std::make_unique<ListFailures>(m_loader, m_parts->message);
+    new WheelGuard(this);
     connectParts();
-    resize(startSize());
+    resize(startSize(m_start.remembersSize));
 
     m_parts->documents->addDocuments(m_start.documents);
+    updateTitle();
     m_parts->queues->setQueues({});
     m_parts->showWait(nullptr, tr("Looking for printers…"));
     m_parts->summary->showNote(QString());
@@ -96,12 +108,21 @@ void PrintDialog::connectParts()
         (this->*step)();
     });
     connect(m_parts->documents, &DocumentList::documentsChanged, this, &PrintDialog::updateReadiness);
-    connect(m_parts->documents, &DocumentList::refused, this, &PrintDialog::say);
+    connect(m_parts->documents, &DocumentList::documentsChanged, this, &PrintDialog::updateTitle);
+    if (m_start.remembersSize)
+        connect(this, &QDialog::finished, this, [this] {
+            if (!isMaximized() && !isFullScreen())
+                rememberWindowSize(size());
+        });
+    connect(m_parts->documents, &DocumentList::refused, this, [this](const QString &reasons) {
+        m_parts->message->say(MessageBar::Kind::Problem, reasons, QString(), {}, kDocumentTopic);
+    });
     connect(m_parts->job, &JobRows::changed, this, &PrintDialog::updateReadiness);
     connect(m_parts->restore, &QPushButton::clicked, this, &PrintDialog::restoreDefaults);
     connect(m_parts->defaults, &DefaultsMenu::failed, this, &PrintDialog::say);
-    connect(m_parts->defaults, &DefaultsMenu::done, this,
-            [this](const QString &sentence) { m_parts->message->say(MessageBar::Kind::Note, sentence); });
+    connect(m_parts->defaults, &DefaultsMenu::done, this, [this](const QString &sentence) {
+        m_parts->message->say(MessageBar::Kind::Note, sentence, QString(), {}, kActionTopic);
+    });
     m_parts->defaults->setVisible(m_start.withUserDefaults);
     connect(m_parts->print, &QPushButton::clicked, this, &PrintDialog::print);
     connect(m_parts->sending, &SendingRow::stopped, this, &PrintDialog::stopSending);
@@ -163,8 +184,9 @@ void PrintDialog::takeQueues(const Result<std::vector<PrintQueue>> &queues)
         showCurrent();
         return;
     }
-    const auto wanted = std::find_if(m_rooms.begin(), m_rooms.end(), [this](const auto &one) {
-        return m_start.queue.isEmpty() ? one->queue().isDefault : one->queue().name == m_start.queue;
+    const QString name = wantedQueue();
+    const auto wanted = std::find_if(m_rooms.begin(), m_rooms.end(), [&name](const auto &one) {
+        return name.isEmpty() ? one->queue().isDefault : one->queue().name == name;
     });
     if (wanted == m_rooms.end() && !m_start.queue.isEmpty()) {
         m_noQueue = tr("There is no printer “%1”. Choose one from the list.").arg(m_start.queue);
@@ -207,6 +229,16 @@ void PrintDialog::chooseQueue(const QString &queue)
         showCurrent();
     else
         afterPaint(&PrintDialog::openQueue, kRestMilliseconds);
+}
+
+QString PrintDialog::wantedQueue() const
+{
+    if (!m_start.queue.isEmpty())
+        return m_start.queue;
+    for (const QString &last : lastPrinters())
+        if (std::any_of(m_rooms.begin(), m_rooms.end(), [&last](const auto &one) { return one->queue().name == last; }))
+            return last;
+    return {};
 }
 
 QueueRoom *PrintDialog::room(const QString &queue)
@@ -308,7 +340,7 @@ void PrintDialog::showCurrent()
                                      [room = m_current] { return room->choices(); });
         m_parts->showQueue(m_current->rows(), m_current->pane(), m_current->paneName(), m_current->noPaneReason());
         m_parts->showPaneNote(m_deviceWait->note(m_current->device()));
-        if (m_current->queue().isStopped && messageText().isEmpty())
+        if (m_current->queue().isStopped)
             m_parts->message->say(MessageBar::Kind::Note,
                                   tr("This printer is stopped. You can print all the same: it keeps the job and prints "
                                      "it once it is resumed."));
@@ -353,7 +385,7 @@ void PrintDialog::setBusy(bool busy)
 
 void PrintDialog::say(const QString &problem)
 {
-    m_parts->message->say(MessageBar::Kind::Problem, problem);
+    m_parts->message->say(MessageBar::Kind::Problem, problem, QString(), {}, kActionTopic);
 }
 
 void PrintDialog::refreshSummary()
@@ -374,6 +406,22 @@ void PrintDialog::updateReadiness()
     const bool isReady = !m_busy && m_current && m_current->state() == QueueRoom::State::Ready;
     m_parts->restore->setEnabled(isReady);
     m_parts->defaults->setEnabled(isReady);
+}
+
+void PrintDialog::updateTitle()
+{
+    const QStringList documents = m_parts->documents->documents();
+    if (documents.isEmpty())
+        setWindowTitle(tr("Print"));
+    else if (documents.size() == 1)
+        // Qt puts the program's state in place of this mark.
+        setWindowTitle(tr("Print – %1")
+                           .arg(QFileInfo(documents.first())
+                                    .fileName()
+                                    .simplified()
+                                    .replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"))));
+    else
+        setWindowTitle(tr("Print – %1 documents").arg(documents.size()));
 }
 
 QString PrintDialog::reasonNotToPrint() const
@@ -445,6 +493,7 @@ void PrintDialog::finish(const SentJob &job)
     // The choices of an instance stand in the user's defaults, and those of the queue stay as they are.
     if (instanceOf(*m_current).isEmpty())
         m_remembered.store(m_current->queue().name, m_current->ticket());
+    rememberPrinter(m_current->queue().name);
     emit printed(job.note);
     accept();
 }

@@ -21,6 +21,7 @@ class InputGate;
 class JobSending;
 class PaneSurvey;
 class PanelLoader;
+class ListFailures;
 class PreviewBinding;
 class PrintDialogLayout;
 
@@ -33,6 +34,7 @@ struct PrintDialogStart
     PageCount pageCount = {};      // of a document; empty: no page count is known
     QString instance = {};         // of the queue: the set of the user's defaults to start from
     bool withUserDefaults = false; // whether the user's defaults for all programs are read and can be stored
+    bool remembersSize = true;     // whether the window opens as large as it was last
 };
 
 class PrintDialog : public QDialog
@@ -91,6 +93,9 @@ private:
     void say(const QString &problem);
     void refreshSummary();
     void updateReadiness();
+    void updateTitle();
+    // The queue to begin with, a name in the list or not; empty: the default one.
+    QString wantedQueue() const;
     QString reasonNotToPrint() const;
     void surveyOthers();
     void restoreDefaults();
@@ -118,6 +123,7 @@ private:
     InputGate *m_gate;
     std::unique_ptr<DeviceWait> m_deviceWait;
     std::unique_ptr<JobSending> m_sending;
+    std::unique_ptr<ListFailures> m_listFailures;
     QTimer m_stepTimer;
     Step m_step = nullptr; // runs when the timer fires
     QString m_noQueue;     // why there is no current queue; empty while unknown

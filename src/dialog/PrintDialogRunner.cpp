@@ -98,6 +98,7 @@ int runPrintDialog(const WindowRequest &request, PanelLoader &loader)
         sink = std::make_shared<FolderSink>(folder);
     }
 
+    start.remembersSize = request.screenshot.isEmpty();
     RememberedTickets remembered;
     PrintDialog dialog(source, sink, loader, remembered, std::move(start));
     int status = 0;
