@@ -19,13 +19,14 @@ struct OptionRow
 };
 
 // clang-format off
-constexpr std::array<OptionRow, 13> kOptions = {{
+constexpr std::array<OptionRow, 14> kOptions = {{
     {"batch",      "SCRIPT", [](CommandLine &line) -> QString & { return line.script; },            "carry out the commands of a file (-: standard input), without a window"},
     {"plugin",     "FILE",   [](CommandLine &line) -> QString & { return line.plugin; },            "the plug-in to load (default: the one beside this program)"},
     {"queue",      "NAME",   [](CommandLine &line) -> QString & { return line.session.queue; },     "the print queue, or QUEUE/NAME for a set of your defaults (default: the one printed on last, in a batch the print server's; with --ppd: QL70)"},
     {"ppd",        "FILE",   [](CommandLine &line) -> QString & { return line.session.ppd; },       "take the options from a PPD file; no print server is needed"},
     {"device-uri", "URI",    [](CommandLine &line) -> QString & { return line.session.deviceUri; }, "the device URI of the queue"},
     {"ticket",     "FILE",   [](CommandLine &line) -> QString & { return line.session.ticket; },    "a ticket to start from, as JSON"},
+    {"job",        "JOB",    [](CommandLine &line) -> QString & { return line.job; },               "print a job of yours that the print server holds, such as 12 or QL70-12; it has its documents already"},
     {"screenshot", "FILE",   [](CommandLine &line) -> QString & { return line.screenshot; },        "write a picture of the ready window (PNG), and end"},
     {"no-printer", nullptr,  nullptr,                                                               "with --ppd: there is no current printer"},
     {"share-profiles", nullptr, nullptr,                                                            "give a list of profiles to the users that are named in place of files; see --from, --replace"},
@@ -88,6 +89,9 @@ Result<CommandLine> parseCommandLine(const QStringList &arguments)
         return failure(QStringLiteral("A batch takes no --screenshot; its screenshot command names the picture."));
     if (line.session.noPrinter && line.session.usesServer())
         return failure(QStringLiteral("The option --no-printer needs --ppd."));
+    if (!line.job.isEmpty() &&
+        (!line.documents.isEmpty() || !line.session.usesServer() || !line.session.ticket.isEmpty()))
+        return failure(QStringLiteral("The option --job takes no documents, no --ppd and no --ticket."));
     return line;
 }
 
@@ -95,6 +99,7 @@ QString commandLineHelp()
 {
     QString text = QStringLiteral("Usage: bvprint [options] [FILE...]\n"
                                   "       bvprint [options] --batch SCRIPT\n"
+                                  "       bvprint [options] --job JOB\n"
                                   "       bvprint --share-profiles [--from USER] [--replace] USER...\n"
                                   "Opens the print dialog for the files, or carries out a batch.\n\n");
     for (const OptionRow &row : kOptions) {

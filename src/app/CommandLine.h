@@ -20,6 +20,7 @@ struct CommandLine
     QString script;         // --batch: a file of commands, or "-" for standard input
     QString plugin;         // --plugin; empty: the installed or built plug-in
     QString screenshot;     // --screenshot: a PNG file to save the window to; then it is closed
+    QString job;            // --job: a job that is held on the print server, "12" or "QUEUE-12"
     QStringList documents;  // the files to print
     ShareRequest share;     // --share-profiles, --from, --replace
 };

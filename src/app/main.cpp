@@ -6,6 +6,8 @@
 #include "app/WindowSystem.h"
 #include "batch/BatchRunner.h"
 #include "dialog/PrintDialogRunner.h"
+#include "heldjobs/HeldJobBatch.h"
+#include "heldjobs/HeldJobWindow.h"
 #include "jobs/DocumentArguments.h"
 #include "jobs/FolderSink.h"
 #include "jobs/PdfPages.h"
@@ -43,16 +45,28 @@ int say(const QString &text)
     return 1;
 }
 
-int runBatch(const bv::CommandLine &line, bv::PanelLoader &loader)
+// A batch on a new job.
+bv::Result<bv::HeldJobSession> startBatch(const bv::CommandLine &line)
 {
-    const bv::Result<std::unique_ptr<bv::QueueSession>> session = bv::startSession(line.session);
+    using Started = bv::Result<bv::HeldJobSession>;
+    bv::Result<std::unique_ptr<bv::QueueSession>> session = bv::startSession(line.session);
     if (!session)
-        return refuse(session.error());
+        return Started::failure(session.error());
     std::shared_ptr<const bv::JobSink> sink = std::make_shared<bv::FolderSink>();
     if (line.session.usesServer())
         sink = std::make_shared<bv::PrintServerSink>();
+    return bv::HeldJobSession{std::move(session.value()), std::move(sink)};
+}
+
+int runBatch(const bv::CommandLine &line, bv::PanelLoader &loader)
+{
+    bv::Result<bv::HeldJobSession> start =
+        line.job.isEmpty() ? startBatch(line) : bv::startHeldJobSession(line.session, line.job, loader);
+    if (!start)
+        return refuse(start.error());
     const bool scriptIsInput = line.script == u"-";
-    bv::BatchCommands commands(*session.value(), loader, sink, bv::DocumentArguments(!scriptIsInput), bv::pdfPages());
+    bv::BatchCommands commands(*start.value().session, loader, start.value().sink,
+                               bv::DocumentArguments(!scriptIsInput), bv::pdfPages());
     // With these signals ignored, a closed pipe or a file at its size limit is a write error and does not kill the
     // program.
     std::signal(SIGPIPE, SIG_IGN);
@@ -76,6 +90,8 @@ int runProgram(const bv::CommandLine &line)
         QGuiApplication::setDesktopFileName(QStringLiteral("bvprint"));
         QGuiApplication::setWindowIcon(
             QIcon::fromTheme(QStringLiteral("bvprint"), QIcon(QStringLiteral(":/bvprint/bvprint.svg"))));
+        if (!line.job.isEmpty())
+            return bv::runHeldJobDialog(line.session, line.job, line.screenshot, loader);
         return bv::runPrintDialog({line.session, line.documents, line.screenshot}, loader);
     }
     // A batch cannot operate the desktop's own file panel.

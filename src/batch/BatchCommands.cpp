@@ -75,7 +75,7 @@ const BatchCommands::Command BatchCommands::kCommands[] = {
     {"ticket",                "",                            0,           0, Needs::Nothing, false, &BatchCommands::ticket},
     {"setTicket",             "JSON",              kRestOfLine, kRestOfLine, Needs::Nothing, true,  &BatchCommands::setTicket},
     {"screenshot",            "FILE",                        1,           1, Needs::View,    true,  &BatchCommands::screenshot},
-    {"print",                 "FILE...",                     1,      kNoEnd, Needs::Panel,   false, &BatchCommands::print},
+    {"print",                 "FILE...",                     0,      kNoEnd, Needs::Panel,   false, &BatchCommands::print},
 };
 // clang-format on
 
@@ -370,10 +370,13 @@ BatchCommands::Outcome BatchCommands::setTicket(const QStringList &words)
 
 BatchCommands::Outcome BatchCommands::print(const QStringList &words)
 {
+    const bool isHeld = !m_sink->takesDocuments();
+    if (isHeld && !words.isEmpty())
+        return failure(QStringLiteral("The job has its documents already; write print without any."));
     const Result<QStringList> documents = m_documents.paths(words);
     if (!documents)
         return failure(documents.error());
-    QString problem = checkDocuments(documents.value());
+    QString problem = isHeld ? QString() : checkDocuments(documents.value());
     if (problem.isEmpty())
         problem = checkRange(ticketOptions(m_session.ticket().entries()), documents.value(), m_pageCount);
     if (!problem.isEmpty())

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <algorithm>
 #include <QSpinBox>
 
 namespace bv {
@@ -62,6 +63,17 @@ JobOptions JobRows::options() const
     if (m_somePages->isChecked())
         options[QString::fromLatin1(kPageRangesKey)] = parsePageRange(m_range->text()).toOption();
     return options;
+}
+
+void JobRows::setOptions(const JobOptions &options)
+{
+    const auto value = [&options](const char *key) {
+        const auto found = options.find(QString::fromLatin1(key));
+        return found == options.end() ? QString() : found->second;
+    };
+    m_copies->setValue(std::max(1, value(kCopiesKey).toInt()));
+    m_range->setText(value(kPageRangesKey));
+    (m_range->text().isEmpty() ? m_allPages : m_somePages)->setChecked(true);
 }
 
 std::vector<PageRun> JobRows::pages() const

@@ -27,6 +27,8 @@ public:
     // Returns "copies" when more than one is wanted, and "page-ranges" when not all pages are printed. Valid only while
     // problem() is empty.
     JobOptions options() const;
+    // Shows what these options say of copies and pages.
+    void setOptions(const JobOptions &options);
     // A sentence for the user about a wrong page range. Empty when the range is valid.
     QString problem() const;
     // The runs of pages that are printed. None at all means all pages, or a range with a problem.

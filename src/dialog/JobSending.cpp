@@ -25,8 +25,8 @@ void JobSending::start(const QStringList &documents, const JobOptions &options, 
     m_progress.start();
     m_submit.cancel(); // of a job that was stopped before
     m_check.start(
-        [documents, options, count = m_pageCount](CallControl &) {
-            const QString problem = checkDocuments(documents);
+        [documents, options, count = m_pageCount, needed = needsDocuments()](CallControl &) {
+            const QString problem = needed ? checkDocuments(documents) : QString();
             return problem.isEmpty() ? checkRange(options, documents, count) : problem;
         },
         tr("The documents cannot be read: their disk does not answer."),

@@ -27,6 +27,8 @@ public:
     void start(const QStringList &documents, const JobOptions &options, Maker make);
     // Stops sending at once. failed() follows when the job's receiver has been told.
     void stop();
+    // False: the job's receiver has them already.
+    bool needsDocuments() const { return m_sink->takesDocuments(); }
     // From start() until sent(), failed() or stop().
     bool isRunning() const { return m_isRunning; }
 

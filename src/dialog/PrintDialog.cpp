@@ -83,7 +83,7 @@ PrintDialog::PrintDialog(std::shared_ptr<const QueueSource> source, std::shared_
     m_parts->summary->showNote(QString());
     setBusy(true);
     // Without documents, adding some is the first thing to do. Otherwise the user can press Print at once.
-    if (m_parts->documents->documents().isEmpty())
+    if (m_sending->needsDocuments() && m_parts->documents->documents().isEmpty())
         m_parts->documents->addButton()->setFocus();
     else
         m_parts->job->copies()->setFocus();
@@ -436,7 +436,7 @@ QString PrintDialog::reasonNotToPrint() const
         return tr("This printer cannot be used. Choose another one.");
     if (!m_current->queue().acceptsJobs)
         return tr("This printer takes no jobs at the moment. Choose another one, or ask who looks after it.");
-    if (m_parts->documents->documents().isEmpty())
+    if (m_sending->needsDocuments() && m_parts->documents->documents().isEmpty())
         return tr("Add a document to print.");
     if (const QString problem = m_parts->job->problem(); !problem.isEmpty())
         return problem;
@@ -491,7 +491,7 @@ void PrintDialog::endSending()
 void PrintDialog::finish(const SentJob &job)
 {
     // The choices of an instance stand in the user's defaults, and those of the queue stay as they are.
-    if (instanceOf(*m_current).isEmpty())
+    if (instanceOf(*m_current).isEmpty() && !m_start.jobOptions)
         m_remembered.store(m_current->queue().name, m_current->ticket());
     rememberPrinter(m_current->queue().name);
     emit printed(job.note);

@@ -7,6 +7,7 @@
 #include "queues/BackgroundCall.h"
 #include "queues/QueueSource.h"
 #include "queues/RememberedTickets.h"
+#include "queues/UserDefaults.h"
 
 #include <QDialog>
 #include <QTimer>
@@ -35,6 +36,8 @@ struct PrintDialogStart
     QString instance = {};         // of the queue: the set of the user's defaults to start from
     bool withUserDefaults = false; // whether the user's defaults for all programs are read and can be stored
     bool remembersSize = true;     // whether the window opens as large as it was last
+    std::optional<UserDefaults::Options> jobOptions = {}; // of a job that exists already: it starts from nothing else,
+                                                          // and what is chosen for it is not remembered
 };
 
 class PrintDialog : public QDialog

@@ -97,17 +97,24 @@ int runPrintDialog(const WindowRequest &request, PanelLoader &loader)
         source = std::move(made.value());
         sink = std::make_shared<FolderSink>(folder);
     }
+    return showPrintDialog(std::move(source), std::move(sink), loader, std::move(start), request.screenshot);
+}
 
-    start.remembersSize = request.screenshot.isEmpty();
+int showPrintDialog(std::shared_ptr<const QueueSource> source, std::shared_ptr<const JobSink> sink, PanelLoader &loader,
+                    PrintDialogStart start, const QString &screenshot, const std::function<void(PrintDialog &)> &adapt)
+{
+    start.remembersSize = screenshot.isEmpty();
     RememberedTickets remembered;
-    PrintDialog dialog(source, sink, loader, remembered, std::move(start));
+    PrintDialog dialog(std::move(source), std::move(sink), loader, remembered, std::move(start));
+    if (adapt)
+        adapt(dialog);
     int status = 0;
     QObject::connect(&dialog, &PrintDialog::printed, [](const QString &note) {
         if (!note.isEmpty())
             tell(note + u'\n');
     });
-    if (!request.screenshot.isEmpty())
-        takePicture(dialog, request.screenshot, status);
+    if (!screenshot.isEmpty())
+        takePicture(dialog, screenshot, status);
     dialog.exec();
     // Who cancels while the dialog still looks for printers knows what he does.
     if (dialog.hadPrinter() || dialog.isWaiting())

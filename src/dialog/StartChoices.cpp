@@ -17,6 +17,11 @@ StartChoices startChoices(const PrintDialogStart &start, const RememberedTickets
         removeJobOnlyKeys(&*choices.ticket);
         return choices;
     }
+    if (isFirst && start.jobOptions) {
+        choices.ticket = ticketFromDefaults(*start.jobOptions, ppd);
+        choices.areUserDefaults = true;
+        return choices;
+    }
     const QueueInstance wanted{queue, isFirst ? start.instance : QString()};
     if (wanted.instance.isEmpty())
         choices.ticket = remembered.load(queue);

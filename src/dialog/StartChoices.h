@@ -12,11 +12,12 @@ struct PrintDialogStart;
 struct StartChoices
 {
     std::optional<PrintDictionary> ticket; // nothing: the printer's defaults
-    bool areUserDefaults = false;          // no panel has seen the ticket
+    bool areUserDefaults = false;          // no panel has seen the ticket; also for the options of a job
     QString note;                          // a sentence for the user; may be empty
 };
 
-// An instance that the start names comes before what is remembered. Changes the PPD's marks and marks its defaults.
+// The options of a job that exists already come before all else, an instance that the start names before what is
+// remembered. Changes the PPD's marks and marks its defaults.
 StartChoices startChoices(const PrintDialogStart &start, const RememberedTickets &remembered, const QString &queue,
                           ppd_file_t *ppd);
 

@@ -41,6 +41,8 @@ public:
     // the size of the documents asks for. On a failure, also when the call is canceled, returns a sentence for the
     // user, and nothing is printed; where that is not sure, the sentence says so.
     virtual Result<SentJob> submit(const JobRequest &request, CallControl &control) const = 0;
+    // False: the receiver has the documents already, and those of a request are only for looking at.
+    virtual bool takesDocuments() const { return true; }
 };
 
 } // namespace bv

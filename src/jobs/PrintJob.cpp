@@ -62,7 +62,7 @@ QString checkDocuments(const QStringList &documents)
 QString checkRange(const JobOptions &options, const QStringList &documents, const PageCount &pageCount)
 {
     const auto wanted = options.find(QString::fromLatin1(kPageRangesKey));
-    if (wanted == options.end())
+    if (wanted == options.end() || documents.isEmpty())
         return {};
     if (documents.size() > 1)
         return tr("A range of pages belongs to one document. Print the documents one by one, or all of their pages.");
@@ -91,7 +91,8 @@ Result<JobRequest> prepareJob(QueueSession &session, PrintPanel *panel, const QS
         return Job::failure(error.isEmpty() ? tr("The options cannot be kept.") : error);
     if (panel && !panel->shouldPrint())
         return Job::failure(tr("The options do not let this job be printed."));
-    return JobRequest{session.queue(), QFileInfo(documents.first()).fileName(), documents,
+    const QString title = documents.isEmpty() ? QString() : QFileInfo(documents.first()).fileName();
+    return JobRequest{session.queue(), title, documents,
                       jobOptions(session.ticket().entries(), session.ppdFile(), extra)};
 }
 

@@ -32,7 +32,8 @@ QString checkDocuments(const QStringList &documents);
 QString checkRange(const JobOptions &options, const QStringList &documents, const PageCount &pageCount);
 
 // Makes a job that is ready to be handed to a sink, as the Print button does: has the panel save its values, and asks
-// it whether to print. The panel may be null; then the ticket is taken unchanged. There must be a document.
+// it whether to print. The panel may be null; then the ticket is taken unchanged. Without documents the job
+// has no title.
 // A panel may put values of its own over the user's for this job. `choices`, if not null, receives the ticket as the
 // user made it, whether the job is made or not.
 Result<JobRequest> prepareJob(QueueSession &session, PrintPanel *panel, const QStringList &documents,

@@ -3,12 +3,12 @@
 #include "jobs/PrintServerSink.h"
 
 #include "jobs/DocumentReader.h"
+#include "jobs/OptionEncoding.h"
 #include "queues/BackgroundCall.h"
 #include "queues/ServerConnection.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <algorithm>
 #include <array>
 
 namespace bv {
@@ -62,83 +62,42 @@ QString problemOf(const ServerAnswer &answer, const QString &queue, const QStrin
     return answer.message ? refusal(answer.status(), answer.words(), queue, document) : answer.problem;
 }
 
-// True if libcups does not know the option's type. It then sends the value as a name.
-bool isUntyped(const QByteArray &keyword)
+struct QueueState
 {
-    const IppMessage probe(ippNew());
-    char value[] = "x";
-    QByteArray name = keyword;
-    cups_option_t option = {name.data(), value};
-    cupsEncodeOptions2(probe.get(), 1, &option, IPP_TAG_JOB);
-    ipp_attribute_t *attribute = ippFindAttribute(probe.get(), keyword.constData(), IPP_TAG_ZERO);
-    return attribute && ippGetValueTag(attribute) == IPP_TAG_NAME;
-}
+    bool holdsJobs = false; // every job that does not say otherwise, until somebody releases it
+};
 
-// True if the value survives being parsed again on the server (cupsParseOptions). There, a brace at the beginning opens
-// a collection. If the last character does not close it, it swallows the options that follow.
-bool isCarried(const QString &value)
+// Returns a sentence for the user when the queue accepts no jobs or no longer exists. A stopped queue accepts jobs and
+// keeps them until it is resumed.
+Result<QueueState> checkQueue(ServerConnection &server, const QString &queue)
 {
-    if (!value.startsWith(u'{'))
-        return true;
-    qsizetype depth = 0;
-    for (qsizetype i = 0; i < value.size(); ++i) {
-        depth += value[i] == u'{' ? 1 : value[i] == u'}' ? -1 : 0;
-        if (depth == 0)
-            return i + 1 == value.size();
-    }
-    return false;
-}
-
-// True if the keyword survives the same parser. A blank or an equals sign would end it, and the rest would be read as
-// other options.
-bool isCarriedKeyword(const QString &keyword)
-{
-    return std::none_of(keyword.begin(), keyword.end(),
-                        [](QChar character) { return character.isSpace() || character == u'='; });
-}
-
-// Lets libcups choose the type: integers, keywords and ranges for standard options, a boolean for True and False. But
-// libcups splits values of unknown options at quotes, commas and a leading brace, so these are added whole.
-void addOption(ipp_t *request, const QString &keyword, const QString &value)
-{
-    QByteArray name = keyword.toUtf8();
-    QByteArray text = value.toUtf8();
-    // An attribute without a name would be read as another value of the previous one (RFC 8010, 3.1.5).
-    if (name.isEmpty())
-        return;
-    const bool isTruth =
-        text.compare("true", Qt::CaseInsensitive) == 0 || text.compare("false", Qt::CaseInsensitive) == 0;
-    if (!isTruth && isUntyped(name)) {
-        ippAddString(request, IPP_TAG_JOB, IPP_TAG_NAME, name.constData(), nullptr, text.constData());
-        return;
-    }
-    cups_option_t option = {name.data(), text.data()};
-    cupsEncodeOptions2(request, 1, &option, IPP_TAG_JOB);
-}
-
-// A sentence for the user when the queue accepts no jobs or no longer exists. A stopped queue accepts jobs and keeps
-// them until it is resumed.
-QString checkQueue(ServerConnection &server, const QString &queue)
-{
+    using Checked = Result<QueueState>;
     const IppMessage request = queueRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
-                 "printer-is-accepting-jobs");
+    constexpr std::array<const char *, 2> kAsked = {"printer-is-accepting-jobs", "job-hold-until-default"};
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", int(kAsked.size()),
+                  nullptr, kAsked.data());
     const ServerAnswer answer = server.ask(request);
     if (!answer.isGood())
-        return problemOf(answer, queue, tr("the document"));
-    ipp_attribute_t *accepts = ippFindAttribute(answer.message.get(), "printer-is-accepting-jobs", IPP_TAG_BOOLEAN);
-    return accepts && !ippGetBoolean(accepts, 0)
-               ? refusal(IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS, QString(), queue, QString())
-               : QString();
+        return Checked::failure(problemOf(answer, queue, tr("the document")));
+    ipp_attribute_t *accepts = ippFindAttribute(answer.message.get(), kAsked[0], IPP_TAG_BOOLEAN);
+    if (accepts && !ippGetBoolean(accepts, 0))
+        return Checked::failure(refusal(IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS, QString(), queue, QString()));
+    ipp_attribute_t *hold = ippFindAttribute(answer.message.get(), kAsked[1], IPP_TAG_ZERO);
+    const char *until = hold ? ippGetString(hold, 0, nullptr) : nullptr;
+    return QueueState{qstrcmp(until, "indefinite") == 0};
 }
 
 // Creates a job without documents. Returns its number, or a sentence for the user.
-Result<int> createJob(ServerConnection &server, const JobRequest &job)
+Result<int> createJob(ServerConnection &server, const JobRequest &job, const QueueState &queue)
 {
     const IppMessage request = queueRequest(IPP_OP_CREATE_JOB, job.queue);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr, job.title.toUtf8().constData());
     for (const auto &[keyword, value] : job.options)
-        addOption(request.get(), keyword, value);
+        addJobOption(request.get(), keyword, value);
+    // Such a queue asks about each job before it prints. Who prints with bvprint has been asked.
+    const QString hold = QStringLiteral("job-hold-until");
+    if (queue.holdsJobs && job.options.count(hold) == 0)
+        addJobOption(request.get(), hold, QStringLiteral("no-hold"));
     server.setPatience(kPatience);
     const ServerAnswer answer = server.ask(request);
     server.setPatience(std::chrono::milliseconds(0));
@@ -248,21 +207,17 @@ QString unconfirmedSentence()
 
 Sent PrintServerSink::submit(const JobRequest &request, CallControl &control) const
 {
-    for (const auto &[keyword, value] : request.options) {
-        if (!isCarriedKeyword(keyword))
-            return Sent::failure(tr("The print server cannot carry an option of the name “%1”.").arg(keyword));
-        if (!isCarried(value))
-            return Sent::failure(tr("The print server cannot carry the value %1 of the option %2; choose another one.")
-                                     .arg(value, keyword));
-    }
+    if (const QString problem = problemWithOptions(request.options); !problem.isEmpty())
+        return Sent::failure(problem);
     allowForDocuments(control, request.documents);
     Result<ServerConnection> server = ServerConnection::open(control);
     if (!server)
         return Sent::failure(server.error());
-    if (const QString error = checkQueue(server.value(), request.queue); !error.isEmpty())
-        return Sent::failure(error);
+    const Result<QueueState> queue = checkQueue(server.value(), request.queue);
+    if (!queue)
+        return Sent::failure(queue.error());
     const UnfinishedWork untilTheJobIsWhole;
-    const Result<int> job = createJob(server.value(), request);
+    const Result<int> job = createJob(server.value(), request, queue.value());
     if (!job)
         return Sent::failure(job.error());
     for (qsizetype i = 0; i < request.documents.size(); ++i) {

@@ -23,23 +23,28 @@ bool skipText(const QByteArray &message, qsizetype &position)
 
 } // namespace
 
-bool isReadableIpp(const QByteArray &message)
+qsizetype readableIppSize(const QByteArray &message)
 {
     int depth = 0;
     for (qsizetype position = kHeader; position < message.size();) {
         const auto tag = static_cast<quint8>(message[position++]);
         if (tag == IPP_TAG_END)
-            return true;
+            return position;
         if (tag < IPP_TAG_UNSUPPORTED_VALUE) // begins a group
             continue;
         if (tag == IPP_TAG_EXTENSION || !skipText(message, position) || !skipText(message, position))
-            return false;
+            return -1;
         if (tag == IPP_TAG_BEGIN_COLLECTION && ++depth > kDeepest)
-            return false;
+            return -1;
         if (tag == IPP_TAG_END_COLLECTION)
             --depth;
     }
-    return false;
+    return -1;
+}
+
+bool isReadableIpp(const QByteArray &message)
+{
+    return readableIppSize(message) >= 0;
 }
 
 } // namespace bv

@@ -10,4 +10,7 @@ namespace bv {
 // recursion without a limit (RFC 8010, 3.1.6).
 bool isReadableIpp(const QByteArray &message);
 
+// The size of the message that the bytes begin with; more may follow. -1 when it is not complete or not readable.
+qsizetype readableIppSize(const QByteArray &bytes);
+
 } // namespace bv

@@ -2,6 +2,7 @@
 // Requests over HTTP with libcups, each step under a limit.
 #include "queues/ServerConnection.h"
 
+#include "platform/FileDescriptor.h"
 #include "queues/IppNesting.h"
 
 #include <QCoreApplication>
@@ -9,6 +10,7 @@
 #include <cstring>
 #include <limits>
 #include <optional>
+#include <string_view>
 
 namespace bv {
 
@@ -19,7 +21,8 @@ using Clock = CallControl::Clock;
 
 constexpr double kPollSeconds = 0.1; // libcups asks at least this often whether to go on waiting
 constexpr qsizetype kLargestAnswer = 32 * 1024 * 1024;
-constexpr int kMostTries = 3; // of logging in
+constexpr qsizetype kLargestHead = 1024 * 1024; // of an answer that a document follows
+constexpr int kMostTries = 3;                   // of logging in
 
 QString tr(const char *text)
 {
@@ -150,7 +153,8 @@ void ServerConnection::setPatience(milliseconds patience)
     m_limits->control.watchSocket(patience.count() > 0 ? -1 : httpGetFd(m_http.get()));
 }
 
-ServerAnswer ServerConnection::ask(const IppMessage &request)
+ServerAnswer ServerConnection::exchange(const IppMessage &request,
+                                        const std::function<ServerAnswer(http_status_t)> &read)
 {
     ServerAnswer answer;
     for (int tries = 0; tries < kMostTries; ++tries) {
@@ -158,10 +162,67 @@ ServerAnswer ServerConnection::ask(const IppMessage &request)
         http_status_t status = cupsSendRequest(m_http.get(), request.get(), "/", ippLength(request.get()));
         if (status == HTTP_STATUS_CONTINUE || status == HTTP_STATUS_OK)
             status = awaitStatus();
-        answer = readAnswer(status, ippGetRequestId(request.get()));
+        answer = read(status);
         if (status != HTTP_STATUS_UNAUTHORIZED || !logIn("POST", "/"))
             break;
     }
+    return answer;
+}
+
+ServerAnswer ServerConnection::ask(const IppMessage &request)
+{
+    return exchange(request, [&](http_status_t status) { return readAnswer(status, ippGetRequestId(request.get())); });
+}
+
+ServerAnswer ServerConnection::askForDocument(const IppMessage &request, int descriptor, qint64 maximum)
+{
+    return exchange(request, [&](http_status_t status) {
+        return readDocument(status, ippGetRequestId(request.get()), descriptor, maximum);
+    });
+}
+
+ServerAnswer ServerConnection::readDocument(http_status_t status, int requestId, int descriptor, qint64 maximum)
+{
+    ServerAnswer answer;
+    if (status != HTTP_STATUS_OK) {
+        answer.problem = complaint(status);
+        return answer;
+    }
+    answer.problem = tr("The print server %1 broke off its answer.").arg(serverName());
+    QByteArray head; // until the message is complete
+    qint64 written = 0;
+    char part[65536];
+    while (!m_limits->isOver()) {
+        const ssize_t count = httpRead2(m_http.get(), part, sizeof part);
+        if (count < 0 || (count == 0 && httpGetState(m_http.get()) != HTTP_STATE_WAITING))
+            break;
+        if (count == 0) {
+            // The answer to another question is none (RFC 8011, 4.1.2).
+            if (answer.message && ippGetRequestId(answer.message.get()) != requestId)
+                answer.message.reset();
+            if (answer.message)
+                answer.problem.clear();
+            return answer;
+        }
+        m_limits->beginStep();
+        std::string_view bytes(part, size_t(count));
+        if (!answer.message) {
+            head.append(part, count);
+            const qsizetype size = readableIppSize(head);
+            if (size < 0 && head.size() < kLargestHead)
+                continue;
+            answer.message = size < 0 ? IppMessage() : parse(head.left(size));
+            if (!answer.message)
+                break;
+            bytes = std::string_view(head.constData(), size_t(head.size())).substr(size_t(size));
+        }
+        written += qint64(bytes.size());
+        if (written > maximum)
+            answer.problem = tr("The document is too large.");
+        if (written > maximum || !writeAll(descriptor, bytes))
+            break;
+    }
+    answer.message.reset();
     return answer;
 }
 

@@ -8,6 +8,7 @@
 
 #include <QByteArray>
 #include <cups/cups.h>
+#include <functional>
 #include <memory>
 #include <span>
 
@@ -63,6 +64,10 @@ public:
     bool sendBytes(std::span<const char> bytes);
     ServerAnswer endDocument();
 
+    // The same for a request whose answer is followed by a document: writes that to a descriptor. A document above
+    // `maximum` bytes is a problem, and so is one that is cut off; what was written of it is then of no use.
+    ServerAnswer askForDocument(const IppMessage &request, int descriptor, qint64 maximum);
+
     // The file at a path of the server, if it has at most `maximum` bytes.
     struct Download
     {
@@ -86,6 +91,9 @@ private:
     // Appends the body of the answer to *bytes. Broken: it is cut off or too slow.
     Body readBody(qsizetype maximum, QByteArray *bytes);
     ServerAnswer readAnswer(http_status_t status, int requestId);
+    // Sends a request and has the answer read, once more after logging in.
+    ServerAnswer exchange(const IppMessage &request, const std::function<ServerAnswer(http_status_t)> &read);
+    ServerAnswer readDocument(http_status_t status, int requestId, int descriptor, qint64 maximum);
     // Logs in with what needs no question (a certificate, the user at the other end of a local socket), and connects
     // anew. False when that is not possible.
     bool logIn(const char *method, const char *path);

@@ -103,6 +103,22 @@ TEST_F(PrintChain, OurDialogAndAnotherProgramPrintTheSame)
     EXPECT_EQ(ours, printed({"BVQuickColor=Presentation", "BVEconoMode=True"}));
 }
 
+TEST_F(PrintChain, AHeldJobOfAnotherProgramGetsWhatItsUserChooses)
+{
+    ASSERT_TRUE(m_server.administer("lpadmin", {"-p", "QL70", "-o", "job-hold-until-default=indefinite"}));
+    ASSERT_TRUE(m_server.administer(
+        "lp", {"-d", "QL70", "-o", "BVQuickColor=Photo", "-o", "sides=two-sided-long-edge", "-P", "1", kDocument}));
+    BatchProcess batch;
+    batch.setVariable("CUPS_SERVER", m_server.address());
+    batch.start({"--job", "1"});
+    for (const QString command : {"panelView", "willShow", "restoreValues", "set menu_QuickColor 2", "print"})
+        EXPECT_TRUE(batch.send(command).contains("result")) << command.toStdString();
+    EXPECT_EQ(settingsOf(1)["BVQuickColor"], "/Presentation");
+    const QByteArray data = m_server.recorded(1).data;
+    EXPECT_EQ(data.count("%%Page: "), 1);
+    EXPECT_TRUE(data.contains("/Duplex true"));
+}
+
 TEST_F(PrintChain, AnAdministratorsColorModeHoldsUntilAUserChooses)
 {
     ASSERT_TRUE(m_server.administer("lpadmin", {"-p", "QL70", "-o", "print-color-mode-default=monochrome"}));
