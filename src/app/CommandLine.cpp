@@ -19,7 +19,7 @@ struct OptionRow
 };
 
 // clang-format off
-constexpr std::array<OptionRow, 14> kOptions = {{
+constexpr std::array<OptionRow, 15> kOptions = {{
     {"batch",      "SCRIPT", [](CommandLine &line) -> QString & { return line.script; },            "carry out the commands of a file (-: standard input), without a window"},
     {"plugin",     "FILE",   [](CommandLine &line) -> QString & { return line.plugin; },            "the plug-in to load (default: the one beside this program)"},
     {"queue",      "NAME",   [](CommandLine &line) -> QString & { return line.session.queue; },     "the print queue, or QUEUE/NAME for a set of your defaults (default: the one printed on last, in a batch the print server's; with --ppd: QL70)"},
@@ -27,6 +27,7 @@ constexpr std::array<OptionRow, 14> kOptions = {{
     {"device-uri", "URI",    [](CommandLine &line) -> QString & { return line.session.deviceUri; }, "the device URI of the queue"},
     {"ticket",     "FILE",   [](CommandLine &line) -> QString & { return line.session.ticket; },    "a ticket to start from, as JSON"},
     {"job",        "JOB",    [](CommandLine &line) -> QString & { return line.job; },               "print a job of yours that the print server holds, such as 12 or QL70-12; it has its documents already"},
+    {"agent",      "WORD",   [](CommandLine &line) -> QString & { return line.agent; },             "on: open the dialog by itself for each new job of yours that the print server holds; off: no longer; run: do it in this session"},
     {"screenshot", "FILE",   [](CommandLine &line) -> QString & { return line.screenshot; },        "write a picture of the ready window (PNG), and end"},
     {"no-printer", nullptr,  nullptr,                                                               "with --ppd: there is no current printer"},
     {"share-profiles", nullptr, nullptr,                                                            "give a list of profiles to the users that are named in place of files; see --from, --replace"},
@@ -81,6 +82,13 @@ Result<CommandLine> parseCommandLine(const QStringList &arguments)
         return line;
     }
 
+    if (!line.agent.isEmpty()) {
+        line.mode = CommandLine::Mode::Agent;
+        if (!QStringList{QStringLiteral("on"), QStringLiteral("off"), QStringLiteral("run")}.contains(line.agent) ||
+            arguments.filter(QStringLiteral("--agent")).size() != 1 || arguments.size() > 2)
+            return failure(QStringLiteral("The option --agent takes on, off or run, and nothing else."));
+        return line;
+    }
     if (!line.script.isEmpty())
         line.mode = CommandLine::Mode::Batch;
     if (line.mode == CommandLine::Mode::Batch && !line.documents.isEmpty())
@@ -100,6 +108,7 @@ QString commandLineHelp()
     QString text = QStringLiteral("Usage: bvprint [options] [FILE...]\n"
                                   "       bvprint [options] --batch SCRIPT\n"
                                   "       bvprint [options] --job JOB\n"
+                                  "       bvprint --agent on|off|run\n"
                                   "       bvprint --share-profiles [--from USER] [--replace] USER...\n"
                                   "Opens the print dialog for the files, or carries out a batch.\n\n");
     for (const OptionRow &row : kOptions) {

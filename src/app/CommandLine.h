@@ -13,7 +13,7 @@ namespace bv {
 // One parsed command line. Strings are empty where the option was not given.
 struct CommandLine
 {
-    enum class Mode { Dialog, Batch, Share, Help, Version };
+    enum class Mode { Dialog, Batch, Share, Agent, Help, Version };
 
     Mode mode = Mode::Dialog;
     SessionRequest session; // --queue, --ppd, --device-uri, --ticket, --no-printer
@@ -21,6 +21,7 @@ struct CommandLine
     QString plugin;         // --plugin; empty: the installed or built plug-in
     QString screenshot;     // --screenshot: a PNG file to save the window to; then it is closed
     QString job;            // --job: a job that is held on the print server, "12" or "QUEUE-12"
+    QString agent;          // --agent: "on", "off" or "run"
     QStringList documents;  // the files to print
     ShareRequest share;     // --share-profiles, --from, --replace
 };

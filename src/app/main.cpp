@@ -6,6 +6,7 @@
 #include "app/WindowSystem.h"
 #include "batch/BatchRunner.h"
 #include "dialog/PrintDialogRunner.h"
+#include "heldjobs/AgentCommand.h"
 #include "heldjobs/HeldJobBatch.h"
 #include "heldjobs/HeldJobWindow.h"
 #include "jobs/DocumentArguments.h"
@@ -79,6 +80,8 @@ int runBatch(const bv::CommandLine &line, bv::PanelLoader &loader)
 
 int runProgram(const bv::CommandLine &line)
 {
+    if (line.mode == bv::CommandLine::Mode::Agent)
+        return bv::runAgent();
     // In the locale C a batch shows the keys of texts. A window always shows words.
     const bool isBatch = line.mode == bv::CommandLine::Mode::Batch;
     const QString language = isBatch && bv::isLocaleC() ? QString() : bv::messageLocale();
@@ -119,6 +122,10 @@ int main(int argc, char **argv)
         return say(line.mode == Mode::Help ? bv::commandLineHelp() : bv::commandLineVersion());
     if (line.mode == Mode::Share)
         return bv::shareProfiles(line.share);
+    if (line.mode == Mode::Agent && line.agent != u"run") {
+        const QCoreApplication withoutWindow(argc, argv);
+        return bv::switchAgent(line.agent);
+    }
     const bv::Result<QByteArray> platform = bv::windowSystem(line);
     if (!platform)
         return refuse(platform.error());

@@ -41,7 +41,8 @@ TEST(CommandLine, IsRefusedInASentenceThatNamesTheArgument)
     const std::pair<QStringList, const char *> rows[] = {
         {{"--colour"}, "'colour'"}, {{"-x"}, "'x'"}, {{"a", "--queue"}, "--queue"}, {{"--ppd="}, "--ppd"},
         {{"--help=1"}, "--help"}, {{"--no-printer"}, "--ppd"}, {{"--batch", "-", "a.pdf"}, "documents"},
-        {{"--batch", "-", "--screenshot", "x"}, "--screenshot"},
+        {{"--batch", "-", "--screenshot", "x"}, "--screenshot"}, {{"--job", "1", "a.pdf"}, "--job"},
+        {{"--job", "1", "--ppd", "x"}, "--job"}, {{"--agent", "maybe"}, "--agent"}, {{"--agent", "on", "a.pdf"}, "--agent"},
     };
     // clang-format on
     for (const auto &[arguments, named] : rows) {

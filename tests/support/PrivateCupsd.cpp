@@ -231,7 +231,7 @@ QString PrivateCupsd::start()
         return QStringLiteral("The folder %1 cannot be set up.").arg(m_folder);
     // Copied, because a security policy for cupsd goes by the path of the program.
     const QString program = m_folder + QStringLiteral("/cupsd");
-    if (!QFile::copy(QStringLiteral("/usr/sbin/cupsd"), program))
+    if (!QFile::exists(program) && !QFile::copy(QStringLiteral("/usr/sbin/cupsd"), program))
         return QStringLiteral("/usr/sbin/cupsd cannot be copied; is the package cups-daemon there?");
     chmod(program.toLocal8Bit().constData(), 0755);
     m_server.setProcessChannelMode(QProcess::MergedChannels);

@@ -31,7 +31,7 @@ public:
     void listenOnPort();
     // Uses the machine's print filters and the built bvql70. Call it before start(). False when filters are missing.
     bool useFilters();
-    // Starts the server. Returns an error text, or empty on success.
+    // Starts the server, also once more after stop(). Returns an error text, or empty on success.
     QString start();
     // Ends the server.
     void stop();
