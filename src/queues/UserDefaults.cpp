@@ -203,9 +203,11 @@ QStringList UserDefaults::instances(const QString &queue) const
     QStringList names;
     for (const QString &path : {systemFile(), userFile()}) {
         for (const Line &line : linesOf(path)) {
-            const QueueInstance of = QueueInstance::fromName(QString::fromUtf8(line.name));
-            if (!of.instance.isEmpty() && of.queue.compare(queue, Qt::CaseInsensitive) == 0 &&
-                !names.contains(of.instance))
+            const QString name = QString::fromUtf8(line.name);
+            const QueueInstance of = QueueInstance::fromName(name);
+            // A name that is not UTF-8 could be offered, but not be found again.
+            if (name.toUtf8() == line.name && !of.instance.isEmpty() &&
+                of.queue.compare(queue, Qt::CaseInsensitive) == 0 && !names.contains(of.instance))
                 names << of.instance;
         }
     }
