@@ -13,6 +13,8 @@
 #include "dialog/PrintDialogLayout.h"
 #include "dialog/QueueList.h"
 #include "dialog/WindowSettings.h"
+#include "preview/PagePreview.h"
+#include "queues/JobOnlyKeys.h"
 #include "queues/PanelLoader.h"
 #include "widgets/DocumentList.h"
 #include "widgets/MessageBar.h"
@@ -78,6 +80,8 @@ PrintDialog::PrintDialog(std::shared_ptr<const QueueSource> source, std::shared_
 
     m_parts->documents->addDocuments(m_start.documents);
     updateTitle();
+    if (m_start.caller)
+        followCaller(*m_start.caller);
     m_parts->queues->setQueues({});
     m_parts->showWait(nullptr, tr("Looking for printers…"));
     m_parts->summary->showNote(QString());
@@ -129,6 +133,23 @@ void PrintDialog::connectParts()
     connect(m_sending.get(), &JobSending::sent, this, &PrintDialog::finish);
     connect(m_sending.get(), &JobSending::failed, this, &PrintDialog::reportFailure);
     connect(m_gate, &InputGate::escaped, this, &PrintDialog::reject);
+}
+
+void PrintDialog::followCaller(const DialogCaller &caller)
+{
+    setAcceptDrops(false);
+    m_parts->documents->setFixed(true);
+    m_parts->documents->setVisible(m_sending->needsDocuments());
+    m_parts->preview->setVisible(m_sending->needsDocuments());
+    JobOptions options{{QString::fromLatin1(kCopiesKey), QString::number(caller.copies)}};
+    if (!caller.pageRange.isEmpty())
+        options[QString::fromLatin1(kPageRangesKey)] = caller.pageRange;
+    m_parts->job->setOptions(options);
+    if (!caller.title.isEmpty())
+        // Qt puts the program's state in place of this mark.
+        setWindowTitle(QString(caller.title).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+    if (!caller.acceptText.isEmpty())
+        m_parts->print->setText(QString(caller.acceptText).replace(u'&', QStringLiteral("&&")));
 }
 
 QString PrintDialog::printReason() const

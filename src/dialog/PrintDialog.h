@@ -2,6 +2,7 @@
 // The print dialog's window: user actions, and the order in which queues, pane and job are handled.
 #pragma once
 
+#include "dialog/DialogCaller.h"
 #include "dialog/QueueRoom.h"
 #include "jobs/JobSink.h"
 #include "queues/BackgroundCall.h"
@@ -38,6 +39,7 @@ struct PrintDialogStart
     bool remembersSize = true;     // whether the window opens as large as it was last
     std::optional<UserDefaults::Options> jobOptions = {}; // of a job that exists already: it starts from nothing else,
                                                           // and what is chosen for it is not remembered
+    std::optional<DialogCaller> caller = {}; // the program that has the user print; nothing: the user himself
 };
 
 class PrintDialog : public QDialog
@@ -59,6 +61,8 @@ public:
     // The message shown in the message bar. Empty when there is none.
     QString messageText() const;
     const PrintDialogLayout &parts() const { return *m_parts; }
+    // The chosen queue; null while there is none.
+    const QueueRoom *currentRoom() const { return m_current; }
 
 signals:
     // The chosen queue is shown with its pane or with the reason why it has none, or there is no queue.
@@ -77,6 +81,7 @@ public slots:
 
 private:
     void connectParts();
+    void followCaller(const DialogCaller &caller);
     using Step = void (PrintDialog::*)();
     // Runs a step after the window was painted. Replaces a step that is still waiting.
     void afterPaint(Step step, int milliseconds = 0);

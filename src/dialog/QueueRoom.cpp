@@ -74,8 +74,7 @@ void QueueRoom::open(Ppds ppds, bool hasPrinter, const StartChoices &choices)
                                                std::move(ppds.panel));
     if (choices.ticket)
         m_session->ticket().replace(*choices.ticket);
-    if (choices.areUserDefaults)
-        m_userDefaults = *choices.ticket;
+    m_forPanel = choices.forPanel;
     m_rows = new PpdOptionRows(m_rowsPpd->handle());
     m_rows->readFrom(m_session->printSettings());
     m_state = State::Opened;
@@ -113,7 +112,7 @@ void QueueRoom::preparePane(PanelLoader &loader)
         return;
     }
     m_holder = std::move(holder);
-    giveUserDefaultsToPanel();
+    giveChoicesToPanel();
     m_paneName = m_holder->panel().panelName();
     connect(m_holder.get(), &PanelHolder::changed, this, &QueueRoom::panelChanged);
 }
@@ -139,12 +138,12 @@ QString QueueRoom::saveValues()
 
 // A panel keeps its choices in dictionaries of its own within the ticket. Once it has made them, the defaults of its
 // options are put there, and it reads them.
-void QueueRoom::giveUserDefaultsToPanel()
+void QueueRoom::giveChoicesToPanel()
 {
     PrintPanel &panel = m_holder->panel();
-    if (m_userDefaults.entries.empty() || !panel.saveValuesAndReturnError(nullptr))
+    if (m_forPanel.entries.empty() || !panel.saveValuesAndReturnError(nullptr))
         return;
-    putIntoNested(m_session->ticket().entries(), m_userDefaults, m_paneKeys);
+    putIntoNested(m_session->ticket().entries(), m_forPanel, m_paneKeys);
     panel.restoreValuesAndReturnError(nullptr);
 }
 

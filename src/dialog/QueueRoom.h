@@ -97,10 +97,10 @@ signals:
     void panelChanged();
 
 private:
-    void giveUserDefaultsToPanel();
+    void giveChoicesToPanel();
 
     PrintQueue m_queue;
-    PrintDictionary m_userDefaults; // what the panel has to be given when it is there
+    PrintDictionary m_forPanel; // what the panel has to be given when it is there
     State m_state = State::Listed;
     QString m_paneName;
     QStringList m_paneKeys;

@@ -7,8 +7,10 @@
 
 namespace bv {
 
-StartChoices startChoices(const PrintDialogStart &start, const RememberedTickets &remembered, const QString &queue,
-                          ppd_file_t *ppd)
+namespace {
+
+StartChoices choicesWithoutCaller(const PrintDialogStart &start, const RememberedTickets &remembered,
+                                  const QString &queue, ppd_file_t *ppd)
 {
     StartChoices choices;
     const bool isFirst = queue == start.queue;
@@ -19,7 +21,7 @@ StartChoices startChoices(const PrintDialogStart &start, const RememberedTickets
     }
     if (isFirst && start.jobOptions) {
         choices.ticket = ticketFromDefaults(*start.jobOptions, ppd);
-        choices.areUserDefaults = true;
+        choices.forPanel = *choices.ticket;
         return choices;
     }
     const QueueInstance wanted{queue, isFirst ? start.instance : QString()};
@@ -35,8 +37,27 @@ StartChoices startChoices(const PrintDialogStart &start, const RememberedTickets
     }
     if (!options->empty()) {
         choices.ticket = ticketFromDefaults(*options, ppd);
-        choices.areUserDefaults = true;
+        choices.forPanel = *choices.ticket;
     }
+    return choices;
+}
+
+} // namespace
+
+StartChoices startChoices(const PrintDialogStart &start, const RememberedTickets &remembered, const QString &queue,
+                          ppd_file_t *ppd)
+{
+    StartChoices choices = choicesWithoutCaller(start, remembered, queue, ppd);
+    if (!start.caller || queue != start.queue)
+        return choices;
+    for (const auto &[key, value] : start.caller->choices.entries) {
+        if (!choices.ticket)
+            choices.ticket.emplace();
+        choices.ticket->setValue(key, value);
+        choices.forPanel.setValue(key, value);
+    }
+    if (!start.caller->note.isEmpty())
+        choices.note = start.caller->note;
     return choices;
 }
 

@@ -12,7 +12,7 @@ struct PrintDialogStart;
 struct StartChoices
 {
     std::optional<PrintDictionary> ticket; // nothing: the printer's defaults
-    bool areUserDefaults = false;          // no panel has seen the ticket; also for the options of a job
+    PrintDictionary forPanel;              // of that ticket, what no panel has seen yet
     QString note;                          // a sentence for the user; may be empty
 };
 

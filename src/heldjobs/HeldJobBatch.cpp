@@ -59,7 +59,7 @@ Result<HeldJobSession> startHeldJobSession(const SessionRequest &request, const 
     const JobOptions &options = found.value().attributes.options;
     StartChoices choices;
     choices.ticket = ticketFromDefaults(options, ppds.value().rows.handle());
-    choices.areUserDefaults = true;
+    choices.forPanel = *choices.ticket;
     room.open(std::move(ppds.value()), true, choices);
     room.preparePane(loader);
     room.saveValues();

@@ -141,6 +141,13 @@ void DocumentList::addDropped(const QMimeData &data)
         emit refused(tr("Only files of this computer can be printed. Save the document here first."));
 }
 
+void DocumentList::setFixed(bool fixed)
+{
+    m_isFixed = fixed;
+    m_add->setVisible(!fixed);
+    m_remove->setVisible(!fixed);
+}
+
 bool DocumentList::canTake(const QMimeData &data)
 {
     return data.hasUrls();
@@ -162,7 +169,7 @@ void DocumentList::chooseFiles()
 void DocumentList::removeSelected()
 {
     const QList<QListWidgetItem *> selected = m_list->selectedItems();
-    if (selected.isEmpty())
+    if (selected.isEmpty() || m_isFixed)
         return;
     // The Remove button is disabled when the list becomes empty, so the focus moves to the list first.
     m_list->setFocus();

@@ -23,6 +23,8 @@ public:
     void addDocuments(const QStringList &paths);
     // Adds the files of a drop or paste. Only local files can be printed.
     void addDropped(const QMimeData &data);
+    // A fixed list shows its documents only: nothing can be added or removed by the user.
+    void setFixed(bool fixed);
     // True if the data may contain files.
     static bool canTake(const QMimeData &data);
 
@@ -46,6 +48,7 @@ private:
     QListWidget *m_list;
     QPushButton *m_add;
     QPushButton *m_remove;
+    bool m_isFixed = false;
 };
 
 } // namespace bv

@@ -67,7 +67,10 @@ public:
         return bv::SentJob{int(jobs.size()), QString()};
     }
 
+    bool takesDocuments() const override { return needsDocuments; }
+
     QString refusal;
+    bool needsDocuments = true;
     std::atomic<bool> isSlow = false; // a job ends only when it is canceled
     mutable std::vector<bv::JobRequest> jobs;
 };
