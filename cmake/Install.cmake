@@ -14,16 +14,18 @@ set(BV_APPLICATIONS ${CMAKE_INSTALL_DATADIR}/applications)
 set(BV_ICONS ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 # The print server's folder of filters (cups-config --serverbin), relative to the prefix /usr.
 set(BV_FILTERS lib/cups/filter)
-set(BV_PLACES ${CMAKE_INSTALL_BINDIR} lib/bvco ${BV_FILTERS} ${BV_PPD_FOLDER} ${BV_APPLICATIONS} ${BV_ICONS}
+set(BV_PORTALS ${CMAKE_INSTALL_DATADIR}/xdg-desktop-portal/portals)
+set(BV_SERVICES ${CMAKE_INSTALL_DATADIR}/dbus-1/services)
+set(BV_PLACES ${CMAKE_INSTALL_BINDIR} lib/bvco ${BV_FILTERS} ${BV_PPD_FOLDER} ${BV_APPLICATIONS} ${BV_ICONS} ${BV_PORTALS} ${BV_SERVICES}
   "${BV_HELPERS}" "${BV_SHARED}/Icons" "${BV_SHARED}/Profiles" "${BV_LIBRARY}/Printers/BREVANE/Preferences")
 
 # Runs first, so that an installation is never left half done. Also creates the folders.
 install(CODE "
   set(places [==[${BV_PLACES}]==])
-  set(programs [==[$<TARGET_FILE:bvprint>;$<TARGET_FILE:bvco>;$<TARGET_FILE:bvpages>;$<TARGET_FILE:QL70Helper>;$<TARGET_FILE:QL70Walk>;$<TARGET_FILE:QL70Resolve>;$<TARGET_FILE:bvql70>]==])
+  set(programs [==[$<TARGET_FILE:bvprint>;$<TARGET_FILE:bvportal>;$<TARGET_FILE:bvco>;$<TARGET_FILE:bvpages>;$<TARGET_FILE:QL70Helper>;$<TARGET_FILE:QL70Walk>;$<TARGET_FILE:QL70Resolve>;$<TARGET_FILE:bvql70>]==])
   include([==[${CMAKE_SOURCE_DIR}/cmake/InstallCheck.cmake]==])")
 
-install(TARGETS bvprint RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS bvprint bvportal RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 # bvprint looks for the plug-in and for bvpages beside itself, in ../lib/bvco.
 install(TARGETS bvco LIBRARY DESTINATION lib/bvco)
 install(TARGETS bvpages QL70Resolve RUNTIME DESTINATION lib/bvco)
@@ -33,6 +35,14 @@ install(TARGETS bvql70 RUNTIME DESTINATION ${BV_FILTERS})
 
 install(FILES ${CMAKE_SOURCE_DIR}/resources/QL70.ppd DESTINATION ${BV_PPD_FOLDER})
 install(FILES ${CMAKE_SOURCE_DIR}/resources/bvprint.desktop DESTINATION ${BV_APPLICATIONS})
+# The service file holds the path of bvportal, and the prefix is known at installation only.
+set(BV_SERVICE org.freedesktop.impl.portal.desktop.bvprint.service)
+install(FILES ${CMAKE_SOURCE_DIR}/resources/portal/vnd.brevane.bvprint.portal DESTINATION ${BV_PORTALS})
+install(CODE "
+  set(CMAKE_INSTALL_BINDIR [==[${CMAKE_INSTALL_BINDIR}]==])
+  configure_file([==[${CMAKE_SOURCE_DIR}/resources/portal/${BV_SERVICE}.in]==]
+    [==[${CMAKE_BINARY_DIR}/${BV_SERVICE}]==] @ONLY)")
+install(FILES ${CMAKE_BINARY_DIR}/${BV_SERVICE} DESTINATION ${BV_SERVICES})
 install(FILES ${CMAKE_SOURCE_DIR}/resources/icons/bvprint.svg DESTINATION ${BV_ICONS})
 install(FILES ${CMAKE_SOURCE_DIR}/resources/icons/fileExistqnQL70.icns DESTINATION "${BV_SHARED}/Icons")
 
