@@ -3,9 +3,9 @@
 // pane, the job's options.
 #include "QtFuzzing.h"
 #include "common/PDECommon.h"
-#include "dialog/PpdOptionRows.h"
 #include "filter/JobSettings.h"
 #include "jobs/PrintJob.h"
+#include "options/PpdOptionRows.h"
 #include "platform/Bundle.h"
 #include "plugin/PDEPlugInInterface.h"
 #include "queues/QueueSession.h"

@@ -9,7 +9,7 @@
 
 namespace bv {
 
-DefaultsMenu::DefaultsMenu(QWidget *parent) : QPushButton(tr("M&y Defaults"), parent)
+DefaultsMenu::DefaultsMenu(QWidget *parent) : QPushButton(tr("&My Defaults"), parent)
 {
     setObjectName(QStringLiteral("myDefaults"));
     setAutoDefault(false);

@@ -73,7 +73,7 @@ PanelWait::End DeviceWait::waitForInput(int descriptor, std::optional<Clock::tim
         return End::Input;
     const QString sentence =
         m_device.empty() ? m_panel->text() : tr("Waiting for the printer at %1…").arg(QString::fromStdString(m_device));
-    m_panel->wait(sentence, tr("&Skip"));
+    m_panel->wait(sentence, tr("S&kip"));
     m_gate->close({m_panel->skipButton(), m_cancel});
     QSocketNotifier input(descriptor, QSocketNotifier::Read);
     connect(&input, &QSocketNotifier::activated, &m_loop, &QEventLoop::quit);

@@ -4,9 +4,9 @@
 
 #include "dialog/DefaultsMenu.h"
 #include "dialog/JobRows.h"
-#include "dialog/PpdOptionRows.h"
 #include "dialog/QueueList.h"
 #include "dialog/WindowSettings.h"
+#include "options/PpdOptionRows.h"
 #include "preview/PagePreview.h"
 #include "platform/PlainTip.h"
 #include "widgets/BreakingLabel.h"

@@ -83,6 +83,12 @@ void QueueRoom::open(Ppds ppds, bool hasPrinter, const StartChoices &choices)
 void QueueRoom::preparePane(PanelLoader &loader)
 {
     m_state = State::Ready;
+    makePane(loader);
+    m_rows->offerFurther(m_holder ? m_paneKeys : QStringList(), queueTitle(m_queue), m_session->printSettings());
+}
+
+void QueueRoom::makePane(PanelLoader &loader)
+{
     std::unique_ptr<PrintPanel> panel = loader.printerPanel(m_session.get());
     if (!panel) {
         m_noPaneReason = tr("“%1” has no color options: the plug-in offers none. Install it anew to have them.")

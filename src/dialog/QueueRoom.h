@@ -3,9 +3,9 @@
 #pragma once
 
 #include "dialog/PanelHolder.h"
-#include "dialog/PpdOptionRows.h"
 #include "dialog/StartChoices.h"
 #include "jobs/PrintJob.h"
+#include "options/PpdOptionRows.h"
 #include "queues/QueueSession.h"
 #include "queues/QueueSource.h"
 
@@ -97,6 +97,7 @@ signals:
     void panelChanged();
 
 private:
+    void makePane(PanelLoader &loader);
     void giveChoicesToPanel();
 
     PrintQueue m_queue;

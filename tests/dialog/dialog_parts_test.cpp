@@ -3,7 +3,7 @@
 #include "DialogWorld.h"
 
 #include "dialog/PaneSurvey.h"
-#include "dialog/PpdOptionRows.h"
+#include "options/PpdOptionRows.h"
 #include "queues/Ticket.h"
 #include "widgets/ChangeWatcher.h"
 #include "widgets/DocumentList.h"

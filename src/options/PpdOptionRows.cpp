@@ -1,0 +1,213 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// Builds the rows from the PPD. Keeps controls, ticket and conflict line consistent.
+#include "options/PpdOptionRows.h"
+
+#include "options/MoreOptionsWindow.h"
+#include "options/OptionMenu.h"
+#include "platform/PlainTip.h"
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+
+namespace bv {
+
+namespace {
+
+struct RowKind
+{
+    const char *label;                  // with its mnemonic
+    const char *name;                   // for use in a sentence
+    std::vector<const char *> keywords; // the first one that the PPD has is used
+};
+
+// The rows in display order. Some makers' PPDs use a keyword of their own for the option.
+const std::vector<RowKind> &rowKinds()
+{
+    // clang-format off
+    static const std::vector<RowKind> kinds = {
+        {QT_TRANSLATE_NOOP("bv::PpdOptionRows", "Paper si&ze:"),  QT_TRANSLATE_NOOP("bv::PpdOptionRows", "Paper size"), {"PageSize"}},
+        {QT_TRANSLATE_NOOP("bv::PpdOptionRows", "Paper t&ype:"),  QT_TRANSLATE_NOOP("bv::PpdOptionRows", "Paper type"), {"MediaType"}},
+        {QT_TRANSLATE_NOOP("bv::PpdOptionRows", "&Tray:"),        QT_TRANSLATE_NOOP("bv::PpdOptionRows", "Tray"),       {"InputSlot"}},
+        {QT_TRANSLATE_NOOP("bv::PpdOptionRows", "T&wo-sided:"),   QT_TRANSLATE_NOOP("bv::PpdOptionRows", "Two-sided"),  {"Duplex", "JCLDuplex", "EFDuplex"}},
+        {QT_TRANSLATE_NOOP("bv::PpdOptionRows", "Resolutio&n:"),  QT_TRANSLATE_NOOP("bv::PpdOptionRows", "Resolution"), {"Resolution", "SetResolution", "JCLResolution"}},
+    };
+    // clang-format on
+    return kinds;
+}
+
+QString valueOf(const std::map<QString, QString> &texts, const QString &keyword)
+{
+    const auto found = texts.find(keyword);
+    return found == texts.end() ? QString() : found->second;
+}
+
+} // namespace
+
+PpdOptionRows::PpdOptionRows(ppd_file_t *ppd, QWidget *parent)
+    : QWidget(parent), m_ppd(ppd), m_finder(ppd), m_form(new QFormLayout(this)), m_conflict(new QLabel(this)),
+      m_conflictIcon(new QLabel(this)), m_more(new QPushButton(this))
+{
+    m_form->setContentsMargins(0, 0, 0, 0);
+    m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    m_conflict->setObjectName(QStringLiteral("conflictText"));
+    m_conflict->setTextFormat(Qt::PlainText);
+    m_conflict->setWordWrap(true);
+    m_conflict->hide();
+    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    m_conflictIcon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size, size));
+    m_conflictIcon->setAlignment(Qt::AlignTop | Qt::AlignTrailing);
+    m_conflictIcon->hide();
+    m_more->setObjectName(QStringLiteral("moreOptions"));
+    m_more->setAutoDefault(false);
+    m_more->hide();
+    connect(m_more, &QPushButton::clicked, this, &PpdOptionRows::openWindow);
+    for (const RowKind &kind : rowKinds()) {
+        for (const char *keyword : kind.keywords) {
+            const ppd_option_t *option = m_ppd ? ppdFindOption(m_ppd, keyword) : nullptr;
+            if (option && option->num_choices > 0) {
+                addRow(*option, tr(kind.label), tr(kind.name));
+                break;
+            }
+        }
+    }
+    m_form->addRow(m_more);
+    m_form->addRow(m_conflictIcon, m_conflict);
+}
+
+void PpdOptionRows::addRow(const ppd_option_t &option, const QString &label, const QString &name)
+{
+    auto *menu = new OptionMenu(option, name, this);
+    m_form->addRow(label, menu);
+    m_finder.setTitle(menu->keyword(), name);
+    connect(menu, &OptionMenu::choiceMade, this, &PpdOptionRows::choiceMade);
+    m_menus.push_back(menu);
+}
+
+void PpdOptionRows::offerFurther(const QStringList &paneKeys, const QString &printer, PMPrintSettings settings)
+{
+    delete m_window; // it shows the options that there were
+    m_printer = printer;
+    m_further.take(m_ppd, paneKeys + keywords());
+    m_further.readFrom(settings);
+    m_more->setVisible(!m_further.entries().empty());
+    showChanged();
+}
+
+void PpdOptionRows::openWindow()
+{
+    if (!m_window) {
+        m_window = new MoreOptionsWindow(m_further, m_printer, window());
+        m_window->setModal(true);
+        connect(m_window, &MoreOptionsWindow::choiceMade, this, [this](const QString &keyword, const QString &choice) {
+            m_further.choose(keyword, choice);
+            showChanged();
+            emit choiceMade(keyword, choice);
+        });
+        connect(m_window, &MoreOptionsWindow::defaultsWanted, this, [this] {
+            for (const FurtherOptions::Entry &entry : m_further.entries())
+                if (const QString usual = defaultChoice(*entry.option); entry.choice != usual) {
+                    m_further.choose(entry.keyword(), usual);
+                    emit choiceMade(entry.keyword(), usual);
+                }
+            showChanged();
+        });
+    }
+    showNotes();
+    m_window->show();
+}
+
+void PpdOptionRows::readFrom(PMPrintSettings settings)
+{
+    for (OptionMenu *menu : m_menus) {
+        PrintValue value;
+        PMPrintSettingsGetValue(settings, menu->keyword(), &value);
+        const QString *choice = value.string();
+        if (!choice || !menu->choose(*choice))
+            menu->chooseDefault();
+    }
+    m_further.readFrom(settings);
+    showChanged();
+    updateConflicts(settings);
+}
+
+void PpdOptionRows::writeTo(PMPrintSettings settings) const
+{
+    for (const OptionMenu *menu : m_menus) {
+        if (menu->currentIndex() >= 0)
+            PMPrintSettingsSetValue(settings, menu->keyword(), menu->choice());
+    }
+    m_further.writeTo(settings);
+}
+
+void PpdOptionRows::restoreDefaults()
+{
+    for (OptionMenu *menu : m_menus)
+        menu->chooseDefault();
+    m_further.restoreDefaults();
+    showChanged();
+}
+
+ConflictFinder::Choices PpdOptionRows::choices(PMPrintSettings settings) const
+{
+    ConflictFinder::Choices choices;
+    for (const ppd_option_t *option = ppdFirstOption(m_ppd); option; option = ppdNextOption(m_ppd)) {
+        const QString keyword = QString::fromUtf8(option->keyword);
+        PrintValue value;
+        PMPrintSettingsGetValue(settings, keyword, &value);
+        if (const QString *choice = value.string())
+            choices[keyword] = *choice;
+    }
+    for (const OptionMenu *menu : m_menus)
+        choices[menu->keyword()] = menu->choice();
+    for (const FurtherOptions::Entry &entry : m_further.entries())
+        choices[entry.keyword()] = entry.choice;
+    return choices;
+}
+
+void PpdOptionRows::updateConflicts(PMPrintSettings settings)
+{
+    const std::vector<Conflict> conflicts =
+        hasConstraints() ? m_finder.find(choices(settings)) : std::vector<Conflict>();
+    QStringList sentences;
+    for (const Conflict &conflict : conflicts)
+        sentences << conflict.sentence;
+    m_conflicts = conflictsByOption(conflicts);
+    m_conflict->setText(sentences.join(u'\n'));
+    m_conflict->setVisible(!sentences.isEmpty());
+    m_conflictIcon->setVisible(!sentences.isEmpty());
+    showNotes();
+}
+
+void PpdOptionRows::showNotes()
+{
+    for (OptionMenu *menu : m_menus)
+        menu->explain(valueOf(m_conflicts, menu->keyword()), {});
+    if (m_window)
+        m_window->showChoices(m_conflicts, {});
+}
+
+void PpdOptionRows::showChanged()
+{
+    const int changed = m_further.changed();
+    m_more->setText(changed == 0 ? tr("M&ore Options…") : tr("M&ore Options (%1 changed)…").arg(changed));
+    setPlainTip(m_more, tr("All other options of this printer"));
+    if (m_window)
+        showNotes();
+}
+
+QString PpdOptionRows::conflictText() const
+{
+    return m_conflict->text();
+}
+
+QStringList PpdOptionRows::keywords() const
+{
+    QStringList keywords;
+    for (const OptionMenu *menu : m_menus)
+        keywords << menu->keyword();
+    return keywords;
+}
+
+} // namespace bv

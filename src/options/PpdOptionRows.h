@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// The dialog's own controls for options of the PPD: rows for paper size and type, tray, two-sided printing and
+// resolution, and a button for all that neither a row nor the pane holds. The ticket holds the choices as top-level
+// strings under the PPD's keywords.
+#pragma once
+
+#include "options/ConflictFinder.h"
+#include "options/FurtherOptions.h"
+
+#include <QPointer>
+#include <QWidget>
+
+class QFormLayout;
+class QLabel;
+class QPushButton;
+
+namespace bv {
+
+class MoreOptionsWindow;
+class OptionMenu;
+
+class PpdOptionRows : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // Makes one row for each of these options that the PPD has. A null PPD gives no rows. The PPD is borrowed and must
+    // outlive the rows. Looking for conflicts marks choices in it, so no panel may use the same PPD.
+    explicit PpdOptionRows(ppd_file_t *ppd, QWidget *parent = nullptr);
+
+    // Offers what neither a row nor the pane holds. `paneKeys` are the options in the pane; `printer` is a title.
+    void offerFurther(const QStringList &paneKeys, const QString &printer, PMPrintSettings settings);
+
+    // Sets the rows from the ticket. A row shows the PPD's default when its entry is missing or names an unknown
+    // choice.
+    void readFrom(PMPrintSettings settings);
+    // Writes the choice of every row into the ticket, so that the job contains all that the rows show. Of the further
+    // options it has those that are not at their defaults.
+    void writeTo(PMPrintSettings settings) const;
+    // Sets every option to the PPD's default.
+    void restoreDefaults();
+
+    // Checks the rows against the ticket's other choices. Marks the rows in conflict, and describes the conflicts in a
+    // line below the rows; the line is hidden when there are none.
+    void updateConflicts(PMPrintSettings settings);
+    QString conflictText() const;
+    // True if the PPD has any constraints.
+    bool hasConstraints() const { return m_finder.hasConstraints(); }
+
+    // PPD keywords of the rows, in order. The object name of a row's pop-up is "row_" and the keyword.
+    QStringList keywords() const;
+    QFormLayout *form() const { return m_form; }
+
+signals:
+    // The user made a choice. Both arguments are PPD keywords.
+    void choiceMade(const QString &keyword, const QString &choice);
+
+private:
+    void addRow(const ppd_option_t &option, const QString &label, const QString &name);
+    void openWindow();
+    // What the job would contain of these options, and of the ticket's others.
+    ConflictFinder::Choices choices(PMPrintSettings settings) const;
+    void showNotes();
+    void showChanged();
+
+    ppd_file_t *m_ppd;
+    ConflictFinder m_finder;
+    QFormLayout *m_form;
+    QLabel *m_conflict;
+    QLabel *m_conflictIcon;
+    QPushButton *m_more;
+    std::vector<OptionMenu *> m_menus;
+    FurtherOptions m_further;
+    QPointer<MoreOptionsWindow> m_window;
+    QString m_printer;
+    std::map<QString, QString> m_conflicts; // sentences by keyword
+};
+
+} // namespace bv

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// What options and choices of a PPD are called on screen.
+#pragma once
+
+#include <QString>
+#include <cups/ppd.h>
+
+namespace bv {
+
+// The PPD's texts, or the keywords where it has none. A text is plain; a label needs its ampersands doubled.
+QString optionText(const ppd_option_t &option);
+QString choiceText(const ppd_choice_t &choice);
+QString groupText(const ppd_group_t &group);
+
+} // namespace bv
