@@ -40,7 +40,8 @@ QString copyName(const QString &document, const QString &format, int number, con
     return taken.contains(name) ? QStringLiteral("%1-%2").arg(number).arg(name) : name;
 }
 
-Copies copyDocuments(const HeldJob &job, const std::shared_ptr<QTemporaryDir> &folder, CallControl &control)
+Copies copyDocuments(const HeldJob &job, const std::shared_ptr<QTemporaryDir> &folder, CallControl &control,
+                     qint64 space)
 {
     if (!folder->isValid() || job.documents > kMostDocuments)
         return Copies::failure(tr("No preview: the documents cannot be kept."));
@@ -50,7 +51,6 @@ Copies copyDocuments(const HeldJob &job, const std::shared_ptr<QTemporaryDir> &f
         return Copies::failure(server.error());
     QStringList names;
     QStringList paths;
-    qint64 space = kLargestCopies;
     for (int number = 1; number <= job.documents; ++number) {
         const QString part = folder->filePath(QStringLiteral(".part"));
         QFile file(part);

@@ -13,9 +13,10 @@ namespace bv {
 inline constexpr qint64 kLargestCopies = 256 * 1024 * 1024;
 
 // The paths of the copies, in printing order, as many as the job has documents. The folder is the caller's; a call that
-// was given up may go on writing there for a moment. The sentence of a failure says why there is no preview.
+// was given up may go on writing there for a moment. The sentence of a failure says why there is no preview. `space` is
+// in bytes.
 Result<QStringList> copyDocuments(const HeldJob &job, const std::shared_ptr<QTemporaryDir> &folder,
-                                  CallControl &control);
+                                  CallControl &control, qint64 space = kLargestCopies);
 
 // The name of a copy: that of the document without its folders and with an ending that tells its format; `number`
 // counts the documents from 1, and is part of the name where an earlier document has the same.

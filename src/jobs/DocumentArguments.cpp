@@ -22,11 +22,17 @@ QString tr(const char *text)
     return QCoreApplication::translate("DocumentArguments", text);
 }
 
+// Web addresses as well, so that their sentence does not speak of a missing file.
+bool isUrl(const QString &word)
+{
+    return word.startsWith(u"file://", Qt::CaseInsensitive) || (word.contains(u"://") && !QFile::exists(word));
+}
+
 Result<QString> pathOfUrl(const QString &word)
 {
     const QUrl url(word, QUrl::StrictMode);
     const QString path = url.path(QUrl::FullyDecoded);
-    const bool isHere = url.host().isEmpty() || url.host() == u"localhost";
+    const bool isHere = url.scheme() == u"file" && (url.host().isEmpty() || url.host() == u"localhost");
     return url.isValid() && isHere && !path.isEmpty()
                ? Result<QString>(path)
                : Result<QString>::failure(
@@ -43,9 +49,7 @@ Result<QStringList> DocumentArguments::paths(const QStringList &words)
 {
     QStringList paths;
     for (const QString &word : words) {
-        const Result<QString> path = word == u"-"                                       ? keepInput()
-                                     : word.startsWith(u"file://", Qt::CaseInsensitive) ? pathOfUrl(word)
-                                                                                        : Result<QString>(word);
+        const Result<QString> path = word == u"-" ? keepInput() : isUrl(word) ? pathOfUrl(word) : Result<QString>(word);
         if (!path)
             return Result<QStringList>::failure(path.error());
         paths << path.value();

@@ -126,7 +126,7 @@ TEST(Documents, AreNamedByPathsAndFileUrls)
     const auto paths = arguments.paths({"a b.txt", "file:///tmp/a%20b.txt", "FILE://localhost/x%25y"});
     ASSERT_TRUE(paths);
     EXPECT_EQ(paths.value(), (QStringList{"a b.txt", "/tmp/a b.txt", "/x%y"}));
-    for (const char *refused : {"-", "file://elsewhere/a", "file://"})
+    for (const char *refused : {"-", "file://elsewhere/a", "file://", "https://example.org/a.pdf"})
         EXPECT_FALSE(arguments.paths({refused})) << refused;
 }
 

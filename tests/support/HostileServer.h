@@ -22,7 +22,8 @@ public:
 
     // The value of CUPS_SERVER for this server.
     QString address() const { return m_address; }
-    // Waits for a request: "queues", "default", "ppd", "attributes", "create", "send" or "cancel".
+    // Waits for a request: "queues", "default", "ppd", "attributes", "create", "send", "cancel",
+    // "job", "set", "release" or "document".
     bool waitFor(const std::string &request) { return m_program.waitFor('\n' + request); }
     // How many of them came until now.
     int count(const std::string &request)

@@ -5,13 +5,16 @@
 Prints its port, then a line for each request it got. What is not named on the command line works like a plain print
 server with one queue, QL70. OPERATION is a row of OPERATIONS, or "any".
 """
+import os
+import pwd
 import socket
 import struct
 import sys
 import threading
 import time
 
-OPERATIONS = {0x4001: "default", 0x4002: "queues", 0x000B: "attributes", 0x0005: "create", 0x0006: "send", 0x0008: "cancel"}
+OPERATIONS = {0x4001: "default", 0x4002: "queues", 0x000B: "attributes", 0x0005: "create", 0x0006: "send", 0x0008: "cancel",
+              0x0009: "job", 0x0014: "set", 0x000D: "release", 0x4027: "document"}
 # Markup, and sequences that would steer a terminal or a widget.
 NASTY = "<img src='/dev/zero'><b>x\x1b[2J\x1b]0;t\x07\x9b31m\u202e&amp;%1"
 JOB = 7
@@ -41,6 +44,11 @@ def body(operation, behavior):
         return queue("QL70", words)
     if operation in ("create", "send"):
         return b"\x02" + attribute(0x21, "job-id", struct.pack(">i", JOB)) + attribute(0x23, "job-state", struct.pack(">i", 3))
+    if operation == "job":
+        return (b"\x02" + text(0x42, "job-originating-user-name", pwd.getpwuid(os.getuid()).pw_name)
+                + text(0x45, "job-printer-uri", "ipp://localhost/printers/QL70")
+                + attribute(0x23, "job-state", struct.pack(">i", 4))
+                + attribute(0x21, "number-of-documents", struct.pack(">i", 1)))
     return queue("QL70", words) if operation == "attributes" else b""
 
 
@@ -54,7 +62,7 @@ def message(operation, behavior, number):
         return head + b"\x04" + attribute(0x34, "a", b"") + (attribute(0x4A, "", b"m") + attribute(0x34, "", b"")) * 200000
     if behavior == "endless":
         return None
-    return head + body(operation, behavior) + b"\x03"
+    return head + body(operation, behavior) + b"\x03" + (b"%PDF-" if operation == "document" else b"")
 
 
 class Connection:
