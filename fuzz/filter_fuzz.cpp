@@ -57,7 +57,9 @@ void checkDocument(std::string_view document)
     for (const char *lineEnd : {"\r\n", "\n", "\r"}) {
         const std::string block = replaced(
             "[{\n%%BeginFeature: *BVFuzzed x\n/BVFuzzedCode\n%%EndFeature\n} stopped cleartomark\n", "\n", lineEnd);
-        text = replaced(text, replaced("%%BeginSetup\n", "\n", lineEnd) + block + "%%EndSetup" + lineEnd, "");
+        std::string section = replaced("%%BeginSetup\n", "\n", lineEnd);
+        section.append(block).append("%%EndSetup").append(lineEnd);
+        text = replaced(text, section, "");
         text = replaced(text, block, "");
     }
     // A document may itself hold such a section around the settings, and then it was taken out with them.

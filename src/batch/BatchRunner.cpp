@@ -24,7 +24,7 @@ namespace {
 // So each command runs two rounds after the previous one. By then the code that opened the window has finished.
 constexpr int kTurnsBetweenCommands = 2;
 
-constexpr qsizetype kLongestLine = 1024 * 1024; // bytes
+constexpr qsizetype kLongestLine = qsizetype{1024} * 1024; // bytes
 
 } // namespace
 

@@ -39,7 +39,7 @@ QString PanelHolder::prepare()
     m_area->setObjectName(QStringLiteral("paneArea"));
     m_area->setWidget(view);
     view->show();
-    const QString problem = restoreValues();
+    QString problem = restoreValues();
     m_watcher.watch(view);
     return problem;
 }

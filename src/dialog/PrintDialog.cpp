@@ -459,7 +459,7 @@ QString PrintDialog::reasonNotToPrint() const
         return tr("This printer takes no jobs at the moment. Choose another one, or ask who looks after it.");
     if (m_sending->needsDocuments() && m_parts->documents->documents().isEmpty())
         return tr("Add a document to print.");
-    if (const QString problem = m_parts->job->problem(); !problem.isEmpty())
+    if (QString problem = m_parts->job->problem(); !problem.isEmpty())
         return problem;
     return checkRange(m_parts->job->options(), m_parts->documents->documents(), {});
 }

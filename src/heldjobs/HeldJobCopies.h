@@ -10,7 +10,7 @@
 namespace bv {
 
 // More than this is not fetched for a picture, in bytes, of all documents of a job.
-inline constexpr qint64 kLargestCopies = 256 * 1024 * 1024;
+inline constexpr qint64 kLargestCopies = qint64{256} * 1024 * 1024;
 
 // The paths of the copies, in printing order, as many as the job has documents. The folder is the caller's; a call that
 // was given up may go on writing there for a moment. The sentence of a failure says why there is no preview. `space` is

@@ -45,7 +45,7 @@ QString copyDocument(const QString &path, const QString &target, CallControl &co
         written = copy.write(bytes.data(), qint64(bytes.size())) == qint64(bytes.size());
         return written;
     };
-    const QString error = written ? document.value().readAll(control, write) : QString();
+    QString error = written ? document.value().readAll(control, write) : QString();
     if (!written)
         return tr("The document %1 cannot be copied to %2: %3.").arg(path, target, copy.errorString());
     if (error.isEmpty() && control.isOver())
@@ -55,13 +55,13 @@ QString copyDocument(const QString &path, const QString &target, CallControl &co
 
 QString storeJob(const JobRequest &request, const QDir &folder, CallControl &control)
 {
-    if (const QString error = writeOptions(request.options, folder.filePath(QStringLiteral("options.json")));
+    if (QString error = writeOptions(request.options, folder.filePath(QStringLiteral("options.json")));
         !error.isEmpty())
         return error;
     for (qsizetype i = 0; i < request.documents.size(); ++i) {
         // The number keeps documents apart that have the same name in different folders.
         const QString name = QStringLiteral("%1-%2").arg(i + 1).arg(QFileInfo(request.documents[i]).fileName());
-        if (const QString error = copyDocument(request.documents[i], folder.filePath(name), control); !error.isEmpty())
+        if (QString error = copyDocument(request.documents[i], folder.filePath(name), control); !error.isEmpty())
             return error;
     }
     return {};

@@ -35,6 +35,7 @@ void raiseFence()
 {
     const std::vector<std::string> folders = bv::fontFolders();
     std::vector<const char *> readable;
+    readable.reserve(folders.size());
     for (const std::string &folder : folders)
         readable.push_back(folder.c_str());
     bv::raiseFence({.readable = readable, .memoryBytes = kMostMemory, .cpuSeconds = kMostSeconds});

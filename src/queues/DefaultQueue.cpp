@@ -12,7 +12,7 @@ namespace bv {
 
 namespace {
 
-constexpr qint64 kLargestFile = 1024 * 1024;
+constexpr qint64 kLargestFile = qint64{1024} * 1024;
 
 // The queue in a file's line "Default QUEUE[/INSTANCE] OPTIONS"; an instance is a set of the user's options for a
 // queue. Empty when there is none.
@@ -41,7 +41,7 @@ QString defaultQueue(ServerConnection &server, const QStringList &existing)
         return existing.contains(chosen) ? chosen : QString();
     const QString systemFolder = qEnvironmentVariable("CUPS_SERVERROOT", QStringLiteral("/etc/cups"));
     for (const QString &folder : {QDir::homePath() + QStringLiteral("/.cups"), systemFolder})
-        if (const QString chosen = defaultOfFile(folder + QStringLiteral("/lpoptions")); existing.contains(chosen))
+        if (QString chosen = defaultOfFile(folder + QStringLiteral("/lpoptions")); existing.contains(chosen))
             return chosen;
     const ServerAnswer answer = server.ask(IppMessage(ippNewRequest(IPP_OP_CUPS_GET_DEFAULT)));
     ipp_attribute_t *name =

@@ -14,7 +14,7 @@ namespace bv {
 // The text of a PPD that is neither too large nor cut off. Each panel gets a PpdFile of its own made of it.
 struct PpdText
 {
-    static constexpr qsizetype kMost = 8 * 1024 * 1024; // bytes; real ones have some hundred thousand
+    static constexpr qsizetype kMost = qsizetype{8} * 1024 * 1024; // bytes; real ones have some hundred thousand
 
     QByteArray text;
     QString name; // for sentences: the path, or another name that people know

@@ -20,9 +20,9 @@ using std::chrono::milliseconds;
 using Clock = CallControl::Clock;
 
 constexpr double kPollSeconds = 0.1; // libcups asks at least this often whether to go on waiting
-constexpr qsizetype kLargestAnswer = 32 * 1024 * 1024;
-constexpr qsizetype kLargestHead = 1024 * 1024; // of an answer that a document follows
-constexpr int kMostTries = 3;                   // of logging in
+constexpr qsizetype kLargestAnswer = qsizetype{32} * 1024 * 1024;
+constexpr qsizetype kLargestHead = qsizetype{1024} * 1024; // of an answer that a document follows
+constexpr int kMostTries = 3;                              // of logging in
 
 QString tr(const char *text)
 {

@@ -11,7 +11,7 @@ namespace bv {
 
 namespace {
 
-constexpr qint64 kLargestTicket = 1024 * 1024; // bytes; real ones have some thousand
+constexpr qint64 kLargestTicket = qint64{1024} * 1024; // bytes; real ones have some thousand
 
 // The converted value. On failure none, with a sentence in *error; `where` is the place it names.
 PrintValue fromJson(const QJsonValue &value, const QString &where, QString *error);

@@ -24,7 +24,7 @@ QString tr(const char *text)
     return QCoreApplication::translate("UserDefaults", text);
 }
 
-constexpr qint64 kLargestFile = 1024 * 1024;
+constexpr qint64 kLargestFile = qint64{1024} * 1024;
 constexpr char kKeptOptions[] = "options"; // the entry of a kept ticket that holds a line's options
 
 // Standard options that libcups turns into PPD options (cupsMarkOptions). Kept as options of their own they would

@@ -15,7 +15,7 @@
 namespace {
 
 constexpr int kArguments = 5; // with the program's name
-constexpr long kMostMilliseconds = 60 * 1000;
+constexpr long kMostMilliseconds = 60L * 1000;
 
 // Ends this process after the time, whatever it then waits for, and whatever its parent did to the signal.
 bool endAfter(std::string_view milliseconds)

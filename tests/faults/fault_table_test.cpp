@@ -86,7 +86,7 @@ protected:
         options.environment["FAULT_UNDER"] = sequence.folder();
         options.environment["FAULT_LOG"] = real("/calls");
         EXPECT_TRUE(sequence.act(options));
-        const std::string calls = contents("/calls").value_or("");
+        std::string calls = contents("/calls").value_or("");
         std::filesystem::remove(real("/calls"));
         return calls;
     }
@@ -96,7 +96,7 @@ protected:
         sequence.prepare();
         RunOptions options = with("each:" + std::to_string(call) + ':' + fault.name);
         options.environment["FAULT_UNDER"] = sequence.folder();
-        const std::string wrong = sequence.wrong(sequence.act(options), fault.ends);
+        std::string wrong = sequence.wrong(sequence.act(options), fault.ends);
         if (!wrong.empty())
             return wrong;
         return sequence.worksAgain() ? "" : "does not work again";

@@ -156,7 +156,7 @@ ScratchFolder::~ScratchFolder()
 
 std::string ScratchFolder::write(std::string_view name, std::string_view text) const
 {
-    const std::string path = file(name);
+    std::string path = file(name);
     std::filesystem::create_directories(std::filesystem::path(path).parent_path());
     std::ofstream(path, std::ios::binary) << text;
     return path;
