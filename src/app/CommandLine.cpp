@@ -19,7 +19,7 @@ struct OptionRow
 };
 
 // clang-format off
-constexpr std::array<OptionRow, 15> kOptions = {{
+constexpr std::array<OptionRow, 16> kOptions = {{
     {"batch",      "SCRIPT", [](CommandLine &line) -> QString & { return line.script; },            "carry out the commands of a file (-: standard input), without a window"},
     {"plugin",     "FILE",   [](CommandLine &line) -> QString & { return line.plugin; },            "the plug-in to load (default: the one beside this program)"},
     {"queue",      "NAME",   [](CommandLine &line) -> QString & { return line.session.queue; },     "the print queue, or QUEUE/NAME for a set of your defaults (default: the one printed on last, in a batch the print server's; with --ppd: QL70)"},
@@ -28,6 +28,7 @@ constexpr std::array<OptionRow, 15> kOptions = {{
     {"ticket",     "FILE",   [](CommandLine &line) -> QString & { return line.session.ticket; },    "a ticket to start from, as JSON"},
     {"job",        "JOB",    [](CommandLine &line) -> QString & { return line.job; },               "print a job of yours that the print server holds, such as 12 or QL70-12; it has its documents already"},
     {"agent",      "WORD",   [](CommandLine &line) -> QString & { return line.agent; },             "on: open the dialog by itself for each new job of yours that the print server holds; off: no longer; run: do it in this session"},
+    {"preset",     "NAME",   [](CommandLine &line) -> QString & { return line.preset; },            "start from a preset that you saved for the queue"},
     {"screenshot", "FILE",   [](CommandLine &line) -> QString & { return line.screenshot; },        "write a picture of the ready window (PNG), and end"},
     {"no-printer", nullptr,  nullptr,                                                               "with --ppd: there is no current printer"},
     {"share-profiles", nullptr, nullptr,                                                            "give a list of profiles to the users that are named in place of files; see --from, --replace"},
@@ -95,6 +96,10 @@ Result<CommandLine> parseCommandLine(const QStringList &arguments)
         return failure(QStringLiteral("A batch takes no documents; its print command names them."));
     if (line.mode == CommandLine::Mode::Batch && !line.screenshot.isEmpty())
         return failure(QStringLiteral("A batch takes no --screenshot; its screenshot command names the picture."));
+    if (line.mode == CommandLine::Mode::Batch && !line.preset.isEmpty())
+        return failure(QStringLiteral("A batch takes no --preset; its preset command names it."));
+    if (!line.preset.isEmpty() && !line.session.ticket.isEmpty())
+        return failure(QStringLiteral("The options --preset and --ticket both say what to start from; give one."));
     if (line.session.noPrinter && line.session.usesServer())
         return failure(QStringLiteral("The option --no-printer needs --ppd."));
     if (!line.job.isEmpty() &&

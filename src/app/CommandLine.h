@@ -19,6 +19,7 @@ struct CommandLine
     SessionRequest session; // --queue, --ppd, --device-uri, --ticket, --no-printer
     QString script;         // --batch: a file of commands, or "-" for standard input
     QString plugin;         // --plugin; empty: the installed or built plug-in
+    QString preset;         // --preset: the name of a preset to start from
     QString screenshot;     // --screenshot: a PNG file to save the window to; then it is closed
     QString job;            // --job: a job that is held on the print server, "12" or "QUEUE-12"
     QString agent;          // --agent: "on", "off" or "run"

@@ -95,7 +95,7 @@ int runProgram(const bv::CommandLine &line)
             QIcon::fromTheme(QStringLiteral("bvprint"), QIcon(QStringLiteral(":/bvprint/bvprint.svg"))));
         if (!line.job.isEmpty())
             return bv::runHeldJobDialog(line.session, line.job, line.screenshot, loader);
-        return bv::runPrintDialog({line.session, line.documents, line.screenshot}, loader);
+        return bv::runPrintDialog({line.session, line.documents, line.preset, line.screenshot}, loader);
     }
     // A batch cannot operate the desktop's own file panel.
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);

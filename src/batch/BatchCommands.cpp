@@ -5,6 +5,7 @@
 #include "batch/ControlActions.h"
 #include "jobs/JobSink.h"
 #include "jobs/PrintJob.h"
+#include "presets/PresetUse.h"
 #include "queues/BackgroundCall.h"
 #include "queues/PanelLoader.h"
 #include "queues/TicketJson.h"
@@ -74,6 +75,9 @@ const BatchCommands::Command BatchCommands::kCommands[] = {
     {"choose",                "PATH",                        1,           1, Needs::View,    true,  &BatchCommands::choose},
     {"ticket",                "",                            0,           0, Needs::Nothing, false, &BatchCommands::ticket},
     {"setTicket",             "JSON",              kRestOfLine, kRestOfLine, Needs::Nothing, true,  &BatchCommands::setTicket},
+    {"presets",               "",                            0,           0, Needs::Nothing, false, &BatchCommands::presets},
+    {"preset",                "NAME",                        1,           1, Needs::Panel,   false, &BatchCommands::preset},
+    {"savePreset",            "NAME",                        1,           1, Needs::Panel,   true,  &BatchCommands::savePreset},
     {"screenshot",            "FILE",                        1,           1, Needs::View,    true,  &BatchCommands::screenshot},
     {"print",                 "FILE...",                     0,      kNoEnd, Needs::Panel,   false, &BatchCommands::print},
 };
@@ -366,6 +370,31 @@ BatchCommands::Outcome BatchCommands::setTicket(const QStringList &words)
         return failure(ticket.error());
     m_session.ticket().replace(ticket.value());
     return nothing();
+}
+
+BatchCommands::Outcome BatchCommands::presets(const QStringList &)
+{
+    return result(QJsonArray::fromStringList(m_presets.names(m_session.queue())));
+}
+
+BatchCommands::Outcome BatchCommands::preset(const QStringList &words)
+{
+    const Result<Preset> preset = m_presets.load(m_session.queue(), words[0]);
+    if (!preset)
+        return failure(preset.error());
+    const PresetOutcome outcome = useChoices(m_session, m_panel.get(), preset.value().options);
+    return result(QJsonObject{{QStringLiteral("changed"), outcome.changed},
+                              {QStringLiteral("unused"), QJsonArray::fromStringList(outcome.misfits)}});
+}
+
+BatchCommands::Outcome BatchCommands::savePreset(const QStringList &words)
+{
+    QString error;
+    if (!m_panel->saveValuesAndReturnError(&error))
+        return answerOf(false, error);
+    return nothing(
+        m_presets.store(m_session.queue(), {words[0].trimmed(), QString::fromUtf8(m_session.ppdFile()->nickname),
+                                            presetOptions(m_session.ticket().entries())}));
 }
 
 BatchCommands::Outcome BatchCommands::print(const QStringList &words)

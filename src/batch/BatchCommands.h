@@ -6,6 +6,7 @@
 #include "batch/ControlCatalog.h"
 #include "jobs/DocumentArguments.h"
 #include "jobs/PrintJob.h"
+#include "presets/PresetStore.h"
 #include "queues/QueueSession.h"
 
 #include <QJsonValue>
@@ -71,6 +72,9 @@ private:
     Outcome choose(const QStringList &words);
     Outcome ticket(const QStringList &words);
     Outcome setTicket(const QStringList &words);
+    Outcome presets(const QStringList &words);
+    Outcome preset(const QStringList &words);
+    Outcome savePreset(const QStringList &words);
     Outcome screenshot(const QStringList &words);
     Outcome print(const QStringList &words);
 
@@ -91,6 +95,7 @@ private:
     std::shared_ptr<const JobSink> m_sink;
     DocumentArguments m_documents;
     PageCount m_pageCount;
+    PresetStore m_presets;
     std::unique_ptr<PrintPanel> m_panel; // null until a command needs it
     QPointer<QWidget> m_view;            // owned by the panel; null until panelView
 };

@@ -13,6 +13,7 @@
 #include "dialog/PrintDialogLayout.h"
 #include "dialog/QueueList.h"
 #include "dialog/WindowSettings.h"
+#include "presets/PresetMenu.h"
 #include "preview/PagePreview.h"
 #include "queues/JobOnlyKeys.h"
 #include "queues/PanelLoader.h"
@@ -124,9 +125,10 @@ void PrintDialog::connectParts()
     connect(m_parts->job, &JobRows::changed, this, &PrintDialog::updateReadiness);
     connect(m_parts->restore, &QPushButton::clicked, this, &PrintDialog::restoreDefaults);
     connect(m_parts->defaults, &DefaultsMenu::failed, this, &PrintDialog::say);
-    connect(m_parts->defaults, &DefaultsMenu::done, this, [this](const QString &sentence) {
-        m_parts->message->say(MessageBar::Kind::Note, sentence, QString(), {}, kActionTopic);
-    });
+    connect(m_parts->defaults, &DefaultsMenu::done, this, &PrintDialog::note);
+    connect(m_parts->presets, &PresetMenu::failed, this, &PrintDialog::say);
+    connect(m_parts->presets, &PresetMenu::done, this, &PrintDialog::note);
+    connect(m_parts->presets, &PresetMenu::used, this, &PrintDialog::refreshSummary);
     m_parts->defaults->setVisible(m_start.withUserDefaults);
     connect(m_parts->print, &QPushButton::clicked, this, &PrintDialog::print);
     connect(m_parts->sending, &SendingRow::stopped, this, &PrintDialog::stopSending);
@@ -360,6 +362,7 @@ void PrintDialog::showCurrent()
         m_parts->defaults->setTarget({m_current->queue().name, instanceOf(*m_current)}, queueTitle(m_current->queue()),
                                      [room = m_current] { return room->choices(); });
         m_parts->showQueue(m_current->rows(), m_current->pane(), m_current->paneName(), m_current->noPaneReason());
+        offerPresets();
         m_parts->showPaneNote(m_deviceWait->note(m_current->device()));
         if (m_current->queue().isStopped)
             m_parts->message->say(MessageBar::Kind::Note,
@@ -371,6 +374,19 @@ void PrintDialog::showCurrent()
     updateReadiness();
     m_preview->start();
     emit ready();
+}
+
+void PrintDialog::offerPresets()
+{
+    m_parts->presets->setTarget({m_current->queue().name, queueTitle(m_current->queue()),
+                                 QString::fromUtf8(m_current->ppd()->nickname), m_current->started(),
+                                 [room = m_current] { return room->presetChoices(); },
+                                 [room = m_current](const PrintDictionary &options) { return room->use(options); },
+                                 [this, queue = m_current->queue().name] { return m_remembered.load(queue); }});
+    if (m_start.preset.isEmpty() || m_current->queue().name != m_start.queue)
+        return;
+    m_parts->presets->use(m_start.preset);
+    m_start.preset.clear();
 }
 
 void PrintDialog::surveyOthers()
@@ -409,10 +425,18 @@ void PrintDialog::say(const QString &problem)
     m_parts->message->say(MessageBar::Kind::Problem, problem, QString(), {}, kActionTopic);
 }
 
+void PrintDialog::note(const QString &sentence)
+{
+    m_parts->message->say(MessageBar::Kind::Note, sentence, QString(), {}, kActionTopic);
+}
+
 void PrintDialog::refreshSummary()
 {
-    if (m_current && m_current->state() == QueueRoom::State::Ready)
+    if (m_current && m_current->state() == QueueRoom::State::Ready) {
         m_current->updateConflicts();
+        if (const Result<PrintDictionary> choices = m_current->presetChoices())
+            m_parts->presets->follow(choices.value());
+    }
     if (m_current && m_current->pane())
         m_parts->summary->showSummary(m_current->summary(), m_current->defaultSummary(),
                                       summaryHints(m_current->pane()));
@@ -427,6 +451,7 @@ void PrintDialog::updateReadiness()
     const bool isReady = !m_busy && m_current && m_current->state() == QueueRoom::State::Ready;
     m_parts->restore->setEnabled(isReady);
     m_parts->defaults->setEnabled(isReady);
+    m_parts->presets->setEnabled(isReady);
 }
 
 void PrintDialog::updateTitle()

@@ -40,6 +40,7 @@ struct PrintDialogStart
     std::optional<UserDefaults::Options> jobOptions = {}; // of a job that exists already: it starts from nothing else,
                                                           // and what is chosen for it is not remembered
     std::optional<DialogCaller> caller = {}; // the program that has the user print; nothing: the user himself
+    QString preset = {};                     // of the user's own, to use for that queue; empty: none
 };
 
 class PrintDialog : public QDialog
@@ -99,6 +100,8 @@ private:
     QueueRoom *room(const QString &queue);
     void setBusy(bool busy);
     void say(const QString &problem);
+    void note(const QString &sentence);
+    void offerPresets();
     void refreshSummary();
     void updateReadiness();
     void updateTitle();

@@ -7,6 +7,7 @@
 #include "dialog/QueueList.h"
 #include "dialog/WindowSettings.h"
 #include "options/PpdOptionRows.h"
+#include "presets/PresetMenu.h"
 #include "preview/PagePreview.h"
 #include "platform/PlainTip.h"
 #include "widgets/BreakingLabel.h"
@@ -79,13 +80,17 @@ PrintDialogLayout::PrintDialogLayout(QDialog *dialog) : QWidget(dialog)
 {
     auto *rows = column(this);
     queues = new QueueList(this);
+    presets = new PresetMenu(this);
     message = new MessageBar(this);
     m_middle = new QHBoxLayout;
     m_middle->setSpacing(12);
     m_side = makeSide();
     m_middle->addWidget(m_side);
     m_middle->addWidget(makePlace(), 1);
-    rows->addWidget(queues);
+    auto *top = new QHBoxLayout;
+    top->addWidget(queues, 1);
+    top->addWidget(presets);
+    rows->addLayout(top);
     rows->addWidget(message);
     rows->addLayout(m_middle, 1);
     sending = new SendingRow(this);

@@ -20,6 +20,7 @@ class MessageBar;
 class PagePreview;
 class PaneArea;
 class PpdOptionRows;
+class PresetMenu;
 class QueueList;
 class ReasonLabel;
 class SendingRow;
@@ -34,6 +35,7 @@ public:
     explicit PrintDialogLayout(QDialog *dialog);
 
     QueueList *queues = nullptr;
+    PresetMenu *presets = nullptr;
     MessageBar *message = nullptr;
     DocumentList *documents = nullptr;
     JobRows *job = nullptr;

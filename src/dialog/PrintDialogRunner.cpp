@@ -76,6 +76,7 @@ int runPrintDialog(const WindowRequest &request, PanelLoader &loader)
         return badStart(documents.error());
     start.documents = std::move(documents.value());
     start.pageCount = pdfPages();
+    start.preset = request.preset;
     if (!session.ticket.isEmpty()) {
         Result<PrintDictionary> ticket = ticketFromFile(session.ticket);
         if (!ticket)

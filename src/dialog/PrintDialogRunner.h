@@ -21,6 +21,7 @@ struct WindowRequest
 {
     SessionRequest session;
     QStringList documents;
+    QString preset;     // of the user's own, to start from; empty: none
     QString screenshot; // PNG file: saves a picture of the ready window and closes it; empty: none
 };
 

@@ -2,37 +2,11 @@
 // The steps for one queue: opening, preparing the pane, printing.
 #include "dialog/QueueRoom.h"
 
+#include "presets/Preset.h"
 #include "queues/PanelLoader.h"
 #include "queues/TicketJson.h"
 
-#include <algorithm>
-
 namespace bv {
-
-namespace {
-
-// Puts the values of a panel's options, and of what belongs to these options (OPTIONCustom …), into each dictionary
-// within the ticket that holds one of them.
-void putIntoNested(const PrintDictionary &ticket, const PrintDictionary &values, const QStringList &paneKeys)
-{
-    const auto isPanels = [&paneKeys](const QString &name) {
-        return std::any_of(paneKeys.begin(), paneKeys.end(),
-                           [&name](const QString &key) { return name.startsWith(key); });
-    };
-    for (const auto &[key, value] : ticket.entries) {
-        const PrintDictionaryRef nested = value.dictionary();
-        if (!nested)
-            continue;
-        putIntoNested(*nested, values, paneKeys);
-        if (std::none_of(paneKeys.begin(), paneKeys.end(), [&](const QString &one) { return nested->contains(one); }))
-            continue;
-        for (const auto &[name, wanted] : values.entries)
-            if (isPanels(name))
-                nested->setValue(name, wanted);
-    }
-}
-
-} // namespace
 
 QString noPaneSentence(const QString &queueTitle)
 {
@@ -75,6 +49,7 @@ void QueueRoom::open(Ppds ppds, bool hasPrinter, const StartChoices &choices)
     if (choices.ticket)
         m_session->ticket().replace(*choices.ticket);
     m_forPanel = choices.forPanel;
+    m_started = choices.words();
     m_rows = new PpdOptionRows(m_rowsPpd->handle());
     m_rows->readFrom(m_session->printSettings());
     m_state = State::Opened;
@@ -159,6 +134,24 @@ Result<UserDefaults::Options> QueueRoom::choices()
     if (const QString problem = saveValues(); !problem.isEmpty())
         return Result<UserDefaults::Options>::failure(problem);
     return defaultsFromTicket(ticket());
+}
+
+Result<PrintDictionary> QueueRoom::presetChoices()
+{
+    m_rows->writeTo(m_session->printSettings());
+    if (const QString problem = saveValues(); !problem.isEmpty())
+        return Result<PrintDictionary>::failure(problem);
+    return presetOptions(ticket());
+}
+
+PresetOutcome QueueRoom::use(const PrintDictionary &options)
+{
+    m_rows->writeTo(m_session->printSettings());
+    PresetOutcome outcome = useChoices(*m_session, m_holder ? &m_holder->panel() : nullptr, options);
+    m_rows->readFrom(m_session->printSettings());
+    // The panel may show a part of its view that only the old choices made available.
+    enter();
+    return outcome;
 }
 
 JobOptions QueueRoom::options()

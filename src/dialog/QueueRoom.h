@@ -6,6 +6,7 @@
 #include "dialog/StartChoices.h"
 #include "jobs/PrintJob.h"
 #include "options/PpdOptionRows.h"
+#include "presets/PresetUse.h"
 #include "queues/QueueSession.h"
 #include "queues/QueueSource.h"
 
@@ -70,6 +71,11 @@ public:
     QString saveValues();
     // The present choices of rows and panel. A failure is a sentence for the user.
     Result<UserDefaults::Options> choices();
+    Result<PrintDictionary> presetChoices();
+    // Makes these the choices of rows and panel. Call it in the state Ready.
+    PresetOutcome use(const PrintDictionary &options);
+    // What the choices came from when the queue was opened, in a few words.
+    const QString &started() const { return m_started; }
 
     // All options of a job with the present choices. Call it in the state Ready.
     JobOptions options();
@@ -103,6 +109,7 @@ private:
     PrintQueue m_queue;
     PrintDictionary m_forPanel; // what the panel has to be given when it is there
     State m_state = State::Listed;
+    QString m_started;
     QString m_paneName;
     QStringList m_paneKeys;
     QString m_noPaneReason;

@@ -7,6 +7,22 @@
 
 namespace bv {
 
+QString StartChoices::words() const
+{
+    switch (origin) {
+    case ChoiceOrigin::Given:
+        return PrintDialog::tr("As given");
+    case ChoiceOrigin::LastJob:
+        return PrintDialog::tr("As last time");
+    case ChoiceOrigin::UserDefaults:
+        return PrintDialog::tr("My defaults");
+    case ChoiceOrigin::Job:
+        return PrintDialog::tr("As sent");
+    default:
+        return PrintDialog::tr("Printer's defaults");
+    }
+}
+
 namespace {
 
 StartChoices choicesWithoutCaller(const PrintDialogStart &start, const RememberedTickets &remembered,
@@ -17,16 +33,20 @@ StartChoices choicesWithoutCaller(const PrintDialogStart &start, const Remembere
     if (isFirst && start.ticket) {
         choices.ticket = start.ticket;
         removeJobOnlyKeys(&*choices.ticket);
+        choices.origin = ChoiceOrigin::Given;
         return choices;
     }
     if (isFirst && start.jobOptions) {
         choices.ticket = ticketFromDefaults(*start.jobOptions, ppd);
         choices.forPanel = *choices.ticket;
+        choices.origin = ChoiceOrigin::Job;
         return choices;
     }
     const QueueInstance wanted{queue, isFirst ? start.instance : QString()};
     if (wanted.instance.isEmpty())
         choices.ticket = remembered.load(queue);
+    if (choices.ticket)
+        choices.origin = ChoiceOrigin::LastJob;
     if (choices.ticket || !start.withUserDefaults)
         return choices;
     std::optional<UserDefaults::Options> options = UserDefaults().options(wanted);
@@ -38,6 +58,7 @@ StartChoices choicesWithoutCaller(const PrintDialogStart &start, const Remembere
     if (!options->empty()) {
         choices.ticket = ticketFromDefaults(*options, ppd);
         choices.forPanel = *choices.ticket;
+        choices.origin = ChoiceOrigin::UserDefaults;
     }
     return choices;
 }

@@ -9,11 +9,18 @@ namespace bv {
 
 struct PrintDialogStart;
 
+// Where choices come from.
+enum class ChoiceOrigin { Printer, Given, LastJob, UserDefaults, Job, Preset };
+
 struct StartChoices
 {
     std::optional<PrintDictionary> ticket; // nothing: the printer's defaults
     PrintDictionary forPanel;              // of that ticket, what no panel has seen yet
-    QString note;                          // a sentence for the user; may be empty
+    ChoiceOrigin origin = ChoiceOrigin::Printer;
+    QString note; // a sentence for the user; may be empty
+
+    // A few words for a button.
+    QString words() const;
 };
 
 // The options of a job that exists already come before all else, an instance that the start names before what is

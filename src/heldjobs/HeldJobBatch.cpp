@@ -60,6 +60,7 @@ Result<HeldJobSession> startHeldJobSession(const SessionRequest &request, const 
     StartChoices choices;
     choices.ticket = ticketFromDefaults(options, ppds.value().rows.handle());
     choices.forPanel = *choices.ticket;
+    choices.origin = ChoiceOrigin::Job;
     room.open(std::move(ppds.value()), true, choices);
     room.preparePane(loader);
     room.saveValues();

@@ -7,18 +7,12 @@
 #include "queues/StateFolder.h"
 #include "queues/TicketJson.h"
 
-#include <QCryptographicHash>
-#include <QDir>
 #include <QFile>
 #include <QJsonDocument>
-#include <QSaveFile>
 
 namespace bv {
 
 namespace {
-
-// File names have at most 255 bytes. The difference leaves room for suffixes.
-constexpr qsizetype kLongestName = 200;
 
 void logLine(const QString &text)
 {
@@ -36,14 +30,7 @@ QString RememberedTickets::defaultFolder()
 
 QString RememberedTickets::filePath(const QString &queue) const
 {
-    // Percent-encoding leaves letters, digits, "-" and "_"; a dot in front would hide the file or lead out of the
-    // folder, so dots and tildes are encoded as well.
-    QByteArray name = queue.toUtf8().toPercentEncoding(QByteArray(), ".~");
-    if (name.size() > kLongestName) {
-        const QByteArray digest = QCryptographicHash::hash(queue.toUtf8(), QCryptographicHash::Sha256).toHex();
-        name = name.left(kLongestName - digest.size() - 1) + '+' + digest;
-    }
-    return m_folder + u'/' + QString::fromLatin1(name) + QStringLiteral(".json");
+    return m_folder + u'/' + safeFileName(queue) + QStringLiteral(".json");
 }
 
 std::optional<PrintDictionary> RememberedTickets::load(const QString &queue) const
@@ -67,13 +54,10 @@ bool RememberedTickets::store(const QString &queue, const PrintDictionary &ticke
     PrintDictionary kept = ticket;
     removeJobOnlyKeys(&kept);
     const QString path = filePath(queue);
-    const QByteArray json = QJsonDocument(toJson(kept)).toJson();
-    QSaveFile file(path);
-    // Flushed first, since commit() does not see that a write of its own fails.
-    const bool stored = QDir().mkpath(m_folder) && file.open(QIODevice::WriteOnly) && file.write(json) == json.size() &&
-                        file.flush() && file.commit();
+    QString error;
+    const bool stored = storeFile(path, QJsonDocument(toJson(kept)).toJson(), &error);
     if (!stored)
-        logLine(QStringLiteral("choices of \"%1\" not remembered: %2: %3").arg(queue, path, file.errorString()));
+        logLine(QStringLiteral("choices of \"%1\" not remembered: %2: %3").arg(queue, path, error));
     return stored;
 }
 

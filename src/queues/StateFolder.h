@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// Where the user's programs keep state between runs.
+// Where the user's programs keep state and settings between runs, and how a file is written there.
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 namespace bv {
@@ -9,5 +10,13 @@ namespace bv {
 // The user's state folder (freedesktop.org, XDG base directories): XDG_STATE_HOME where that is an absolute path, else
 // ~/.local/state. It need not exist.
 QString stateFolder();
+// The folder of settings: XDG_CONFIG_HOME, else ~/.config.
+QString configFolder();
+
+// A name for a file, without suffix, that is safe for any text and different for each.
+QString safeFileName(const QString &text);
+
+// Writes a whole file, or leaves it as it was. Makes its folder. On a failure *error receives the system's words.
+bool storeFile(const QString &path, const QByteArray &bytes, QString *error);
 
 } // namespace bv

@@ -43,6 +43,7 @@ TEST(CommandLine, IsRefusedInASentenceThatNamesTheArgument)
         {{"--help=1"}, "--help"}, {{"--no-printer"}, "--ppd"}, {{"--batch", "-", "a.pdf"}, "documents"},
         {{"--batch", "-", "--screenshot", "x"}, "--screenshot"}, {{"--job", "1", "a.pdf"}, "--job"},
         {{"--job", "1", "--ppd", "x"}, "--job"}, {{"--agent", "maybe"}, "--agent"}, {{"--agent", "on", "a.pdf"}, "--agent"},
+        {{"--batch", "-", "--preset", "x"}, "--preset"}, {{"--ticket", "t.json", "--preset", "x"}, "--ticket"},
     };
     // clang-format on
     for (const auto &[arguments, named] : rows) {

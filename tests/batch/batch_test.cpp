@@ -349,6 +349,23 @@ TEST_F(Batch, StartsFromTheTicketThatIsNamedAndChangesItInPlace)
     EXPECT_EQ(result("summaryInfo").toObject()["Stamp"], "none");
 }
 
+TEST_F(Batch, PresetsAreSavedListedAndUsed)
+{
+    start();
+    EXPECT_EQ(result("presets"), QJsonArray());
+    EXPECT_EQ(error("preset Draft"), "There is no preset “Draft” for the printer “QL70”.");
+    EXPECT_TRUE(does(R"(setTicket {"TPToner":"Rich","TPSheets":3,"copies":"2"})"));
+    EXPECT_EQ(result("restoreValues"), true);
+    EXPECT_TRUE(does("savePreset \"My draft\""));
+    EXPECT_EQ(result("presets"), (QJsonArray{"My draft"}));
+    EXPECT_TRUE(does(R"(setTicket {"TPSheets":3,"copies":"2"})"));
+    EXPECT_EQ(result("restoreValues"), true);
+    EXPECT_EQ(result("preset \"my draft\"").toObject(), (QJsonObject{{"changed", 1}, {"unused", QJsonArray()}}));
+    EXPECT_EQ(result("summaryInfo").toObject()["Toner"], "Rich");
+    EXPECT_EQ(result("ticket").toObject()["TPToner"], "Rich");
+    EXPECT_FALSE(error("savePreset \"\"").isEmpty());
+}
+
 TEST_F(Batch, AScriptFileWithoutALastLineEndIsCarriedOutWhole)
 {
     const QString script = write("script", "# what it is\n\n  ticket\r\nsetTicket {\"a\":1}\nticket");
