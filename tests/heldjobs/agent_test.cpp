@@ -106,6 +106,9 @@ TEST_F(Agent, OpensTheDialogForNewJobsOfTheUserOneAfterAnother)
     lp({}); // 7
     EXPECT_TRUE(waitForOpened("--job 4\n--job 6\n--job 7\n"));
     close(7);
+    // An agent that ends leaves its window open, and lets go of the process.
+    auto *window = agent.findChild<QProcess *>();
+    EXPECT_TRUE(QTest::qWaitFor([window] { return window->state() == QProcess::NotRunning; }, kPatience));
 }
 
 TEST(AgentSwitch, WritesTheUsersAutostartFileAndTakesItAway)
