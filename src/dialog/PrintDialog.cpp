@@ -8,21 +8,25 @@
 #include "dialog/JobRows.h"
 #include "dialog/JobSending.h"
 #include "dialog/ListFailures.h"
-#include "dialog/PaneSurvey.h"
 #include "dialog/PreviewBinding.h"
 #include "dialog/PrintDialogLayout.h"
-#include "dialog/QueueList.h"
 #include "dialog/WindowSettings.h"
 #include "presets/PresetMenu.h"
 #include "preview/PagePreview.h"
+#include "printers/PaneSurvey.h"
+#include "printers/PrinterState.h"
+#include "printers/PrinterWatch.h"
+#include "printers/QueueList.h"
 #include "queues/JobOnlyKeys.h"
 #include "queues/PanelLoader.h"
 #include "widgets/DocumentList.h"
 #include "widgets/MessageBar.h"
+#include "widgets/Mnemonics.h"
 #include "widgets/ReasonLabel.h"
 #include "widgets/SendingRow.h"
 #include "widgets/SummaryView.h"
 #include "widgets/WheelGuard.h"
+#include "widgets/WhyGreyed.h"
 
 #include <QComboBox>
 #include <QDragEnterEvent>
@@ -32,6 +36,7 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QScreen>
+#include <QShortcut>
 #include <QSpinBox>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -75,7 +80,9 @@ PrintDialog::PrintDialog(std::shared_ptr<const QueueSource> source, std::shared_
     m_stepTimer.setSingleShot(true);
     m_loader.setPanelWait(m_deviceWait.get());
     m_listFailures = std::make_unique<ListFailures>(m_loader, m_parts->message);
+    m_watch = std::make_unique<PrinterWatch>(m_source);
     new WheelGuard(this);
+    new Mnemonics(this);
     connectParts();
     resize(startSize(m_start.remembersSize));
 
@@ -107,6 +114,8 @@ PrintDialog::~PrintDialog()
 void PrintDialog::connectParts()
 {
     connect(m_parts->queues, &QueueList::queueChosen, this, &PrintDialog::chooseQueue);
+    connect(m_parts->queues->popUp(), &PrinterMenu::opened, m_watch.get(), &PrinterWatch::askNow);
+    connect(m_watch.get(), &PrinterWatch::changed, this, &PrintDialog::followQueues);
     connect(&m_stepTimer, &QTimer::timeout, this, [this] {
         repaint();
         const Step step = m_step;
@@ -134,6 +143,9 @@ void PrintDialog::connectParts()
     connect(m_parts->sending, &SendingRow::stopped, this, &PrintDialog::stopSending);
     connect(m_sending.get(), &JobSending::sent, this, &PrintDialog::finish);
     connect(m_sending.get(), &JobSending::failed, this, &PrintDialog::reportFailure);
+    connect(new QShortcut(QKeySequence::Open, this), &QShortcut::activated, m_parts->documents,
+            &DocumentList::chooseFiles);
+    connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, m_parts->print, &QPushButton::click);
     connect(m_gate, &InputGate::escaped, this, &PrintDialog::reject);
 }
 
@@ -191,7 +203,8 @@ void PrintDialog::takeQueues(const Result<std::vector<PrintQueue>> &queues)
     m_survey.reset();
     m_current = nullptr;
     m_rooms.clear();
-    m_parts->queues->setQueues(queues ? queues.value() : std::vector<PrintQueue>());
+    m_parts->queues->setQueues(queues ? queues.value() : std::vector<PrintQueue>(), lastPrinters());
+    m_watch->start(queues ? queues.value() : std::vector<PrintQueue>());
     if (queues) {
         for (const PrintQueue &queue : queues.value())
             m_rooms.push_back(std::make_unique<QueueRoom>(queue));
@@ -254,6 +267,33 @@ void PrintDialog::chooseQueue(const QString &queue)
         afterPaint(&PrintDialog::openQueue, kRestMilliseconds);
 }
 
+void PrintDialog::followQueues(const std::vector<PrintQueue> &queues)
+{
+    if (m_rooms.empty()) {
+        if (!m_busy && !queues.empty()) {
+            m_parts->message->clear();
+            takeQueues(queues);
+        }
+        return;
+    }
+    const auto listed = [&queues](const QString &name) -> std::optional<PrintQueue> {
+        const auto found =
+            std::find_if(queues.begin(), queues.end(), [&name](const PrintQueue &one) { return one.name == name; });
+        return found == queues.end() ? std::nullopt : std::optional(*found);
+    };
+    std::vector<PrintQueue> shown = queues;
+    for (const auto &one : m_rooms)
+        one->follow(listed(one->queue().name));
+    if (m_current && m_current->isGone())
+        shown.push_back(m_current->queue());
+    std::erase_if(m_rooms, [this](const auto &one) { return one->isGone() && one.get() != m_current; });
+    for (const PrintQueue &queue : queues)
+        if (!room(queue.name))
+            m_rooms.push_back(std::make_unique<QueueRoom>(queue));
+    m_parts->queues->setQueues(shown, lastPrinters());
+    updateReadiness();
+}
+
 QString PrintDialog::wantedQueue() const
 {
     if (!m_start.queue.isEmpty())
@@ -297,7 +337,7 @@ void PrintDialog::takePpds(Result<QueueRoom::Ppds> ppds)
 {
     m_openFailure = ppds.error();
     if (!m_openFailure.isEmpty()) {
-        m_parts->queues->markWithoutPane(m_current->queue().name, m_openFailure);
+        m_parts->queues->mark(m_current->queue().name, QueueList::Mark::Unusable, m_openFailure);
         m_parts->message->say(MessageBar::Kind::Problem, m_openFailure, tr("Try &Again"), [this] {
             setBusy(true);
             m_openFailure.clear();
@@ -307,6 +347,7 @@ void PrintDialog::takePpds(Result<QueueRoom::Ppds> ppds)
         showCurrent();
         return;
     }
+    m_parts->queues->mark(m_current->queue().name, QueueList::Mark::None);
     // The given ticket belongs to the first queue. Keep its name, so that another try at opening it uses the ticket
     // too.
     if (m_start.queue.isEmpty())
@@ -343,7 +384,7 @@ void PrintDialog::preparePane()
         if (!isVisible())
             return; // rejected meanwhile
         if (!m_current->noPaneReason().isEmpty())
-            m_parts->queues->markWithoutPane(m_current->queue().name, m_current->noPaneReason());
+            m_parts->queues->mark(m_current->queue().name, QueueList::Mark::WithoutPane, m_current->noPaneReason());
         if (!m_current->paneWarning().isEmpty())
             m_parts->message->say(MessageBar::Kind::Note, m_current->paneWarning());
     }
@@ -401,9 +442,10 @@ void PrintDialog::surveyOthers()
     m_survey = std::make_unique<PaneSurvey>(m_source, others, m_current->paneKeys());
     connect(m_survey.get(), &PaneSurvey::withoutPane, this, [this](const QString &queue, const QString &error) {
         const QueueRoom *found = room(queue);
-        if (found)
-            m_parts->queues->markWithoutPane(queue,
-                                             error.isEmpty() ? noPaneSentence(queueTitle(found->queue())) : error);
+        if (found && error.isEmpty())
+            m_parts->queues->mark(queue, QueueList::Mark::WithoutPane, noPaneSentence(queueTitle(found->queue())));
+        else if (found && found->state() == QueueRoom::State::Listed)
+            m_parts->queues->mark(queue, QueueList::Mark::Unusable, error);
     });
     m_survey->start();
 }
@@ -443,6 +485,7 @@ void PrintDialog::refreshSummary()
     else
         m_parts->summary->showNote(m_current && !m_busy ? tr("There are no color options to sum up.") : QString());
     m_preview->follow(m_current);
+    m_parts->why->refresh();
 }
 
 void PrintDialog::updateReadiness()
@@ -452,6 +495,9 @@ void PrintDialog::updateReadiness()
     m_parts->restore->setEnabled(isReady);
     m_parts->defaults->setEnabled(isReady);
     m_parts->presets->setEnabled(isReady);
+    for (QWidget *button : std::initializer_list<QWidget *>{m_parts->restore, m_parts->defaults, m_parts->presets})
+        button->setAccessibleDescription(isReady ? button->toolTip() : m_parts->reason->text());
+    m_parts->why->refresh();
 }
 
 void PrintDialog::updateTitle()
@@ -480,8 +526,10 @@ QString PrintDialog::reasonNotToPrint() const
         return tr("Choose a printer first.");
     if (!m_openFailure.isEmpty() || m_current->state() != QueueRoom::State::Ready)
         return tr("This printer cannot be used. Choose another one.");
-    if (!m_current->queue().acceptsJobs)
-        return tr("This printer takes no jobs at the moment. Choose another one, or ask who looks after it.");
+    if (m_current->isGone())
+        return tr("This printer is no longer there. Choose another one.");
+    if (const QString closed = whyNoJobs(m_current->queue()); !closed.isEmpty())
+        return closed;
     if (m_sending->needsDocuments() && m_parts->documents->documents().isEmpty())
         return tr("Add a document to print.");
     if (QString problem = m_parts->job->problem(); !problem.isEmpty())

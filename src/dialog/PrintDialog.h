@@ -22,6 +22,7 @@ class DeviceWait;
 class InputGate;
 class JobSending;
 class PaneSurvey;
+class PrinterWatch;
 class PanelLoader;
 class ListFailures;
 class PreviewBinding;
@@ -97,6 +98,8 @@ private:
     void showCurrent();
 
     void chooseQueue(const QString &queue);
+    // Shows the printers as the print server lists them now. The chosen one stays, even if it is gone.
+    void followQueues(const std::vector<PrintQueue> &queues);
     QueueRoom *room(const QString &queue);
     void setBusy(bool busy);
     void say(const QString &problem);
@@ -129,6 +132,7 @@ private:
     std::vector<std::unique_ptr<QueueRoom>> m_rooms;
     QueueRoom *m_current = nullptr; // one of m_rooms, or null
     std::unique_ptr<PaneSurvey> m_survey;
+    std::unique_ptr<PrinterWatch> m_watch;
     BackgroundCall<Result<std::vector<PrintQueue>>> m_listing;
     BackgroundCall<Result<QueueRoom::Ppds>> m_opening;
     InputGate *m_gate;

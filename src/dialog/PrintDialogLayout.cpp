@@ -4,12 +4,12 @@
 
 #include "dialog/DefaultsMenu.h"
 #include "dialog/JobRows.h"
-#include "dialog/QueueList.h"
 #include "dialog/WindowSettings.h"
 #include "options/PpdOptionRows.h"
+#include "platform/PlainTip.h"
 #include "presets/PresetMenu.h"
 #include "preview/PagePreview.h"
-#include "platform/PlainTip.h"
+#include "printers/QueueList.h"
 #include "widgets/BreakingLabel.h"
 #include "widgets/DocumentList.h"
 #include "widgets/MessageBar.h"
@@ -18,6 +18,7 @@
 #include "widgets/SendingRow.h"
 #include "widgets/SummaryView.h"
 #include "widgets/WaitPanel.h"
+#include "widgets/WhyGreyed.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
@@ -110,16 +111,15 @@ QWidget *PrintDialogLayout::makeSide()
     m_noRows = new QWidget;
     m_rows->addWidget(m_noRows);
     auto *inner = column(content);
-    inner->addWidget(documents);
+    inner->addWidget(documents, 1);
     inner->addWidget(job);
     inner->addWidget(m_rows);
-    inner->addStretch(1);
     // Leaves room for the focus frames of controls at the edge.
     inner->setContentsMargins(2, 2, 4, 2);
     m_settings->setWidget(content);
 
     m_sideColumn = column(side);
-    // The settings take the height they need, the summary takes the rest.
+    // The settings take the height they need, summary and preview take the rest.
     m_settings->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     m_sideColumn->addWidget(m_settings);
     m_sideColumn->addWidget(makeSummary(), 1);
@@ -151,6 +151,7 @@ QWidget *PrintDialogLayout::makePreview()
     connect(preview, &PagePreview::foldedByUser, this, [this](bool folded) {
         m_previewFoldedByUser = folded;
         m_previewUnfoldedByUser = !folded;
+        placeDocuments();
     });
     return preview;
 }
@@ -166,8 +167,12 @@ QWidget *PrintDialogLayout::makePlace()
     m_paneNote->hide();
     wait = new WaitPanel;
     m_place->addWidget(wait);
+    why = new WhyGreyed(this, place);
+    auto *title = new QHBoxLayout;
+    title->addWidget(m_paneTitle, 1);
+    title->addWidget(why, 0, Qt::AlignRight); // mirrored with the window
     auto *box = column(place);
-    box->addWidget(m_paneTitle);
+    box->addLayout(title);
     box->addWidget(m_paneNote);
     box->addWidget(m_place, 1);
     return place;
@@ -180,7 +185,7 @@ QBoxLayout *PrintDialogLayout::makeButtons(QDialog *dialog)
     setPlainTip(restore, tr("Put all of the printer's settings back to what its driver proposes"));
     restore->setAutoDefault(false);
     defaults = new DefaultsMenu(this);
-    cancel = new QPushButton(tr("Cancel"), this);
+    cancel = new QPushButton(tr("&Cancel"), this);
     cancel->setObjectName(QStringLiteral("cancel"));
     cancel->setAutoDefault(false);
     print = new QPushButton(tr("&Print"), this);
@@ -282,14 +287,22 @@ void PrintDialogLayout::unfoldPreview()
     placePreview();
 }
 
+// Where neither summary nor preview needs the height, the list of documents takes it.
+void PrintDialogLayout::placeDocuments()
+{
+    m_sideColumn->setStretchFactor(m_settings, m_previewPlaced && preview->isFolded() && m_summaryAside ? 1 : 0);
+}
+
 void PrintDialogLayout::placePreview()
 {
+    placeDocuments();
     if (!m_previewPlaced || m_previewFoldedByUser || m_previewUnfoldedByUser)
         return;
     const int others =
         m_settings->sizeHint().height() + (m_summaryAside ? 0 : m_summaryBox->minimumSizeHint().height());
     const int room = m_side->height() - others - 2 * m_sideColumn->spacing();
     preview->setFolded(room < preview->heightForSheet(fontMetrics().height() * kPreviewLines));
+    placeDocuments();
 }
 
 // Makes the side wider for longer texts (another language, another PPD), but leaves the pane the room it needs.

@@ -26,6 +26,7 @@ class ReasonLabel;
 class SendingRow;
 class SummaryView;
 class WaitPanel;
+class WhyGreyed;
 
 class PrintDialogLayout : public QWidget
 {
@@ -48,6 +49,7 @@ public:
     ReasonLabel *reason = nullptr;
     SendingRow *sending = nullptr;
     WaitPanel *wait = nullptr;
+    WhyGreyed *why = nullptr;
 
     // Shows the rows and the pane of one queue. `rows` may be null. Shows the sentence instead of a null pane. The
     // widgets shown before stay in the window, hidden, until their owner removes them.
@@ -76,6 +78,7 @@ private:
     void placeSummary();
     void widenSide();
     void placePreview();
+    void placeDocuments();
     void setTabOrders();
     QWidget *lastControl(const QWidget *owner, QWidget *otherwise) const;
     void alignLabels(PpdOptionRows *rows);

@@ -23,6 +23,13 @@ QueueRoom::~QueueRoom()
     delete m_rows;
 }
 
+void QueueRoom::follow(const std::optional<PrintQueue> &queue)
+{
+    m_isGone = !queue;
+    if (queue)
+        m_queue = *queue;
+}
+
 Result<QueueRoom::Ppds> QueueRoom::fetch(const QueueSource &source, const QString &queue, CallControl &control)
 {
     using Fetched = Result<Ppds>;

@@ -31,6 +31,9 @@ public:
     ~QueueRoom() override;
 
     const PrintQueue &queue() const { return m_queue; }
+    // Takes what the print server says of the queue now; nothing when it is gone.
+    void follow(const std::optional<PrintQueue> &queue);
+    bool isGone() const { return m_isGone; }
     State state() const { return m_state; }
 
     // The queue's PPD, opened twice: the rows mark choices in theirs to find conflicts, and the panel must not see it.
@@ -109,6 +112,7 @@ private:
     PrintQueue m_queue;
     PrintDictionary m_forPanel; // what the panel has to be given when it is there
     State m_state = State::Listed;
+    bool m_isGone = false;
     QString m_started;
     QString m_paneName;
     QStringList m_paneKeys;

@@ -36,12 +36,12 @@ struct Refusal
 
 // clang-format off
 constexpr std::array<Refusal, 6> kRefusals = {{
-    {IPP_STATUS_ERROR_NOT_FOUND,                     "The print server has no queue %1 any more; choose another one."},
-    {IPP_STATUS_ERROR_DOCUMENT_FORMAT_NOT_SUPPORTED, "The queue %1 cannot print %2: it does not take documents of that format. Save it as PDF and print that."},
-    {IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS,            "The queue %1 takes no jobs just now; choose another one, or have it accept jobs again."},
-    {IPP_STATUS_ERROR_FORBIDDEN,                     "You may not print on the queue %1; ask who looks after it."},
-    {IPP_STATUS_ERROR_NOT_AUTHORIZED,                "You may not print on the queue %1; ask who looks after it."},
-    {IPP_STATUS_ERROR_NOT_AUTHENTICATED,             "You may not print on the queue %1 without logging in to the print server."},
+    {IPP_STATUS_ERROR_NOT_FOUND,                     "The print server has no printer %1 any more; choose another one."},
+    {IPP_STATUS_ERROR_DOCUMENT_FORMAT_NOT_SUPPORTED, "The printer %1 cannot print %2: it does not take documents of that format. Save it as PDF and print that."},
+    {IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS,            "The printer %1 takes no jobs just now; choose another one, or ask who looks after it."},
+    {IPP_STATUS_ERROR_FORBIDDEN,                     "You may not print on the printer %1; ask who looks after it."},
+    {IPP_STATUS_ERROR_NOT_AUTHORIZED,                "You may not print on the printer %1; ask who looks after it."},
+    {IPP_STATUS_ERROR_NOT_AUTHENTICATED,             "You may not print on the printer %1 without logging in to the print server; ask who looks after it."},
 }};
 // clang-format on
 
@@ -53,7 +53,7 @@ QString refusal(ipp_status_t status, const QString &words, const QString &queue,
         const QString sentence = tr(row.sentence);
         return sentence.contains(QStringLiteral("%2")) ? sentence.arg(queue, document) : sentence.arg(queue);
     }
-    return tr("The queue %1 refused the job: %2.").arg(queue, words);
+    return tr("The printer %1 refused the job: %2.").arg(queue, words);
 }
 
 // The sentence for an answer that is not good.
@@ -174,7 +174,7 @@ Canceling cancelJob(const QString &queue, int number)
 // The sentence for a job that did not get through.
 QString failureOf(const Sending &sending, Canceling canceling, bool isStopped, const QString &document)
 {
-    const QString look = u' ' + tr("Look at the queue before printing again.");
+    const QString look = u' ' + tr("Look whether it was printed before printing again.");
     const bool isOpen = canceling == Canceling::Unknown;
     if (isStopped)
         return isOpen ? tr("The job was stopped, but the print server did not confirm that it is canceled.") + look
@@ -202,7 +202,7 @@ QString failureOf(const Sending &sending, Canceling canceling, bool isStopped, c
 
 QString unconfirmedSentence()
 {
-    return tr("The print server did not confirm the job. Look at the queue before printing again.");
+    return tr("The print server did not confirm the job. Look whether it was printed before printing again.");
 }
 
 Sent PrintServerSink::submit(const JobRequest &request, CallControl &control) const

@@ -401,6 +401,13 @@ void PagePreview::updateControls()
     m_back->setEnabled(m_document > 0 || (known && selectedUpTo(m_spans, pages, page - 1)));
     m_forward->setEnabled(m_document < last || (known && selectedFrom(m_spans, pages, page + 1)));
     m_field->setEnabled(known);
+    // Why something is gray.
+    const auto explain = [](QWidget *control, const QString &reason) {
+        control->setAccessibleDescription(control->isEnabled() ? QString() : reason);
+    };
+    explain(m_back, tr("This is the first page."));
+    explain(m_forward, tr("This is the last page."));
+    explain(m_field, tr("There are no pages to choose from."));
     const QSignalBlocker quiet(m_field);
     m_field->setRange(known ? 1 : 0, std::max(pages, 1));
     m_field->setSpecialValueText(known ? QString() : QStringLiteral("–"));

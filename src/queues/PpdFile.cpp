@@ -54,7 +54,7 @@ Result<PpdText> readText(const FileDescriptor &source, const QString &name)
     FileDescriptor copy(fcntl(source.get(), F_DUPFD_CLOEXEC, 0));
     const std::unique_ptr<cups_file_t, CloseCupsFile> file(copy ? cupsFileOpenFd(copy.get(), "r") : nullptr);
     if (!file)
-        return Text::failure(tr("The PPD %1 cannot be read: %2.").arg(name, systemWords()));
+        return Text::failure(tr("%1 cannot be read: %2.").arg(name, systemWords()));
     copy.release();
     QByteArray text;
     char bytes[16384];
@@ -69,7 +69,7 @@ Result<PpdText> readText(const FileDescriptor &source, const QString &name)
     }
     // The read function returns the same value for the end and for an error. Only an error sets errno.
     if (errno != 0 || (cupsFileCompression(file.get()) && endsEarly(source.get(), text.size())))
-        return Text::failure(tr("The PPD %1 is damaged or cut off.").arg(name));
+        return Text::failure(tr("%1 is damaged or cut off.").arg(name));
     return PpdText{text, name};
 }
 
@@ -117,20 +117,21 @@ QString leftOpen(QByteArray text)
 
 QString PpdText::tooLarge(const QString &name)
 {
-    return tr("The PPD %1 is larger than %2.").arg(name, sizeInWords(kMost));
+    return tr("%1 is larger than %2.").arg(name, sizeInWords(kMost));
 }
 
 Result<PpdText> PpdText::read(const QString &path)
 {
-    const Result<FileDescriptor> file = openInputFile(path, tr("The PPD %1").arg(path), kMost);
-    return file ? readText(file.value(), path) : Result<PpdText>::failure(file.error());
+    const QString name = tr("The PPD %1").arg(path);
+    const Result<FileDescriptor> file = openInputFile(path, name, kMost);
+    return file ? readText(file.value(), name) : Result<PpdText>::failure(file.error());
 }
 
 Result<PpdText> PpdText::from(const QByteArray &bytes, const QString &name)
 {
     const FileDescriptor file = fileInMemory(bytes);
     return file ? readText(file, name)
-                : Result<PpdText>::failure(tr("The PPD %1 cannot be read: %2.").arg(name, systemWords()));
+                : Result<PpdText>::failure(tr("%1 cannot be read: %2.").arg(name, systemWords()));
 }
 
 Result<PpdFile> PpdFile::open(const QString &path)
@@ -144,19 +145,19 @@ Result<PpdFile> PpdFile::open(const PpdText &text)
     using Ppd = Result<PpdFile>;
     FileDescriptor memory = fileInMemory(text.text);
     if (!memory)
-        return Ppd::failure(tr("The PPD %1 cannot be read: %2.").arg(text.name, systemWords()));
+        return Ppd::failure(tr("%1 cannot be read: %2.").arg(text.name, systemWords()));
     ppd_file_t *file = ppdOpenFd(memory.release()); // libcups closes it
     if (!file) {
         int line = 0;
         const ppd_status_t status = ppdLastError(&line);
         const QString reason = QString::fromUtf8(ppdErrorString(status));
         return Ppd::failure(status > PPD_ALLOC_ERROR && line > 0
-                                ? tr("The PPD %1 cannot be used: %2, line %3.").arg(text.name, reason).arg(line)
-                                : tr("The PPD %1 cannot be read: %2.").arg(text.name, reason));
+                                ? tr("%1 cannot be used: %2, line %3.").arg(text.name, reason).arg(line)
+                                : tr("%1 cannot be read: %2.").arg(text.name, reason));
     }
     PpdFile ppd(file);
     if (const QString open = leftOpen(text.text); !open.isEmpty())
-        return Ppd::failure(tr("The PPD %1 is cut off: %2 is not closed.").arg(text.name, open));
+        return Ppd::failure(tr("%1 is cut off: %2 is not closed.").arg(text.name, open));
     // libcups converts every text to UTF-8, but sets lang_encoding only if the file names its encoding. The PPD owns
     // the string and frees it with free(3).
     if (!file->lang_encoding)

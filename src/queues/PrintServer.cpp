@@ -26,6 +26,14 @@ QString text(ipp_attribute_t *attribute)
     return QString::fromUtf8(words ? words : "");
 }
 
+QStringList allTexts(ipp_attribute_t *attribute)
+{
+    QStringList all;
+    for (int i = 0; i < ippGetCount(attribute); ++i)
+        all << QString::fromUtf8(ippGetString(attribute, i, nullptr));
+    return all;
+}
+
 // An attribute of a queue that is asked for, and where its value goes.
 struct QueueAttribute
 {
@@ -35,7 +43,7 @@ struct QueueAttribute
 };
 
 // clang-format off
-constexpr std::array<QueueAttribute, 7> kAttributes = {{
+constexpr std::array<QueueAttribute, 8> kAttributes = {{
     {"printer-name",              IPP_TAG_NAME,    [](PrintQueue &queue, ipp_attribute_t *value) { queue.name = text(value); }},
     {"printer-info",              IPP_TAG_TEXT,    [](PrintQueue &queue, ipp_attribute_t *value) { queue.description = text(value); }},
     {"printer-location",          IPP_TAG_TEXT,    [](PrintQueue &queue, ipp_attribute_t *value) { queue.location = text(value); }},
@@ -43,6 +51,7 @@ constexpr std::array<QueueAttribute, 7> kAttributes = {{
     {"printer-state",             IPP_TAG_ENUM,    [](PrintQueue &queue, ipp_attribute_t *value) { queue.isStopped = ippGetInteger(value, 0) == IPP_PSTATE_STOPPED; }},
     {"printer-is-accepting-jobs", IPP_TAG_BOOLEAN, [](PrintQueue &queue, ipp_attribute_t *value) { queue.acceptsJobs = ippGetBoolean(value, 0) != 0; }},
     {"printer-state-message",     IPP_TAG_TEXT,    [](PrintQueue &queue, ipp_attribute_t *value) { queue.stateMessage = text(value); }},
+    {"printer-state-reasons",     IPP_TAG_KEYWORD, [](PrintQueue &queue, ipp_attribute_t *value) { queue.stateReasons = allTexts(value); }},
 }};
 // clang-format on
 
@@ -91,7 +100,8 @@ Queues listQueues(ServerConnection &server)
     if (answer.status() == IPP_STATUS_ERROR_NOT_FOUND)
         return std::vector<PrintQueue>();
     if (answer.isRefusal())
-        return Queues::failure(tr("The print server does not tell its queues: %1.").arg(answer.words()));
+        return Queues::failure(
+            tr("The print server does not tell its printers: %1. Try again later.").arg(answer.words()));
     return queuesOf(answer.message.get());
 }
 
@@ -137,8 +147,8 @@ Result<PrintQueue> PrintServer::queue(const QString &name, CallControl &control)
     for (PrintQueue &queue : all.value())
         if (name.isEmpty() ? queue.isDefault : queue.name == name)
             return std::move(queue);
-    return Queue::failure(name.isEmpty() ? tr("There is no default print queue; name one with --queue.")
-                                         : tr("The print server has no queue %1.").arg(name));
+    return Queue::failure(name.isEmpty() ? tr("There is no default printer; name one with --queue.")
+                                         : tr("The print server has no printer %1.").arg(name));
 }
 
 Result<PpdText> PrintServer::ppd(const QString &queue, CallControl &control)
@@ -159,19 +169,21 @@ Result<PpdText> PrintServer::ppd(const QString &queue, CallControl &control)
         if (!member.isEmpty())
             file = fetch(member);
     }
-    // People know the queue, not the file.
-    const QString called = tr("of the queue %1").arg(queue);
+    // People know the printer, not the file.
+    const QString called = tr("The driver of the printer %1").arg(queue);
     switch (file.outcome) {
     case Outcome::Had:
         return PpdText::from(file.bytes, called);
     case Outcome::Missing:
-        return Ppd::failure(tr("The queue %1 has no PPD.").arg(queue));
+        return Ppd::failure(
+            tr("The printer %1 has no driver. Add it again in the system's printer settings, with its driver.")
+                .arg(queue));
     case Outcome::TooLarge:
         return Ppd::failure(PpdText::tooLarge(called));
     case Outcome::Failed:
         break;
     }
-    return Ppd::failure(tr("The PPD %1 cannot be had: %2").arg(called, file.problem));
+    return Ppd::failure(tr("%1 cannot be had: %2").arg(called, file.problem));
 }
 
 } // namespace bv

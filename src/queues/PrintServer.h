@@ -5,6 +5,7 @@
 #include "queues/PpdFile.h"
 #include "queues/ServerConnection.h"
 
+#include <QStringList>
 #include <optional>
 #include <vector>
 
@@ -20,7 +21,10 @@ struct PrintQueue
     bool isDefault = false;
     bool isStopped = false; // jobs wait until someone resumes it
     bool acceptsJobs = true;
-    QString stateMessage; // the server's words on its state; may be empty
+    QString stateMessage;     // the server's words on its state; may be empty
+    QStringList stateReasons; // keywords such as "toner-low-warning" (RFC 8011, section 5.4.12)
+
+    bool operator==(const PrintQueue &) const = default;
 };
 
 // The queue's title on screen: its description, or its name if it has none.

@@ -9,11 +9,14 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <QLocale>
 #include <QMimeData>
 #include <QPainter>
 #include <QPushButton>
 #include <QShortcut>
+#include <QSignalBlocker>
 #include <QUrl>
+#include <algorithm>
 
 namespace bv {
 
@@ -38,7 +41,14 @@ protected:
     }
 
     // The default size hint is far too tall for the few files of a job.
-    QSize sizeHint() const override { return {fontMetrics().averageCharWidth() * 30, fontMetrics().height() * 4}; }
+    QSize sizeHint() const override
+    {
+        constexpr int kLeastRows = 3;
+        constexpr int kMostRows = 10;
+        const int row = std::max(sizeHintForRow(0), fontMetrics().height());
+        return {fontMetrics().averageCharWidth() * 30,
+                std::clamp(count(), kLeastRows, kMostRows) * row + fontMetrics().height()};
+    }
     QSize minimumSizeHint() const override
     {
         return {fontMetrics().averageCharWidth() * 16, fontMetrics().height() * 3};
@@ -62,26 +72,27 @@ QString whyNot(const QFileInfo &file)
 } // namespace
 
 DocumentList::DocumentList(QWidget *parent)
-    : QWidget(parent), m_list(new HintedList(this)), m_add(new QPushButton(tr("&Add…"), this)),
-      m_remove(new QPushButton(tr("Remo&ve"), this))
+    : QWidget(parent), m_label(new QLabel(this)), m_list(new HintedList(this)),
+      m_add(new QPushButton(tr("&Add…"), this)), m_remove(new QPushButton(tr("Remo&ve"), this))
 {
-    auto *label = new QLabel(tr("&Documents:"), this);
-    label->setBuddy(m_list);
+    m_label->setBuddy(m_list);
+    m_label->setTextFormat(Qt::PlainText);
     m_list->setObjectName(QStringLiteral("documentList"));
     m_list->setAccessibleName(tr("Documents"));
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setTextElideMode(Qt::ElideMiddle);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_list->setDragDropMode(QAbstractItemView::InternalMove);
+    m_list->setAccessibleDescription(tr("Alt+Up and Alt+Down move the selected documents, Delete takes them out"));
     m_add->setObjectName(QStringLiteral("documentAdd"));
-    setPlainTip(m_add, tr("Choose files to print"));
+    setPlainTip(m_add, tr("Choose files to print (Ctrl+O)"));
     m_add->setAutoDefault(false);
     m_remove->setObjectName(QStringLiteral("documentRemove"));
-    setPlainTip(m_remove, tr("Take the selected files out of the job; the files themselves stay"));
     m_remove->setAutoDefault(false);
 
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->addWidget(label, 0, 0);
+    grid->addWidget(m_label, 0, 0);
     grid->addWidget(m_add, 0, 1);
     grid->addWidget(m_remove, 0, 2);
     grid->addWidget(m_list, 1, 0, 1, 3);
@@ -95,6 +106,14 @@ DocumentList::DocumentList(QWidget *parent)
     auto *deleteKey = new QShortcut(QKeySequence::Delete, m_list);
     deleteKey->setContext(Qt::WidgetShortcut);
     connect(deleteKey, &QShortcut::activated, this, &DocumentList::removeSelected);
+    for (const bool up : {true, false}) {
+        auto *key = new QShortcut(QKeySequence(Qt::ALT | (up ? Qt::Key_Up : Qt::Key_Down)), m_list);
+        key->setContext(Qt::WidgetShortcut);
+        connect(key, &QShortcut::activated, this, [this, up] { moveSelected(up); });
+    }
+    connect(m_list->model(), &QAbstractItemModel::rowsMoved, this, &DocumentList::documentsChanged);
+    connect(this, &DocumentList::documentsChanged, this, &DocumentList::countDocuments);
+    countDocuments();
     updateButtons();
 }
 
@@ -110,8 +129,10 @@ void DocumentList::addDocuments(const QStringList &paths)
             continue;
         }
         const QString absolute = file.absoluteFilePath();
-        if (known.contains(absolute))
+        if (known.contains(absolute)) {
+            reasons << tr("“%1” is in the list already.").arg(file.fileName());
             continue;
+        }
         known << absolute;
         auto *item = new QListWidgetItem(file.fileName(), m_list);
         item->setData(kPathRole, absolute);
@@ -178,9 +199,47 @@ void DocumentList::removeSelected()
     emit documentsChanged();
 }
 
+void DocumentList::moveSelected(bool up)
+{
+    std::vector<int> rows;
+    rows.reserve(size_t(m_list->count()));
+    for (int row = 0; row < m_list->count(); ++row)
+        if (m_list->item(row)->isSelected())
+            rows.push_back(row);
+    if (rows.empty() || (up ? rows.front() == 0 : rows.back() == m_list->count() - 1))
+        return;
+    if (!up)
+        std::reverse(rows.begin(), rows.end());
+    {
+        // Each step is a move of its own; the job changes once.
+        const QSignalBlocker quiet(this);
+        for (const int row : rows)
+            m_list->model()->moveRow({}, row, {}, up ? row - 1 : row + 2);
+    }
+    m_list->scrollToItem(m_list->currentItem());
+    emit documentsChanged();
+}
+
+void DocumentList::countDocuments()
+{
+    qint64 size = 0;
+    for (const QString &path : documents())
+        size += QFileInfo(path).size();
+    m_label->setText(m_list->count() == 0
+                         ? tr("&Documents:")
+                         : tr("&Documents (%1, %2):", "number and size")
+                               .arg(m_list->count())
+                               .arg(QLocale().formattedDataSize(size, 1, QLocale::DataSizeTraditionalFormat)));
+    m_list->updateGeometry();
+}
+
 void DocumentList::updateButtons()
 {
-    m_remove->setEnabled(!m_list->selectedItems().isEmpty());
+    const bool any = !m_list->selectedItems().isEmpty();
+    m_remove->setEnabled(any);
+    setPlainTip(m_remove, any ? tr("Take the selected documents out of the job; the files themselves stay")
+                              : tr("Select the documents to take out first"));
+    m_remove->setAccessibleDescription(m_remove->toolTip());
 }
 
 } // namespace bv

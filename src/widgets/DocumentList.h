@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <QWidget>
 
+class QLabel;
 class QListWidget;
 class QMimeData;
 class QPushButton;
@@ -18,8 +19,8 @@ class DocumentList : public QWidget
 public:
     explicit DocumentList(QWidget *parent = nullptr);
 
-    // Adds files by path; relative paths start from the current folder. Skips files that are in the list already.
-    // Leaves out unreadable files and reports them by refused().
+    // Adds files by path; relative paths start from the current folder. Leaves out files that cannot be read or are in
+    // the list already, and reports them by refused().
     void addDocuments(const QStringList &paths);
     // Adds the files of a drop or paste. Only local files can be printed.
     void addDropped(const QMimeData &data);
@@ -35,16 +36,24 @@ public:
     QListWidget *list() const { return m_list; }
     QPushButton *addButton() const { return m_add; }
 
+public slots:
+    // Has the user choose files to add.
+    void chooseFiles();
+
 signals:
+    // Other documents, or another order.
     void documentsChanged();
     // A sentence for the user about files that were not added.
     void refused(const QString &reason);
 
 private:
-    void chooseFiles();
     void removeSelected();
+    // Moves the selected documents by one place, as long as the first or last one has room.
+    void moveSelected(bool up);
+    void countDocuments();
     void updateButtons();
 
+    QLabel *m_label;
     QListWidget *m_list;
     QPushButton *m_add;
     QPushButton *m_remove;

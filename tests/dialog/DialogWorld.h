@@ -14,7 +14,9 @@
 #include <QTemporaryDir>
 #include <QThread>
 #include <atomic>
+#include <functional>
 #include <gtest/gtest.h>
+#include <mutex>
 
 namespace bvtest {
 
@@ -83,6 +85,7 @@ public:
     {
         while (isSilent && !control.isCancelled())
             QThread::msleep(1);
+        const std::lock_guard lock(mutex);
         if (!failure.isEmpty())
             return bv::Result<std::vector<bv::PrintQueue>>::failure(failure);
         return listed;
@@ -104,6 +107,14 @@ public:
         ppdPaths.insert(name, ppdPath);
     }
 
+    // Changes the list while a dialog may ask for it.
+    void relist(const std::function<void(std::vector<bv::PrintQueue> &)> &change)
+    {
+        const std::lock_guard lock(mutex);
+        change(listed);
+    }
+
+    mutable std::mutex mutex;
     QString failure;
     std::atomic<bool> isSilent = false; // no answer until the call is canceled
     std::vector<bv::PrintQueue> listed;

@@ -2,15 +2,17 @@
 // The parts of the dialog by themselves: summary, change watcher, document list, survey of queues, option rows.
 #include "DialogWorld.h"
 
-#include "dialog/PaneSurvey.h"
 #include "options/PpdOptionRows.h"
+#include "printers/PaneSurvey.h"
 #include "queues/Ticket.h"
 #include "widgets/ChangeWatcher.h"
 #include "widgets/DocumentList.h"
 #include "widgets/SummaryView.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMimeData>
 #include <QSlider>
 #include <QSpinBox>
@@ -114,9 +116,45 @@ TEST_F(DialogParts, AddsEachFileOnceAndReportsUnreadableOnes)
     documents.addDocuments({document, folder.filePath("./letter.pdf"), folder.path(), folder.filePath("none.pdf")});
     documents.addDocuments({document});
     EXPECT_EQ(documents.documents(), QStringList{document});
-    ASSERT_EQ(refused.count(), 1);
+    ASSERT_EQ(refused.count(), 2);
     EXPECT_TRUE(refused[0][0].toString().contains("none.pdf"));
-    EXPECT_EQ(refused[0][0].toString().count('\n'), 1);
+    EXPECT_EQ(refused[0][0].toString().count('\n'), 2);
+    EXPECT_TRUE(refused[0][0].toString().contains("“letter.pdf” is in the list already."));
+}
+
+TEST_F(DialogParts, OrdersTheDocumentsByKeys)
+{
+    DocumentList documents;
+    documents.show();
+    QStringList paths;
+    for (const char *name : {"a", "b", "c", "d"})
+        paths << write(name, QByteArray(512, 'x'));
+    documents.addDocuments(paths);
+    EXPECT_TRUE(documents.findChild<QLabel *>()->text().contains("4, 2.0"));
+    QSignalSpy changed(&documents, &DocumentList::documentsChanged);
+    const auto order = [&] {
+        QString names;
+        for (const QString &path : documents.documents())
+            names += path.back();
+        return names;
+    };
+    documents.list()->setCurrentRow(1);
+    documents.list()->item(2)->setSelected(true);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&documents));
+    documents.list()->setFocus();
+    QTest::keyClick(documents.list(), Qt::Key_Up, Qt::AltModifier);
+    EXPECT_EQ(order(), "bcad");
+    QTest::keyClick(documents.list(), Qt::Key_Up, Qt::AltModifier);
+    EXPECT_EQ(order(), "bcad") << "no farther";
+    EXPECT_EQ(changed.count(), 1);
+    QTest::keyClick(documents.list(), Qt::Key_Down, Qt::AltModifier);
+    QTest::keyClick(documents.list(), Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(order(), "adbc");
+    documents.list()->model()->moveRow({}, 0, {}, 4); // as a drag does
+    EXPECT_EQ(order(), "dbca");
+    EXPECT_EQ(changed.count(), 4);
+    QTest::keyClick(documents.list(), Qt::Key_Delete);
+    EXPECT_EQ(order(), "da");
 }
 
 TEST_F(DialogParts, AcceptsOnlyLocalFilesFromADrop)

@@ -2,6 +2,7 @@
 // The dialog from the user's side, with a panel that is not ours: opening, changing, switching, printing.
 #include "DialogWorld.h"
 
+#include "printers/PrinterMenu.h"
 #include "widgets/MessageBar.h"
 #include "widgets/SummaryView.h"
 
@@ -191,6 +192,38 @@ TEST_F(Dialog, ChoosesTheDefaultQueueAndShowsItsState)
     EXPECT_TRUE(dialog->printReason().isEmpty());
     ASSERT_TRUE(print());
     EXPECT_EQ(sink.jobs.size(), 1U);
+}
+
+TEST_F(Dialog, FollowsThePrintersWhileItIsOpen)
+{
+    open();
+    auto *printers = find<PrinterMenu>("printer");
+    const auto shows = [&](const std::function<bool()> &wanted) {
+        printers->hidePopup();
+        printers->showPopup(); // asks at once
+        return QTest::qWaitFor(wanted, 20000);
+    };
+    const bv::PrintQueue paper = source.listed[0];
+    source.relist([](auto &listed) {
+        listed.erase(listed.begin()); // the one in the window
+        listed.push_back({});
+        listed.back().name = "New";
+    });
+    EXPECT_TRUE(shows([&] { return printers->findData("New") >= 0; }));
+    EXPECT_EQ(printers->currentData().toString(), "Paper");
+    EXPECT_TRUE(dialog->printReason().contains("no longer there")) << qPrintable(dialog->printReason());
+    EXPECT_EQ(firstOfSummary(), "Toner: Normal") << "what the user chose stays";
+    source.relist([&](auto &listed) {
+        listed.push_back(paper);
+        listed.back().acceptsJobs = false;
+        listed.back().stateMessage = "Moved to the cellar";
+    });
+    EXPECT_TRUE(shows([&] { return dialog->printReason().contains("Moved to the cellar"); }))
+        << qPrintable(dialog->printReason());
+    source.relist([](auto &listed) { listed.back().acceptsJobs = true; });
+    EXPECT_TRUE(shows([&] { return dialog->printReason().isEmpty(); }));
+    printers->hidePopup();
+    EXPECT_TRUE(print());
 }
 
 TEST_F(Dialog, MarksQueuesWithoutPaneInTheBackground)

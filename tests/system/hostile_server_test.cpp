@@ -32,7 +32,7 @@ using bvtest::HostileServer;
 using bvtest::PrivateCupsd;
 using ::testing::HasSubstr;
 
-constexpr char kLook[] = "Look at the queue before printing again.";
+constexpr char kLook[] = "Look whether it was printed before printing again.";
 constexpr char kUnreadable[] = "cannot be read";
 constexpr char kSilent[] = "does not answer";
 
@@ -92,8 +92,8 @@ INSTANTIATE_TEST_SUITE_P(Servers, Hostile, ::testing::Values(
     Row{{"queues=mixed-up"},                  kUnreadable},
     Row{{"queues=deep"},                      kUnreadable},
     Row{{"queues=endless"},                   kUnreadable},
-    Row{{"queues=refused"},                   "does not tell its queues: No. <img"},
-    Row{{"ppd=404"},                          "has no PPD"},
+    Row{{"queues=refused"},                   "does not tell its printers: No. <img"},
+    Row{{"ppd=404"},                          "has no driver"},
     Row{{"ppd=cut"},                          "broke off its answer"},
     Row{{"ppd=huge"},                         "larger than 8 MB"},
     Row{{"ppd=dribbles"},                     kSilent},
@@ -170,7 +170,7 @@ TEST_F(HostileWindow, SaysWhatIsWrongWithTheServer)
 {
     const std::pair<const char *, const char *> rows[] = {{"queues=closes", kSilent},
                                                           {"queues=endless", kUnreadable},
-                                                          {"queues=refused", "does not tell its queues"},
+                                                          {"queues=refused", "does not tell its printers"},
                                                           {"queues=missing", "There is no printer"},
                                                           {"ppd=huge", "larger than 8 MB"},
                                                           {"ppd=garbage", kSilent}};

@@ -188,7 +188,7 @@ TEST_F(Printing, ServerRefusalsAreExplainedAndKeepAllChoices)
     ASSERT_TRUE(m_server.administer("cupsreject", {"QL70"}));
     EXPECT_THAT(print(text)["error"].toString().toStdString(), HasSubstr("takes no jobs"));
     ASSERT_TRUE(m_server.administer("lpadmin", {"-x", "QL70"}));
-    EXPECT_THAT(print(text)["error"].toString().toStdString(), HasSubstr("no queue QL70"));
+    EXPECT_THAT(print(text)["error"].toString().toStdString(), HasSubstr("no printer QL70"));
     m_server.stop();
     EXPECT_THAT(print(text)["error"].toString().toStdString(), HasSubstr("does not answer"));
     EXPECT_EQ(m_batch.result("ticket").toObject()["kept"], "yes");
@@ -223,7 +223,7 @@ TEST_F(Printing, ATruncatedPpdIsReportedWithQueueAndReason)
     ASSERT_TRUE(fetched);
     const auto ppd = bv::PpdFile::open(fetched.value());
     ASSERT_FALSE(ppd);
-    EXPECT_THAT(ppd.error().toStdString(), AllOf(HasSubstr("of the queue CUT is cut off"), Not(HasSubstr("tmp"))));
+    EXPECT_THAT(ppd.error().toStdString(), AllOf(HasSubstr("of the printer CUT is cut off"), Not(HasSubstr("tmp"))));
 }
 
 TEST_F(Printing, QueuesAreListedWithTheirDetails)

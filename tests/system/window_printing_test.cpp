@@ -14,6 +14,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRegularExpression>
@@ -155,6 +156,7 @@ TEST_F(WindowPrinting, WhatAPresetPrintsDoesNotReplaceWhatWasTunedByHand)
     ASSERT_TRUE(QTest::qWaitFor([&] { return !m_dialog->messageText().isEmpty(); }, 30000));
     EXPECT_EQ(tuned->currentText(), byHand) << "after a job that was refused";
     ASSERT_TRUE(m_server.administer("cupsaccept", {"QL70"}));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return m_dialog->printReason().isEmpty(); }, 30000));
     QSignalSpy printed(m_dialog.get(), &PrintDialog::printed);
     click("print");
     ASSERT_TRUE(QTest::qWaitFor([&] { return !printed.isEmpty(); }, 30000)) << m_dialog->messageText().toStdString();
@@ -163,6 +165,23 @@ TEST_F(WindowPrinting, WhatAPresetPrintsDoesNotReplaceWhatWasTunedByHand)
     open({});
     EXPECT_EQ(quickColor()->currentText(), "Photo");
     EXPECT_EQ(find<QComboBox>("menu_iRGBGrayTreatment")->currentText(), byHand);
+}
+
+TEST_F(WindowPrinting, SaysInTheServersWordsWhyThePrinterStands)
+{
+    open({write("a.txt", "a\n")});
+    auto *printers = find<QComboBox>("printer");
+    const auto noteBecomes = [&](const char *words) {
+        printers->hidePopup();
+        printers->showPopup(); // asks at once
+        return QTest::qWaitFor([&] { return find<QLabel>("printerNote")->text().contains(words); }, 30000);
+    };
+    ASSERT_TRUE(m_server.administer("cupsdisable", {"-r", "Out of toner: call the help desk", "QL70"}));
+    EXPECT_TRUE(noteBecomes("Out of toner: call the help desk"));
+    EXPECT_EQ(m_dialog->printReason(), QString()) << "the job waits";
+    ASSERT_TRUE(m_server.administer("cupsreject", {"-r", "Moved to the cellar", "QL70"}));
+    EXPECT_TRUE(noteBecomes("takes no jobs"));
+    EXPECT_TRUE(m_dialog->printReason().contains("cellar")) << m_dialog->printReason().toStdString();
 }
 
 // The menu's actions are triggered by name; a menu that is open would block the test.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // Fetches one PPD after another in the background, so a slow print server does not block the window.
-#include "dialog/PaneSurvey.h"
+#include "printers/PaneSurvey.h"
 
 #include <algorithm>
 

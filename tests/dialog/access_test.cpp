@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// What a screen reader and the keyboard find in the window with our pane: names, mnemonics, and the reasons of what is
+// gray. Prints the whole tree, for people to read.
+#include "DialogWorld.h"
+
+#include "widgets/Mnemonics.h"
+#include "widgets/WhyGreyed.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
+#include <map>
+
+using namespace bv;
+
+namespace {
+
+class Access : public bvtest::DialogTest
+{
+protected:
+    void SetUp() override
+    {
+        qputenv("BVCO_ROOT", folder.path().toUtf8());
+        DialogTest::SetUp();
+        loadPlugin(QStringLiteral(BV_BUILD_DIR "/lib/bvco/bvco.so"));
+        source.add("Ours", BV_SOURCE_DIR "/resources/QL70.ppd");
+        open({"Ours", std::nullopt, {document}});
+        dialog->resize(1400, 1000);
+    }
+    void TearDown() override
+    {
+        DialogTest::TearDown();
+        qunsetenv("BVCO_ROOT");
+    }
+
+    // Prints a line for the object and those below it, and counts what is wrong.
+    void dump(QAccessibleInterface *one, int depth)
+    {
+        if (!one || one->state().invisible)
+            return;
+        const QString name = one->text(QAccessible::Name);
+        const auto *widget = qobject_cast<const QWidget *>(one->object());
+        const bool takesKeys = widget && (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->isVisible() &&
+                               !widget->focusProxy() &&
+                               !(widget->parentWidget() && widget->parentWidget()->focusProxy() == widget) &&
+                               !QString::fromLatin1(widget->metaObject()->className()).startsWith("QScrollBar");
+        const bool isPart = widget && (qobject_cast<QComboBox *>(widget->parentWidget()) ||
+                                       widget->objectName().startsWith("qt_spinbox"));
+        if (takesKeys && !isPart) {
+            ++m_controls;
+            std::printf("%*s%s \"%s\" %s\n", depth * 2, "", widget->metaObject()->className(), qPrintable(name),
+                        qPrintable(one->text(QAccessible::Accelerator)));
+            if (name.isEmpty()) {
+                ++m_nameless;
+                ADD_FAILURE() << "no name: " << widget->metaObject()->className() << " "
+                              << widget->objectName().toStdString();
+            }
+        }
+        for (int i = 0; i < one->childCount(); ++i)
+            dump(one->child(i), depth + 1);
+    }
+
+    // The texts in sight that can have a mnemonic: each must have one, and no two the same.
+    void expectMnemonics()
+    {
+        for (int turn = 0; turn < 3; ++turn)
+            QCoreApplication::processEvents();
+        std::map<QChar, QStringList> owners;
+        const auto note = [&](const QString &text) { owners[mnemonicOf(text)] << text; };
+        for (const QWidget *widget : dialog->findChildren<QWidget *>()) {
+            if (!widget->isVisible() || widget->window() != dialog.get())
+                continue;
+            if (const auto *label = qobject_cast<const QLabel *>(widget); label && label->buddy())
+                note(label->text());
+            if (const auto *button = qobject_cast<const QAbstractButton *>(widget); button && !button->text().isEmpty())
+                note(button->text());
+            if (const auto *tabs = qobject_cast<const QTabWidget *>(widget))
+                for (int tab = 0; tab < tabs->count(); ++tab)
+                    note(tabs->tabText(tab));
+        }
+        for (const auto &owner : owners) {
+            if (owner.first.isNull() || owner.second.size() > 1) {
+                ++m_clashes;
+                ADD_FAILURE() << (owner.first.isNull() ? "no mnemonic: " : "the same mnemonic: ")
+                              << owner.second.join(", ").toStdString();
+            }
+        }
+    }
+
+    void check(const char *where)
+    {
+        expectMnemonics();
+        std::printf("--- %s\n", where);
+        dump(QAccessible::queryAccessibleInterface(dialog.get()), 0);
+    }
+
+    int m_controls = 0;
+    int m_nameless = 0;
+    int m_clashes = 0;
+};
+
+TEST_F(Access, EveryControlHasANameAndAMnemonicOfItsOwn)
+{
+    check("Color Options");
+    find<QCheckBox>("check_ColorAsGrayscale")->click();
+    check("Color as Grayscale");
+    find<QCheckBox>("check_ColorAsGrayscale")->click();
+    QTest::keyClick(find<QComboBox>("menu_QuickColor"), Qt::Key_End);
+    find<QPushButton>("button_AdvanceColorOptions")->click();
+    auto *tabs = find<QTabWidget>("tab_SwitchVew");
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+        tabs->setCurrentIndex(tab);
+        check(qPrintable("Advanced, " + tabs->tabText(tab)));
+    }
+    std::printf("%d controls seen, without a name %d, clashes %d\n", m_controls, m_nameless, m_clashes);
+    EXPECT_GT(m_controls, 100);
+}
+
+TEST_F(Access, TheReasonOfEveryGreyedControlIsReachedByKeys)
+{
+    find<QCheckBox>("check_ColorAsGrayscale")->click();
+    QCoreApplication::processEvents();
+    auto *why = find<WhyGreyed>("whyGreyed");
+    ASSERT_TRUE(why->isVisible());
+    why->setFocus();
+    QTest::keyClick(why, Qt::Key_Space);
+    auto *list = find<QListWidget>("greyedReasons");
+    ASSERT_TRUE(list->isVisible());
+    QStringList lines;
+    for (int row = 0; row < list->count(); ++row)
+        lines << list->item(row)->text();
+    const QString all = lines.join('\n');
+    for (QWidget *widget : dialog->findChildren<QWidget *>()) {
+        const bool isGreyed = widget->isVisible() && !widget->isEnabled() && widget->parentWidget()->isEnabled() &&
+                              widget->focusPolicy() != Qt::NoFocus;
+        if (isGreyed && !widget->accessibleDescription().isEmpty()) {
+            EXPECT_TRUE(all.contains(widget->accessibleDescription())) << widget->objectName().toStdString();
+        } else if (isGreyed) {
+            ADD_FAILURE() << "no reason: " << widget->objectName().toStdString();
+        }
+    }
+    EXPECT_GE(lines.size(), 3) << qPrintable(all);
+    EXPECT_FALSE(all.contains('&')) << qPrintable(all);
+}
+
+} // namespace

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// Mnemonics in windows whose texts nobody chose together.
+#include "widgets/Mnemonics.h"
+
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSet>
+#include <QTabBar>
+#include <gtest/gtest.h>
+
+using namespace bv;
+
+namespace {
+
+class MnemonicsOf : public ::testing::Test
+{
+protected:
+    QPushButton *add(const QString &text)
+    {
+        auto *button = new QPushButton(text);
+        form->addRow(button);
+        buttons << button;
+        return button;
+    }
+    // A new text asks for a layout, and that for new letters.
+    static void settle()
+    {
+        for (int turn = 0; turn < 3; ++turn)
+            QCoreApplication::processEvents();
+    }
+    QString letters() const
+    {
+        QString all;
+        for (const QPushButton *button : buttons)
+            all += mnemonicOf(button->text());
+        return all;
+    }
+
+    QWidget window;
+    QFormLayout *form = new QFormLayout(&window);
+    QList<QPushButton *> buttons;
+};
+
+TEST_F(MnemonicsOf, NoTwoTextsShareALetter)
+{
+    add("Save && Print");
+    add("&Print");
+    add("Print &All");
+    add("ppp");
+    add("Печать");
+    add("印刷…");
+    add("");
+    auto *menu = new QComboBox;
+    form->addRow("Paper:", menu);
+    auto *label = qobject_cast<QLabel *>(form->labelForField(menu));
+    window.show();
+    Mnemonics mnemonics(&window);
+    mnemonics.assign();
+    EXPECT_EQ(buttons[0]->text(), "&Save && Print");
+    EXPECT_EQ(buttons[1]->text(), "&Print");
+    EXPECT_EQ(buttons[2]->text(), "Print &All");
+    EXPECT_EQ(buttons[3]->text(), "ppp (&1)");
+    EXPECT_EQ(buttons[4]->text(), "&Печать");
+    EXPECT_EQ(mnemonicOf(buttons[5]->text()), u'印');
+    EXPECT_EQ(buttons[6]->text(), "");
+    EXPECT_EQ(label->text(), "Pap&er:");
+}
+
+TEST_F(MnemonicsOf, StayWhileTheirLettersAreFreeAndFollowNewTexts)
+{
+    QPushButton *one = add("Gray");
+    window.show();
+    Mnemonics mnemonics(&window);
+    mnemonics.assign();
+    EXPECT_EQ(one->text(), "&Gray");
+    QPushButton *two = add("&Go");
+    two->show();
+    settle();
+    EXPECT_EQ(letters(), "RG") << "a letter that a text brings along comes first";
+    two->hide();
+    settle();
+    EXPECT_EQ(letters()[0], 'R') << "no change without need";
+    one->setText("Color");
+    settle();
+    EXPECT_EQ(one->text(), "&Color");
+    for (int i = 0; i < 50; ++i)
+        add("eee")->show();
+    mnemonics.assign();
+    QSet<QChar> letters;
+    int marked = 0;
+    for (const QPushButton *button : std::as_const(buttons)) {
+        if (!button->isVisible() || mnemonicOf(button->text()).isNull())
+            continue;
+        ++marked;
+        letters << mnemonicOf(button->text());
+    }
+    EXPECT_EQ(letters.size(), marked);
+    EXPECT_EQ(marked, 36) << "letters and digits";
+}
+
+} // namespace
