@@ -1,0 +1,270 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// take_picture KIND FILE: opens the window as one kind of user has it and takes its picture (PNG). Without arguments,
+// lists the kinds. Needs no display, print server or printer.
+#include "support/ListRoot.h"
+
+#include "dialog/PrintDialog.h"
+#include "dialog/PrintDialogLayout.h"
+#include "jobs/FolderSink.h"
+#include "jobs/PdfPages.h"
+#include "preview/PagePreview.h"
+#include "printers/PrinterMenu.h"
+#include "printers/QueueList.h"
+#include "queues/PanelLoader.h"
+#include "queues/QueueSource.h"
+#include "widgets/DocumentList.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QListView>
+#include <QPdfWriter>
+#include <QPainter>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QStyle>
+#include <QTemporaryDir>
+#include <QTest>
+#include <arpa/inet.h>
+#include <cstdio>
+#include <sys/socket.h>
+
+namespace {
+
+using bv::PrintDialog;
+
+struct Kind
+{
+    const char *name;
+    QSize size = {1200, 760}; // of the window, in points
+    double scale = 1;
+    int font = 0;                                         // in points; 0: the usual one
+    void (*prepare)(QApplication &application) = nullptr; // before the window is made
+    void (*use)(PrintDialog &dialog) = nullptr;           // once it is ready
+    bool isWaiting = false;                               // taken while the printer is silent
+    int pages = 0;                                        // of the document; 0: the sample
+};
+
+template <typename Widget> Widget *find(PrintDialog &dialog, const char *name)
+{
+    return dialog.findChild<Widget *>(QLatin1String(name));
+}
+
+void setColors(const QColor &ground, const QColor &field, const QColor &text, const QColor &button,
+               const QColor &highlight)
+{
+    QPalette palette(text, button, field, button.darker(160), button, text, text, field, ground);
+    palette.setColor(QPalette::Highlight, highlight);
+    palette.setColor(QPalette::HighlightedText, ground);
+    palette.setColor(QPalette::ToolTipBase, field);
+    palette.setColor(QPalette::ToolTipText, text);
+    palette.setColor(QPalette::PlaceholderText, QColor(text.red(), text.green(), text.blue(), 150));
+    const QColor dimmed((text.red() + ground.red()) / 2, (text.green() + ground.green()) / 2,
+                        (text.blue() + ground.blue()) / 2);
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, dimmed);
+    QApplication::setPalette(palette);
+}
+
+void makeDark(QApplication &)
+{
+    setColors(QColor(0x2b, 0x2b, 0x2b), QColor(0x1e, 0x1e, 0x1e), QColor(0xee, 0xee, 0xee), QColor(0x3a, 0x3a, 0x3a),
+              QColor(0x4a, 0x90, 0xd9));
+}
+
+void makeContrast(QApplication &)
+{
+    setColors(Qt::black, Qt::black, Qt::white, Qt::black, Qt::yellow);
+}
+
+void makeRightToLeft(QApplication &application)
+{
+    application.setLayoutDirection(Qt::RightToLeft);
+}
+
+void chooseManual(PrintDialog &dialog)
+{
+    QTest::keyClick(find<QComboBox>(dialog, "menu_QuickColor"), Qt::Key_End);
+    find<QPushButton>(dialog, "button_AdvanceColorOptions")->click();
+}
+
+void chooseGray(PrintDialog &dialog)
+{
+    find<QCheckBox>(dialog, "check_ColorAsGrayscale")->click();
+}
+
+void openMenu(PrintDialog &dialog)
+{
+    dialog.parts().queues->popUp()->showPopup();
+}
+
+void failThrice(PrintDialog &dialog)
+{
+    QStringList missing;
+    for (int i = 1; i <= 61; ++i)
+        missing << QStringLiteral("/net/scans/page-%1-%2.pdf").arg(i).arg(QString(90, u'x'));
+    dialog.parts().documents->addDocuments(missing);
+}
+
+// clang-format off
+const std::vector<Kind> kKinds = {
+    {.name = "default"},
+    {.name = "manual",        .use = chooseManual},
+    {.name = "gray",          .use = chooseGray},
+    {.name = "waiting",       .isWaiting = true},
+    {.name = "hundred-pages", .pages = 100},
+    {.name = "messages",      .use = failThrice},
+    {.name = "printers",      .use = openMenu},
+    {.name = "small-150",     .size = {682, 400}, .scale = 1.5}, // a screen of 1024 by 600 pixels
+    {.name = "scale-200",     .scale = 2},
+    {.name = "font-9",        .font = 9},
+    {.name = "font-18",       .size = {1366, 768}, .font = 18},
+    {.name = "right-to-left", .prepare = makeRightToLeft},
+    {.name = "dark",          .prepare = makeDark, .use = chooseManual},
+    {.name = "high-contrast", .prepare = makeContrast, .use = chooseManual},
+};
+// clang-format on
+
+// One printer with our PPD, and some others that are only listed.
+class Printers final : public bv::QueueSource
+{
+public:
+    explicit Printers(QString deviceUri)
+    {
+        const auto add = [&](const char *name, const char *description, const char *place) -> bv::PrintQueue & {
+            bv::PrintQueue queue;
+            queue.name = QLatin1String(name);
+            queue.description = QLatin1String(description);
+            queue.location = QLatin1String(place);
+            queue.deviceUri = deviceUri;
+            m_queues.push_back(std::move(queue));
+            return m_queues.back();
+        };
+        add("QL70", "Color laser", "Room 214").isDefault = true;
+        add("hall", "Copier in the hall", "Third floor").stateReasons = QStringList{"toner-low-warning"};
+        bv::PrintQueue &stopped = add("plotter", "Plotter", "Workshop");
+        stopped.isStopped = true;
+        stopped.stateMessage = QStringLiteral("Out of paper: call the help desk");
+        add("old", "Old printer", "Cellar").acceptsJobs = false;
+    }
+    bv::Result<std::vector<bv::PrintQueue>> queues(bv::CallControl &) const override { return m_queues; }
+    bv::Result<bv::PpdText> ppd(const QString &, bv::CallControl &) const override
+    {
+        return bv::PpdText::read(QStringLiteral(BV_SOURCE_DIR "/resources/QL70.ppd"));
+    }
+
+private:
+    std::vector<bv::PrintQueue> m_queues;
+};
+
+QString pdfOf(int pages, const QString &path)
+{
+    QPdfWriter writer(path);
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    QPainter painter(&writer);
+    painter.setFont(QFont(QStringLiteral("DejaVu Sans"), 60));
+    for (int page = 1; page <= pages; ++page) {
+        if (page > 1)
+            writer.newPage();
+        painter.drawText(QRect(0, 0, writer.width(), writer.height()), Qt::AlignCenter,
+                         QStringLiteral("Page %1").arg(page));
+    }
+    return path;
+}
+
+// A port that takes questions and answers none.
+int silentPort()
+{
+    const int printer = socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+    sockaddr_in address = {};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t length = sizeof address;
+    if (bind(printer, reinterpret_cast<sockaddr *>(&address), length) != 0 ||
+        getsockname(printer, reinterpret_cast<sockaddr *>(&address), &length) != 0)
+        return 0;
+    return ntohs(address.sin_port);
+}
+
+bool save(PrintDialog &dialog, const QString &path)
+{
+    QCoreApplication::processEvents();
+    QPixmap picture = dialog.grab();
+    // A pop-up is a window of its own, over this one.
+    if (QWidget *over = QApplication::activePopupWidget()) {
+        QPainter painter(&picture);
+        painter.drawPixmap(dialog.mapFromGlobal(over->mapToGlobal(QPoint(0, 0))), over->grab());
+    }
+    return picture.save(path, "PNG");
+}
+
+int take(const Kind &kind, const QString &path, QApplication &application)
+{
+    const QTemporaryDir home;
+    qputenv("XDG_STATE_HOME", home.path().toLocal8Bit());
+    const bvtest::ListRoot root;
+    if (kind.isWaiting) {
+        root.write("snmp/snmp.conf", "mibs :\ndefaultPort " + std::to_string(silentPort()) + "\n");
+        qputenv("SNMPCONFPATH", root.file("snmp").c_str());
+    }
+    if (kind.font > 0)
+        QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), kind.font));
+    if (kind.prepare)
+        kind.prepare(application);
+    bv::PanelLoader loader;
+    if (!loader.load(QStringLiteral(BV_BUILD_DIR "/lib/bvco/bvco.so"), QStringLiteral("en_US")))
+        return 1;
+    bv::RememberedTickets remembered(home.filePath("tickets"));
+    const QString sample = kind.pages > 0 ? pdfOf(kind.pages, home.filePath("report.pdf"))
+                                          : QStringLiteral(BV_SOURCE_DIR "/resources/demo/sample.pdf");
+    PrintDialog dialog(std::make_shared<Printers>(kind.isWaiting ? QStringLiteral("lpd://127.0.0.1/queue")
+                                                                 : QStringLiteral("socket://127.0.0.1")),
+                       std::make_shared<bv::FolderSink>(home.filePath("jobs")), loader, remembered,
+                       {QStringLiteral("QL70"), std::nullopt, {sample}, bv::pdfPages()});
+    dialog.resize(kind.size);
+    int status = 1;
+    if (kind.isWaiting) {
+        auto *look = new QTimer(&dialog);
+        QObject::connect(look, &QTimer::timeout, &dialog, [&] {
+            const auto *skip = find<QPushButton>(dialog, "skipWait");
+            if (!skip || !skip->isVisible())
+                return;
+            status = save(dialog, path) ? 0 : 1;
+            dialog.reject();
+        });
+        look->start(200);
+        dialog.exec();
+        return status;
+    }
+    QSignalSpy ready(&dialog, &PrintDialog::ready);
+    QSignalSpy shown(dialog.parts().preview, &bv::PagePreview::shown);
+    dialog.show();
+    if (!ready.wait(30000))
+        return 1;
+    if (kind.use)
+        kind.use(dialog);
+    if (!dialog.parts().preview->isFolded() && shown.isEmpty())
+        shown.wait(10000);
+    return save(dialog, path) ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (argc != 3) {
+        for (const Kind &kind : kKinds)
+            std::printf("%s\n", kind.name);
+        return argc == 1 ? 0 : 2;
+    }
+    for (const Kind &kind : kKinds) {
+        if (std::string_view(kind.name) != argv[1])
+            continue;
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(kind.scale));
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        QApplication application(argc, argv);
+        return take(kind, QString::fromLocal8Bit(argv[2]), application);
+    }
+    std::fprintf(stderr, "take_picture: there is no kind \"%s\"\n", argv[1]);
+    return 2;
+}
