@@ -26,6 +26,12 @@ inline std::string_view textOf(const uint8_t *data, size_t size)
     return {reinterpret_cast<const char *>(data), size};
 }
 
+// The byte as a number from -128 to 127.
+constexpr int signedNumber(uint8_t byte)
+{
+    return byte < 0x80 ? byte : byte - 0x100;
+}
+
 // Reads the input piece by piece. Returns zeros and empty texts after its end.
 class Input
 {

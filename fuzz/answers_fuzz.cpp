@@ -99,7 +99,7 @@ public:
         sockaddr_un address{};
         address.sun_family = AF_UNIX;
         require(place.string().size() < sizeof address.sun_path);
-        std::strcpy(address.sun_path, place.c_str());
+        place.string().copy(address.sun_path, sizeof address.sun_path - 1);
         require(bind(m_socket, reinterpret_cast<sockaddr *>(&address), sizeof address) == 0);
         require(listen(m_socket, 16) == 0);
         setenv("CUPS_SERVER", place.c_str(), 1);

@@ -25,8 +25,8 @@ ProfileRecord recordOf(std::string_view bytes)
     std::array<uint8_t, 8> b{};
     std::copy(bytes.begin(), bytes.end(), b.begin());
     ProfileRecord record{};
-    record.IndexOnDevice = static_cast<int8_t>(b[0]);
-    record.InMenu = b[1] & 0x80 ? static_cast<int8_t>(b[1]) : b[1] % 8;
+    record.IndexOnDevice = fuzz::signedNumber(b[0]);
+    record.InMenu = b[1] & 0x80 ? fuzz::signedNumber(b[1]) : b[1] % 8;
     record.ProfileClass = b[2] % 5;
     record.Location = 3 + b[3] % 4;
     bv::setFieldText(record.FileName, kNames[b[4] % std::size(kNames)]);
@@ -78,7 +78,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const int32_t status = input.byte() % 3;
     *lists = {};
     vSpoolPlist(nullptr, 0, nullptr, 1);
-    PlistForSpool.count = static_cast<int8_t>(input.byte());
+    PlistForSpool.count = fuzz::signedNumber(input.byte());
     while (!input.atEnd()) {
         const uint8_t where = input.byte();
         const uint8_t slot = input.byte();

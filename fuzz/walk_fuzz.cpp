@@ -21,7 +21,7 @@ void spoolOne(fuzz::Input *input)
     name.push_back(1);
     name.push_back(static_cast<oid>(input->byte()) << 1 | (input->byte() & 1U));
     name.resize(input->byte() % 8 == 0 ? input->byte() % 24 : name.size());
-    long number = static_cast<int8_t>(input->byte());
+    long number = fuzz::signedNumber(input->byte());
     const uint8_t kind = input->byte();
     std::string text(input->text(kind >> 1));
     netsnmp_variable_list variable{};
@@ -53,7 +53,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     fuzz::Input input(data, size);
     vSpoolPlist(nullptr, 0, nullptr, 1);
     guarded = {};
-    guarded.list.count = static_cast<int8_t>(input.byte()) * 8; // any count, also an invalid one
+    guarded.list.count = fuzz::signedNumber(input.byte()) * 8; // any count, also an invalid one
     const int32_t status = input.byte() & 1;
     while (!input.atEnd())
         spoolOne(&input);

@@ -528,7 +528,7 @@ QString PrintDialog::reasonNotToPrint() const
         return tr("This printer cannot be used. Choose another one.");
     if (m_current->isGone())
         return tr("This printer is no longer there. Choose another one.");
-    if (const QString closed = whyNoJobs(m_current->queue()); !closed.isEmpty())
+    if (QString closed = whyNoJobs(m_current->queue()); !closed.isEmpty())
         return closed;
     if (m_sending->needsDocuments() && m_parts->documents->documents().isEmpty())
         return tr("Add a document to print.");

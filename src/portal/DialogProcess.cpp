@@ -81,7 +81,7 @@ QString receive(const ReceivedDocument &document, const ClosingWatch *watch)
 QString sendAgreed(const DialogRequest &request, const QString &path)
 {
     const JobRequest job{request.job->queue, jobTitle(request), {path}, request.job->options};
-    const QString problem = waitBeside<QString>(
+    QString problem = waitBeside<QString>(
         nullptr, [job](CallControl &) { return checkRange(job.options, job.documents, pdfPages()); },
         QCoreApplication::translate("DialogProcess", "The pages of the document could not be counted in time."));
     if (!problem.isEmpty())
