@@ -24,10 +24,11 @@ struct Kind
     uint32_t filter;
 };
 
-// Those of the window, and some that come to their limits sooner.
+// Those of the window, and some that come to their limits sooner. An extension needs a filter that lets the dot
+// through.
 constexpr Kind kKinds[] = {
     {31, 3, kFilterFileName},    {30, 0, kFilterAscii}, {6, 3, kFilterFileName}, {4, 0, kFilterNumeric}, {5, 0, 4},
-    {8, 2, kFilterAlphaNumeric},
+    {5, 0, kFilterAlphaNumeric},
 };
 
 struct Key

@@ -59,7 +59,8 @@ bool TextReader::read()
     QFile file;
     if (!file.open(m_descriptor, QIODevice::ReadOnly) || file.size() > kMostBytes)
         return false;
-    m_text = decoded(file.read(kMostBytes));
+    // Qt takes memory for all that it is asked to read.
+    m_text = decoded(file.read(file.size()));
     m_read = true;
     return true;
 }
