@@ -96,6 +96,8 @@ double timeOfFlush(const std::string &text)
     return time;
 }
 
+constexpr std::string_view kQuestion = "bvPListIsAdminProfile_XPC";
+
 void benchAnswer(const std::filesystem::path &helper)
 {
     const std::vector<std::string> arguments = {bv::profilePaths().current};
@@ -103,9 +105,8 @@ void benchAnswer(const std::filesystem::path &helper)
     std::vector<double> bare;
     for (int i = 0; i < kAnswerRounds; ++i) {
         install(helper);
-        own.push_back(microseconds([&] {
-            require(bv::answerHolds(bv::runHelper("bvPListIsAdminProfile_XPC", arguments), "=TRUE"), "no answer");
-        }));
+        own.push_back(microseconds(
+            [&] { require(bv::answerIsTrue(bv::runHelper(kQuestion, arguments), kQuestion), "no answer"); }));
         bare.push_back(timeOfTrue(1, arguments));
     }
     std::printf("one answer        helper %8.0f  /bin/true %8.0f  ratio %.2f\n", median(own), median(bare),

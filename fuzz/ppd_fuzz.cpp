@@ -17,9 +17,9 @@ using fuzz::require;
 
 namespace {
 
-constexpr int kMostOptions = 50;
+constexpr size_t kMostOptions = 50;
 
-void checkOption(ppd_file_t *ppd, ppd_option_t *option)
+void checkOption(ppd_file_t *ppd, const ppd_option_t *option)
 {
     std::shared_ptr<const PPDChoiceArray> choices;
     if (PDECommon::commonGetPPDArrayForUIOption(ppd, option->keyword, &choices) != noErr)
@@ -73,11 +73,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     }
     bv::QueueSession session({QStringLiteral("Lab"), {}, true}, std::move(opened.value()));
     ppd_file_t *const ppd = session.ppdFile();
-    int options = 0;
-    for (ppd_option_t *option = ppdFirstOption(ppd); option && options < kMostOptions; option = ppdNextOption(ppd)) {
+    std::vector<ppd_option_t *> options = bv::ppdOptions(ppd);
+    options.resize(std::min(options.size(), kMostOptions));
+    for (const ppd_option_t *option : options)
         checkOption(ppd, option);
-        ++options;
-    }
     bv::ticketFromDefaults({{QStringLiteral("media"), QStringLiteral("A4")},
                             {QStringLiteral("sides"), QStringLiteral("two-sided-long-edge")}},
                            ppd);

@@ -26,6 +26,8 @@ JobOptions ticketOptions(const PrintDictionary &ticket)
 {
     JobOptions options;
     for (const auto &[key, value] : ticket.entries) {
+        if (key.isEmpty())
+            continue; // JSON allows it, but no option has such a name
         if (const QString *text = value.string())
             options[key] = *text;
         else if (const int64_t *number = value.integer())

@@ -17,6 +17,7 @@ namespace {
 constexpr double kColumnPoints = 7.2;
 constexpr double kRowPoints = 12;
 constexpr double kFontPixels = 12;
+constexpr double kLeastPixels = 0.5; // of a letter's place; what is smaller cannot be seen, and Qt fails at some of it
 constexpr qint64 kMostBytes = qint64{32} << 20;
 
 int fitting(double room, double each)
@@ -91,7 +92,11 @@ QImage TextReader::render(int page, QSize pixels)
         return {};
     drawn.fill(Qt::white);
     QPainter painter(&drawn);
-    painter.scale(pixels.width() / m_sheet.size.width(), pixels.height() / m_sheet.size.height());
+    const double across = pixels.width() / m_sheet.size.width();
+    const double down = pixels.height() / m_sheet.size.height();
+    if (across * kColumnPoints < kLeastPixels || down * kRowPoints < kLeastPixels)
+        return drawn;
+    painter.scale(across, down);
     painter.setFont(m_font);
     painter.setPen(Qt::black);
     const double ascent = QFontMetricsF(m_font).ascent();

@@ -4,6 +4,7 @@
 
 #include "jobs/PageRange.h"
 #include "queues/JobOnlyKeys.h"
+#include "queues/PpdFile.h"
 #include "queues/UserDefaults.h"
 
 #include <QRegularExpression>
@@ -73,10 +74,10 @@ bool hasChoice(ppd_file_t *ppd, const QString &keyword, const QString &choice)
 // Whether the keyword is an option's with something behind it: OPTIONCustom and the like.
 bool belongsToOption(ppd_file_t *ppd, const QString &keyword)
 {
-    for (ppd_option_t *one = ppd ? ppdFirstOption(ppd) : nullptr; one; one = ppdNextOption(ppd))
-        if (keyword.startsWith(QString::fromUtf8(one->keyword) + QStringLiteral("Custom")))
-            return true;
-    return false;
+    const std::vector<ppd_option_t *> options = ppdOptions(ppd);
+    return std::any_of(options.begin(), options.end(), [&keyword](const ppd_option_t *one) {
+        return keyword.startsWith(QString::fromUtf8(one->keyword) + QStringLiteral("Custom"));
+    });
 }
 
 bool isJobOption(const QString &keyword)

@@ -168,4 +168,13 @@ Result<PpdFile> PpdFile::open(const PpdText &text)
     return ppd;
 }
 
+std::vector<ppd_option_t *> ppdOptions(ppd_file_t *ppd)
+{
+    std::vector<ppd_option_t *> options;
+    for (ppd_option_t *one = ppdFirstOption(ppd); one; one = ppdNextOption(ppd))
+        options.push_back(one);
+    std::erase_if(options, [ppd](const ppd_option_t *one) { return ppdFindOption(ppd, one->keyword) != one; });
+    return options;
+}
+
 } // namespace bv

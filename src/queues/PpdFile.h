@@ -8,6 +8,7 @@
 #include <QByteArray>
 #include <cups/ppd.h>
 #include <memory>
+#include <vector>
 
 namespace bv {
 
@@ -48,5 +49,10 @@ private:
 
     std::unique_ptr<ppd_file_t, Close> m_file;
 };
+
+// The options of a PPD, by keyword; none for null. Of two whose keywords differ in case only, the one that libcups
+// finds. Owned by the PPD. libcups' own walk (ppdFirstOption, ppdNextOption) starts over at such a pair whenever an
+// option is looked up on the way, and so never ends.
+std::vector<ppd_option_t *> ppdOptions(ppd_file_t *ppd);
 
 } // namespace bv

@@ -6,6 +6,7 @@
 
 #include "queues/InputFile.h"
 #include "queues/JobOnlyKeys.h"
+#include "queues/PpdFile.h"
 #include "queues/StateFolder.h"
 
 #include <QCoreApplication>
@@ -227,6 +228,11 @@ QString UserDefaults::store(const QueueInstance &of, const Options &options) con
         before += (before.isEmpty() ? "" : " ") + line.options;
     }
     if (!canTakeBack(of)) {
+        // Lines that do not end as they should, as in a quoted value, cannot be put one behind another.
+        Options again;
+        addOptions(before, again);
+        if (again != own)
+            before = optionsText(own);
         PrintDictionary kept;
         kept.setValue(QLatin1String(kKeptOptions), PrintValue(QString::fromUtf8(before)));
         if (!m_replaced.store(of.name(), kept))
@@ -276,7 +282,7 @@ PrintDictionary ticketFromDefaults(const UserDefaults::Options &options, ppd_fil
         if (!isMarked && !ppdFindOption(ppd, name.toUtf8().constData()))
             ticket.setValue(name, PrintValue(value));
     }
-    for (ppd_option_t *option = ppdFirstOption(ppd); option; option = ppdNextOption(ppd)) {
+    for (const ppd_option_t *option : ppdOptions(ppd)) {
         const ppd_choice_t *marked = ppdFindMarkedChoice(ppd, option->keyword);
         if (!marked || qstricmp(marked->choice, option->defchoice) == 0)
             continue;

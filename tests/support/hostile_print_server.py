@@ -38,7 +38,7 @@ def queue(name, words):
 def body(operation, behavior):
     words = NASTY if behavior == "nasty" else ""
     if operation == "queues":
-        names = ["QL70"] + (["Q%05d" % i for i in range(9999)] if behavior == "many" else [])
+        names = ["QL70"] + ["Q%05d" % i for i in range({"some": 199, "many": 9999}.get(behavior, 0))]
         return b"".join(queue(name, words) for name in names)
     if operation == "default":
         return queue("QL70", words)
