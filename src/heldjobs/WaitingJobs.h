@@ -5,7 +5,6 @@
 #include "platform/Result.h"
 #include "queues/CallControl.h"
 
-#include <compare>
 #include <cstdint>
 #include <vector>
 
@@ -16,7 +15,10 @@ struct WaitingJob
     int id = 0;
     int64_t created = 0; // seconds since 1970; a server that was set up anew counts its jobs from 1 again
 
-    auto operator<=>(const WaitingJob &) const = default;
+    friend bool operator<(const WaitingJob &one, const WaitingJob &other)
+    {
+        return one.id != other.id ? one.id < other.id : one.created < other.created;
+    }
 };
 
 // Whole jobs of all queues, oldest first. A job that is held until a time of day is not among them: it waits for
