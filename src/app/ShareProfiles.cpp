@@ -75,12 +75,19 @@ int shareProfiles(const ShareRequest &request)
         complain(QStringLiteral("The helper that writes lists is not installed (%1).").arg(QLatin1String(kHelperPath)));
         return kBadStart;
     }
+    if (!isUser(from)) {
+        complain(QStringLiteral("There is no user \"%1\" whose list could be given to others.").arg(from));
+        return kBadStart;
+    }
     const auto lists = std::make_unique<ProfileLists>();
     setProfileLogin(from.toStdString());
-    const bool isRead = isUser(from) && BVPListReadProfile_All(&lists->rgb, &lists->sim, &lists->dst) == 0;
+    const bool isRead = BVPListReadProfile_All(&lists->rgb, &lists->sim, &lists->dst) == 0;
     setProfileLogin({});
     if (!isRead) {
-        complain(QStringLiteral("%1 has no list of profiles that could be given to others.").arg(from));
+        complain(QStringLiteral(
+                     "%1 has no list of profiles yet. It is made when %1 opens the dialog and the printer answers; "
+                     "--from names another user.")
+                     .arg(from));
         return kBadStart;
     }
     int status = 0;

@@ -66,6 +66,9 @@ TEST_F(ShareProfiles, GivesOnlyWhatTheHelperAllowsAndKeepsWhatIsThere)
     EXPECT_EQ(share({"no-such-user"}), 1);
     EXPECT_THAT(m_said, HasSubstr("no-such-user: there is no such user"));
     EXPECT_EQ(share({"--from", "no-such-user", m_self}), 2);
+    EXPECT_THAT(m_said, HasSubstr("There is no user \"no-such-user\""));
+    EXPECT_EQ(share({"--from", "daemon", m_self}), 2);
+    EXPECT_THAT(m_said, HasSubstr("daemon has no list of profiles yet"));
     if (getuid() != 0) {
         EXPECT_EQ(share({"daemon"}), 1);
         EXPECT_THAT(m_said, HasSubstr("daemon: refused: only root"));
