@@ -130,7 +130,7 @@ TEST_F(Batch, EveryNamedControlIsDescribedByItsKind)
 {
     startWithView();
     QJsonObject byName;
-    for (const QJsonValue &control : result("controls").toArray())
+    for (const auto &control : result("controls").toArray())
         byName[control.toObject()["name"].toString()] = control;
     EXPECT_EQ(QStringList(byName.keys()), (QStringList{"editButton", "paperTable", "sheetSpin", "stampCheck",
                                                        "stampText", "tabs", "tonerLabel", "tonerMenu"}));
@@ -413,9 +413,10 @@ TEST_F(Batch, ABadStartEndsAtOnceWithStatus2AndOneLineOnStandardError)
 
 TEST_F(Batch, AClosedStandardInputIsAnEmptyBatch)
 {
+    const QString program = BV_BUILD_DIR "/bin/bvprint";
     QProcess shell;
-    shell.start("/bin/sh", {"-c", "exec \"$0\" \"$@\" --batch - <&-", BV_BUILD_DIR "/bin/bvprint", kStart[0], kStart[1],
-                            kStart[2], kStart[3]});
+    shell.start("/bin/sh",
+                {"-c", "exec \"$0\" \"$@\" --batch - <&-", program, kStart[0], kStart[1], kStart[2], kStart[3]});
     ASSERT_TRUE(shell.waitForFinished());
     EXPECT_EQ(shell.exitCode(), 0);
     EXPECT_EQ(shell.readAllStandardError(), "");
