@@ -20,7 +20,7 @@ namespace {
 using Response = DialogAnswer::Response;
 
 constexpr int kClosingMilliseconds = 5000;
-constexpr qsizetype kMostOutput = 16 * 1024 * 1024; // bytes of a dialog's answer
+constexpr qsizetype kMostOutput = 16LL * 1024 * 1024; // bytes of a dialog's answer
 
 // Errors that say that a back end is not there, rather than that it failed.
 bool isAbsence(const QString &error)
@@ -49,10 +49,10 @@ QVariantMap mapOf(const QVariant &value)
 
 } // namespace
 
-PortalCall::PortalCall(QDBusConnection bus, QDBusMessage message, PortalArguments arguments, Tokens &tokens,
+PortalCall::PortalCall(QDBusConnection bus, const QDBusMessage &message, PortalArguments arguments, Tokens &tokens,
                        QObject *parent)
-    : QObject(parent), m_bus(std::move(bus)), m_message(std::move(message)), m_arguments(std::move(arguments)),
-      m_tokens(tokens), m_caller(m_message.service(), m_bus, QDBusServiceWatcher::WatchForUnregistration)
+    : QObject(parent), m_bus(std::move(bus)), m_message(message), m_arguments(std::move(arguments)), m_tokens(tokens),
+      m_caller(m_message.service(), m_bus, QDBusServiceWatcher::WatchForUnregistration)
 {
     new RequestAdaptor(this);
     m_patience.setSingleShot(true);
@@ -149,12 +149,12 @@ void PortalCall::handOver()
     forward(backend, m_message.arguments());
 }
 
-void PortalCall::forward(const QString &backend, QList<QVariant> arguments)
+void PortalCall::forward(const QString &backend, const QList<QVariant> &arguments)
 {
     m_backend = backend;
     QDBusMessage call = QDBusMessage::createMethodCall(backend, QLatin1String(kBackendPath),
                                                        QLatin1String(kPrintInterface), m_message.member());
-    call.setArguments(std::move(arguments));
+    call.setArguments(arguments);
     // People may take their time.
     auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call, std::numeric_limits<int>::max()), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher *finished) {

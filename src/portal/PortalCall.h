@@ -31,7 +31,8 @@ class PortalCall : public QObject
 
 public:
     // The tokens must outlive the call. `message` is answered once.
-    PortalCall(QDBusConnection bus, QDBusMessage message, PortalArguments arguments, Tokens &tokens, QObject *parent);
+    PortalCall(QDBusConnection bus, const QDBusMessage &message, PortalArguments arguments, Tokens &tokens,
+               QObject *parent);
     ~PortalCall() override;
 
     // Exports the request and goes to work. A handle that is in use is answered with a failure.
@@ -48,7 +49,7 @@ private:
     void showDialog();
     void takeAnswer();
     void handOver();
-    void forward(const QString &backend, QList<QVariant> arguments);
+    void forward(const QString &backend, const QList<QVariant> &arguments);
     void takeForwarded(const QDBusMessage &reply);
     void answer(DialogAnswer::Response response, const QVariantMap &results = {});
     void finish();

@@ -86,7 +86,7 @@ ReceivedDocument::ReceivedDocument(const QString &title) : m_path(m_folder.fileP
 QString copyDocument(int descriptor, const QString &path, CallControl &control)
 {
     const auto reason = [] { return QString::fromLocal8Bit(std::strerror(errno)); };
-    const QString tooLarge = tr("The document has more than %1.").arg(sizeInWords(kMostDocumentBytes));
+    QString tooLarge = tr("The document has more than %1.").arg(sizeInWords(kMostDocumentBytes));
     const QString notKept = tr("The document cannot be kept in %1: %2.").arg(QFileInfo(path).path());
     control.allow(kCopyingLimit);
     struct stat about = {};

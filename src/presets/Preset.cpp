@@ -15,8 +15,8 @@ namespace bv {
 namespace {
 
 constexpr int kVersion = 1;
-constexpr qsizetype kLongestName = 60;       // characters
-constexpr qint64 kLargestFile = 1024 * 1024; // bytes; real ones have some thousand
+constexpr qsizetype kLongestName = 60;         // characters
+constexpr qint64 kLargestFile = 1024LL * 1024; // bytes; real ones have some thousand
 const QString kVersionKey = QStringLiteral("bvprintPreset");
 const QString kNameKey = QStringLiteral("name");
 const QString kPrinterKey = QStringLiteral("printer");

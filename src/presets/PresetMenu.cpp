@@ -236,8 +236,7 @@ bool PresetMenu::isDone(const QString &problem)
 QString PresetMenu::askName(const QString &title, const QString &proposed)
 {
     bool isAccepted = false;
-    const QString name =
-        QInputDialog::getText(this, title, tr("&Name:"), QLineEdit::Normal, proposed, &isAccepted).trimmed();
+    QString name = QInputDialog::getText(this, title, tr("&Name:"), QLineEdit::Normal, proposed, &isAccepted).trimmed();
     if (!isAccepted || !isDone(presetNameProblem(name)))
         return {};
     return name;

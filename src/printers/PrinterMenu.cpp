@@ -29,7 +29,7 @@ public:
 
     QVariant data(const QModelIndex &index, int role) const override
     {
-        const QVariant value = QSortFilterProxyModel::data(index, role);
+        QVariant value = QSortFilterProxyModel::data(index, role);
         if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole)
             return value;
         const QString title = QSortFilterProxyModel::data(index, Qt::DisplayRole).toString();

@@ -32,7 +32,7 @@ QString tooLarge(const QString &called, qint64 maximum)
 
 QString sizeInWords(qint64 bytes)
 {
-    return tr("%1 MB").arg(bytes / (1024 * 1024));
+    return tr("%1 MB").arg(bytes / (1024LL * 1024));
 }
 
 Result<FileDescriptor> openInputFile(const QString &path, const QString &called, qint64 maximum)

@@ -101,6 +101,7 @@ private:
             words.insert(words.end(), walks.options.begin(), walks.options.end());
             words.insert(words.end(), {walks.hosts[walk], walks.root});
             std::vector<char *> vector;
+            vector.reserve(words.size() + 1);
             for (std::string &word : words)
                 vector.push_back(word.data());
             vector.push_back(nullptr);
@@ -425,9 +426,11 @@ TEST_F(ProfileWalk, HandlesEveryReplyOfAnotherAgent)
     const std::string host = "127.0.0.1:" + std::to_string(agent.numberBehind("ready "));
     // Run at once; the community selects the agent's behavior.
     std::vector<std::unique_ptr<Walker>> walkers;
+    walkers.reserve(std::size(kReplyCases));
     for (const ReplyCase &row : kReplyCases)
         walkers.push_back(std::make_unique<Walker>(Walks{.hosts = {host}, .community = row.mode}));
     std::vector<Walked> left;
+    left.reserve(walkers.size());
     for (const auto &walker : walkers)
         left.push_back(walker->result());
     agent.stop();

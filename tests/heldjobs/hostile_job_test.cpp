@@ -55,7 +55,7 @@ TEST(HostileDocument, IsNoPreviewButASentence)
         use(server);
         const auto folder = std::make_shared<QTemporaryDir>();
         bv::CallControl control;
-        constexpr qint64 kSpace = 1024 * 1024;
+        constexpr qint64 kSpace = 1024LL * 1024;
         const auto copies = bv::copyDocuments(aJob(), folder, control, kSpace);
         ASSERT_EQ(bool(copies), row.words == nullptr) << copies.error().toStdString();
         if (row.words) {
