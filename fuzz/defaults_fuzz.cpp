@@ -15,7 +15,8 @@ std::string withoutLinesOf(const std::string &text, std::string_view queue)
 {
     std::string kept;
     for (const std::string_view line : fuzz::split(text, '\n')) {
-        const QByteArray simple = QByteArray(line.data(), qsizetype(line.size())).simplified().toLower() + ' ';
+        const std::string seen(line.substr(0, line.find('\0')));
+        const QByteArray simple = QByteArray::fromStdString(seen).simplified().toLower() + ' ';
         const QByteArray name = QByteArray(queue.data(), qsizetype(queue.size())).toLower() + ' ';
         if (!line.empty() && !simple.startsWith("dest " + name) && !simple.startsWith("default " + name))
             kept.append(line) += '\n';

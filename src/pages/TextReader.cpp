@@ -17,6 +17,7 @@ namespace {
 constexpr double kColumnPoints = 7.2;
 constexpr double kRowPoints = 12;
 constexpr double kFontPixels = 12;
+constexpr double kMostStretch = 2;   // of a picture against its page; Qt also fails at letters that are stretched far
 constexpr double kLeastPixels = 0.5; // of a letter's place; what is smaller cannot be seen, and Qt fails at some of it
 constexpr qint64 kMostBytes = qint64{32} << 20;
 
@@ -94,7 +95,8 @@ QImage TextReader::render(int page, QSize pixels)
     QPainter painter(&drawn);
     const double across = pixels.width() / m_sheet.size.width();
     const double down = pixels.height() / m_sheet.size.height();
-    if (across * kColumnPoints < kLeastPixels || down * kRowPoints < kLeastPixels)
+    const bool isStretched = across > kMostStretch * down || down > kMostStretch * across;
+    if (isStretched || across * kColumnPoints < kLeastPixels || down * kRowPoints < kLeastPixels)
         return drawn;
     painter.scale(across, down);
     painter.setFont(m_font);

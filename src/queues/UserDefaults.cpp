@@ -57,7 +57,7 @@ struct Line
 Line lineOf(const QByteArray &text)
 {
     Line line{text, {}, {}, {}};
-    const QByteArray trimmed = text.trimmed();
+    const QByteArray trimmed = QByteArray(text.constData()).trimmed(); // libcups' lines end at a zero byte, too
     const QByteArray simple = trimmed.left(1024).simplified();
     const QByteArray word = simple.left(simple.indexOf(' '));
     if (qstricmp(word.constData(), "Dest") != 0 && qstricmp(word.constData(), "Default") != 0)
@@ -99,12 +99,24 @@ std::vector<Line> linesOf(const QString &path)
     return lines;
 }
 
+// libcups tells no options apart by case, so the last one written counts, under its own name.
+void removeOption(const QString &name, UserDefaults::Options &options)
+{
+    std::erase_if(options, [&name](const auto &one) { return one.first.compare(name, Qt::CaseInsensitive) == 0; });
+}
+
+void putOption(const QString &name, const QString &value, UserDefaults::Options &options)
+{
+    removeOption(name, options);
+    options[name] = value;
+}
+
 void addOptions(const QByteArray &text, UserDefaults::Options &options)
 {
     cups_option_t *list = nullptr;
     const int count = cupsParseOptions(text.constData(), 0, &list);
     for (int i = 0; i < count; ++i)
-        options[QString::fromUtf8(list[i].name)] = QString::fromUtf8(list[i].value);
+        putOption(QString::fromUtf8(list[i].name), QString::fromUtf8(list[i].value), options);
     cupsFreeOptions(count, list);
 }
 
@@ -115,7 +127,8 @@ QByteArray optionsText(const UserDefaults::Options &options)
     for (const auto &[name, value] : options) {
         QByteArray bytes = value.toUtf8();
         const bool quoted = std::any_of(bytes.begin(), bytes.end(), [](char one) {
-            return one == ' ' || one == '\t' || one == '\'' || one == '"' || one == '\\' || one == '{' || one == '}';
+            return one == ' ' || (one >= '\t' && one <= '\r') || one == '\'' || one == '"' || one == '\\' ||
+                   one == '{' || one == '}';
         });
         if (quoted)
             bytes = '"' + bytes.replace('\\', "\\\\").replace('"', "\\\"") + '"';
@@ -240,9 +253,9 @@ QString UserDefaults::store(const QueueInstance &of, const Options &options) con
     }
     for (const auto &[name, value] : options) {
         if (value.isEmpty())
-            own.erase(name);
+            removeOption(name, own);
         else if (canBeStored(name, value))
-            own[name] = value;
+            putOption(name, value, own);
     }
     return write(of, optionsText(own));
 }
