@@ -83,7 +83,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     bv::PpdOptionRows rows(ppd);
     rows.readFrom(&session.ticket());
     rows.writeTo(&session.ticket());
-    rows.updateConflicts(&session.ticket());
+    rows.findConflicts(&session.ticket(), {});
     // The whole pane takes long, and shows nothing without its options.
     if (ppdFindOption(ppd, "BVQuickColor") || ppdFindOption(ppd, "BVImageRGBSource"))
         checkPane(session);

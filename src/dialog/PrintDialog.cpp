@@ -11,6 +11,7 @@
 #include "dialog/PreviewBinding.h"
 #include "dialog/PrintDialogLayout.h"
 #include "dialog/WindowSettings.h"
+#include "options/ConflictBar.h"
 #include "presets/PresetMenu.h"
 #include "preview/PagePreview.h"
 #include "printers/PaneSurvey.h"
@@ -33,6 +34,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
 #include <QScreen>
@@ -139,6 +141,7 @@ void PrintDialog::connectParts()
     connect(m_parts->presets, &PresetMenu::done, this, &PrintDialog::note);
     connect(m_parts->presets, &PresetMenu::used, this, &PrintDialog::refreshSummary);
     m_parts->defaults->setVisible(m_start.withUserDefaults);
+    connect(m_parts->conflicts, &ConflictBar::settled, this, &PrintDialog::settle);
     connect(m_parts->print, &QPushButton::clicked, this, &PrintDialog::print);
     connect(m_parts->sending, &SendingRow::stopped, this, &PrintDialog::stopSending);
     connect(m_sending.get(), &JobSending::sent, this, &PrintDialog::finish);
@@ -422,7 +425,9 @@ void PrintDialog::offerPresets()
     m_parts->presets->setTarget({m_current->queue().name, queueTitle(m_current->queue()),
                                  QString::fromUtf8(m_current->ppd()->nickname), m_current->started(),
                                  [room = m_current] { return room->presetChoices(); },
-                                 [room = m_current](const PrintDictionary &options) { return room->use(options); },
+                                 [room = m_current](const PrintDictionary &options, const QString &origin) {
+                                     return room->use(options, origin);
+                                 },
                                  [this, queue = m_current->queue().name] { return m_remembered.load(queue); }});
     if (m_start.preset.isEmpty() || m_current->queue().name != m_start.queue)
         return;
@@ -479,6 +484,7 @@ void PrintDialog::refreshSummary()
         if (const Result<PrintDictionary> choices = m_current->presetChoices())
             m_parts->presets->follow(choices.value());
     }
+    m_parts->conflicts->showConflicts(m_current ? m_current->conflicts() : std::vector<Conflict>());
     if (m_current && m_current->pane())
         m_parts->summary->showSummary(m_current->summary(), m_current->defaultSummary(),
                                       summaryHints(m_current->pane()));
@@ -548,7 +554,7 @@ void PrintDialog::restoreDefaults()
 void PrintDialog::print()
 {
     updateReadiness();
-    if (!m_parts->print->isEnabled())
+    if (!m_parts->print->isEnabled() || !mayPrintConflicts())
         return;
     m_parts->message->clear();
     const QStringList documents = m_parts->documents->documents();
@@ -561,6 +567,36 @@ void PrintDialog::print()
     m_gate->close({m_parts->sending->stopButton(), m_parts->cancel});
     m_parts->sending->stopButton()->setFocus();
     updateReadiness();
+}
+
+bool PrintDialog::mayPrintConflicts()
+{
+    refreshSummary(); // the last change may not have been looked at yet
+    const QString sentences = m_parts->conflicts->text();
+    if (sentences.isEmpty() || sentences == m_asked)
+        return true;
+    QMessageBox question(QMessageBox::Warning, tr("Print"), QString(), QMessageBox::Cancel, this);
+    question.setObjectName(QStringLiteral("conflictQuestion"));
+    question.setTextFormat(Qt::PlainText);
+    question.setText(
+        tr("Some choices do not go together, and the printer would not follow all of them:\n\n%1\n\nCancel, "
+           "and settle it by the buttons above Print, or print all the same.")
+            .arg(sentences));
+    const QPushButton *print = question.addButton(tr("Print &Anyway"), QMessageBox::AcceptRole);
+    question.setDefaultButton(QMessageBox::Cancel);
+    question.exec();
+    if (question.clickedButton() != print)
+        return false;
+    m_asked = sentences;
+    return true;
+}
+
+void PrintDialog::settle(const QString &keyword, const QString &choice)
+{
+    m_current->choose(keyword, choice);
+    refreshSummary();
+    const QList<QWidget *> &further = m_parts->conflicts->buttons();
+    (m_parts->conflicts->isHidden() || further.isEmpty() ? m_parts->print : further.front())->setFocus();
 }
 
 void PrintDialog::stopSending()

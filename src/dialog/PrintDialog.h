@@ -114,6 +114,9 @@ private:
     void surveyOthers();
     void restoreDefaults();
     void print();
+    // False when choices are in conflict and the user does not want to print them so.
+    bool mayPrintConflicts();
+    void settle(const QString &keyword, const QString &choice);
     void stopSending();
     void endSending();
     void finish(const SentJob &job);
@@ -142,6 +145,7 @@ private:
     QTimer m_stepTimer;
     Step m_step = nullptr; // runs when the timer fires
     QString m_noQueue;     // why there is no current queue; empty while unknown
+    QString m_asked;       // the conflicts that the user was asked about and prints all the same
     QString m_openFailure; // why the current queue cannot be opened
     bool m_begun = false;
     bool m_busy = false;

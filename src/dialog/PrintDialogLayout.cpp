@@ -5,6 +5,7 @@
 #include "dialog/DefaultsMenu.h"
 #include "dialog/JobRows.h"
 #include "dialog/WindowSettings.h"
+#include "options/ConflictBar.h"
 #include "options/PpdOptionRows.h"
 #include "platform/PlainTip.h"
 #include "presets/PresetMenu.h"
@@ -96,6 +97,9 @@ PrintDialogLayout::PrintDialogLayout(QDialog *dialog) : QWidget(dialog)
     rows->addLayout(m_middle, 1);
     sending = new SendingRow(this);
     rows->addWidget(sending);
+    conflicts = new ConflictBar(this);
+    connect(conflicts, &ConflictBar::buttonsChanged, this, &PrintDialogLayout::setTabOrders);
+    rows->addWidget(conflicts);
     rows->addLayout(makeButtons(dialog));
     setTabOrders();
 }
@@ -335,8 +339,8 @@ void PrintDialogLayout::setTabOrders()
         setTabOrder(before, widget);
         before = widget;
     }
-    const QList<QWidget *> behind = {
-        wait->skipButton(), summary, sending->stopButton(), restore, defaults, cancel, print};
+    QList<QWidget *> behind = {wait->skipButton(), summary, sending->stopButton()};
+    behind << conflicts->buttons() << restore << defaults << cancel << print;
     before = queues->popUp();
     for (QWidget *widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain()) {
         const bool takesTabs = (widget->focusPolicy() & Qt::TabFocus) != 0;

@@ -13,6 +13,7 @@ class QStackedWidget;
 
 namespace bv {
 
+class ConflictBar;
 class DefaultsMenu;
 class DocumentList;
 class JobRows;
@@ -48,6 +49,7 @@ public:
     QPushButton *print = nullptr;
     ReasonLabel *reason = nullptr;
     SendingRow *sending = nullptr;
+    ConflictBar *conflicts = nullptr;
     WaitPanel *wait = nullptr;
     WhyGreyed *why = nullptr;
 

@@ -2,6 +2,7 @@
 // The steps for one queue: opening, preparing the pane, printing.
 #include "dialog/QueueRoom.h"
 
+#include "options/PaneOptions.h"
 #include "presets/Preset.h"
 #include "queues/PanelLoader.h"
 #include "queues/TicketJson.h"
@@ -57,6 +58,8 @@ void QueueRoom::open(Ppds ppds, bool hasPrinter, const StartChoices &choices)
         m_session->ticket().replace(*choices.ticket);
     m_forPanel = choices.forPanel;
     m_started = choices.words();
+    m_origins = m_session->ticket().entries();
+    m_originSentence = choices.sentence();
     m_rows = new PpdOptionRows(m_rowsPpd->handle());
     m_rows->readFrom(m_session->printSettings());
     m_state = State::Opened;
@@ -151,8 +154,10 @@ Result<PrintDictionary> QueueRoom::presetChoices()
     return presetOptions(ticket());
 }
 
-PresetOutcome QueueRoom::use(const PrintDictionary &options)
+PresetOutcome QueueRoom::use(const PrintDictionary &options, const QString &origin)
 {
+    m_origins = options;
+    m_originSentence = origin;
     m_rows->writeTo(m_session->printSettings());
     PresetOutcome outcome = useChoices(*m_session, m_holder ? &m_holder->panel() : nullptr, options);
     m_rows->readFrom(m_session->printSettings());
@@ -179,12 +184,54 @@ PrintDictionary QueueRoom::summary()
 
 void QueueRoom::updateConflicts()
 {
-    if (!m_rows || !m_rows->hasConstraints())
+    if (!m_rows)
         return;
     // A refusal is ignored here. Before printing the panel is asked again, and then it counts.
     if (m_holder)
         m_holder->panel().saveValuesAndReturnError(nullptr);
-    m_rows->updateConflicts(m_session->printSettings());
+    m_rows->findConflicts(m_session->printSettings(), overrulingChoices(pane()));
+    const std::map<QString, QString> notes = conflictsByOption(m_rows->conflicts());
+    const std::map<QString, QString> origins = originNotes();
+    m_rows->explain(notes, origins);
+    explainPane(pane(), notes, origins);
+}
+
+std::map<QString, QString> QueueRoom::originNotes() const
+{
+    std::map<QString, QString> notes;
+    const ConflictFinder::Choices shown = m_rows->choices();
+    for (const ppd_option_t *option = ppdFirstOption(m_rowsPpd->handle()); option;
+         option = ppdNextOption(m_rowsPpd->handle())) {
+        const QString keyword = QString::fromUtf8(option->keyword);
+        const auto row = shown.find(keyword);
+        const PrintValue ofTicket = row == shown.end() ? ticket().value(keyword) : PrintValue(row->second);
+        const PrintValue before = m_origins.value(keyword);
+        // OPTIONCustom says that something else than a choice of the PPD counts.
+        const PrintValue custom = ticket().value(keyword + QStringLiteral("Custom"));
+        if (!ofTicket.string() || (custom.string() && *custom.string() == u"True"))
+            continue;
+        if (*ofTicket.string() == QString::fromUtf8(option->defchoice))
+            notes[keyword] = tr("The printer's default.");
+        else if (before.string() && *before.string() == *ofTicket.string())
+            notes[keyword] = m_originSentence;
+    }
+    return notes;
+}
+
+void QueueRoom::choose(const QString &keyword, const QString &choice)
+{
+    if (m_rows->choose(keyword, choice) || !m_holder)
+        return;
+    PrintPanel &panel = m_holder->panel();
+    panel.saveValuesAndReturnError(nullptr);
+    PrintDictionary wanted;
+    wanted.setValue(keyword, choice);
+    m_session->ticket().setValue(keyword, choice);
+    putIntoNested(m_session->ticket().entries(), wanted, m_paneKeys);
+    panel.restoreValuesAndReturnError(nullptr);
+    // What is on screen may count no more.
+    if (showsOverruledControls(pane()))
+        enter();
 }
 
 void QueueRoom::choiceMade(const QString &keyword, const QString &choice)
@@ -199,6 +246,7 @@ void QueueRoom::restoreDefaults()
     if (!m_session)
         return;
     m_session->ticket().clear();
+    m_origins = {};
     m_rows->restoreDefaults();
     if (m_holder) {
         m_holder->panel().restoreValuesAndReturnError(nullptr);

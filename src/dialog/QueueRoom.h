@@ -75,8 +75,9 @@ public:
     // The present choices of rows and panel. A failure is a sentence for the user.
     Result<UserDefaults::Options> choices();
     Result<PrintDictionary> presetChoices();
-    // Makes these the choices of rows and panel. Call it in the state Ready.
-    PresetOutcome use(const PrintDictionary &options);
+    // Makes these the choices of rows and panel. `origin` is a sentence that says where they come from; it may be
+    // empty. Call it in the state Ready.
+    PresetOutcome use(const PrintDictionary &options, const QString &origin);
     // What the choices came from when the queue was opened, in a few words.
     const QString &started() const { return m_started; }
 
@@ -89,8 +90,12 @@ public:
     PrintDictionary summary();
     // What the summary says while every setting is as the printer proposes. Empty without a panel.
     const PrintDictionary &defaultSummary() const { return m_defaultSummary; }
-    // Has the panel write its choices into the ticket and checks whether they conflict with the rows.
+    // Has the panel write its choices into the ticket, looks for conflicts, and says at each control what is in
+    // conflict and where choices come from.
     void updateConflicts();
+    std::vector<Conflict> conflicts() const { return m_rows ? m_rows->conflicts() : std::vector<Conflict>(); }
+    // Makes a choice in the rows or in the panel. Both arguments are PPD keywords.
+    void choose(const QString &keyword, const QString &choice);
     // Call this when the user made a choice in the rows. Checks for conflicts again and tells the panel.
     void choiceMade(const QString &keyword, const QString &choice);
     // Empties the ticket and sets panel and rows to their defaults.
@@ -108,12 +113,16 @@ signals:
 private:
     void makePane(PanelLoader &loader);
     void giveChoicesToPanel();
+    // Sentences by keyword that say where the present choices come from.
+    std::map<QString, QString> originNotes() const;
 
     PrintQueue m_queue;
     PrintDictionary m_forPanel; // what the panel has to be given when it is there
     State m_state = State::Listed;
     bool m_isGone = false;
     QString m_started;
+    PrintDictionary m_origins; // the choices that came from somewhere
+    QString m_originSentence;  // and from where
     QString m_paneName;
     QStringList m_paneKeys;
     QString m_noPaneReason;

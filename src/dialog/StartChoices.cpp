@@ -23,6 +23,22 @@ QString StartChoices::words() const
     }
 }
 
+QString StartChoices::sentence() const
+{
+    switch (origin) {
+    case ChoiceOrigin::Given:
+        return PrintDialog::tr("From the ticket that was given.");
+    case ChoiceOrigin::LastJob:
+        return PrintDialog::tr("As in your last job.");
+    case ChoiceOrigin::UserDefaults:
+        return PrintDialog::tr("Your own default.");
+    case ChoiceOrigin::Job:
+        return PrintDialog::tr("As the job was sent.");
+    default:
+        return {};
+    }
+}
+
 namespace {
 
 StartChoices choicesWithoutCaller(const PrintDialogStart &start, const RememberedTickets &remembered,

@@ -10,7 +10,7 @@ namespace bv {
 struct PrintDialogStart;
 
 // Where choices come from.
-enum class ChoiceOrigin { Printer, Given, LastJob, UserDefaults, Job, Preset };
+enum class ChoiceOrigin { Printer, Given, LastJob, UserDefaults, Job };
 
 struct StartChoices
 {
@@ -19,8 +19,9 @@ struct StartChoices
     ChoiceOrigin origin = ChoiceOrigin::Printer;
     QString note; // a sentence for the user; may be empty
 
-    // A few words for a button.
+    // A few words for a button, and a sentence for the tip of a value; that of the printer is empty.
     QString words() const;
+    QString sentence() const;
 };
 
 // The options of a job that exists already come before all else, an instance that the start names before what is

@@ -2,17 +2,18 @@
 // Choices of the PPD's options that do not go together, and how to settle it.
 #pragma once
 
+#include "options/PpdConstraints.h"
+
 #include <QCoreApplication>
 #include <QSet>
 #include <QString>
-#include <array>
 #include <cups/ppd.h>
 #include <map>
 #include <vector>
 
 namespace bv {
 
-// A pair of choices that the PPD's constraints rule out. Keywords are the PPD's, all texts are for the user.
+// Choices that the PPD's constraints rule out together. Keywords are the PPD's, all texts are for the user.
 struct Conflict
 {
     struct Side
@@ -28,8 +29,8 @@ struct Conflict
         QString words; // "Change Resolution to 600 dpi"
     };
 
-    std::array<Side, 2> sides;
-    QString sentence; // "Resolution “1200 dpi” and Economy Print “On” do not go together."
+    std::vector<Side> sides; // two, or more where the PPD names more
+    QString sentence;        // "Resolution “1200 dpi” and Economy Print “On” do not go together."
     std::vector<Way> ways;
 };
 
@@ -40,25 +41,27 @@ class ConflictFinder final
 public:
     using Choices = std::map<QString, QString>; // keywords
 
-    // The PPD is borrowed and may be null. Searches mark choices in it, so no panel may use the same PPD.
+    // The PPD is borrowed and may be null.
     explicit ConflictFinder(ppd_file_t *ppd);
 
     // Whether the PPD has any constraints.
-    bool hasConstraints() const;
+    bool hasConstraints() const { return !m_constraints.isEmpty(); }
     // The name of an option that the window calls otherwise than the PPD does.
     void setTitle(const QString &keyword, const QString &title) { m_titles[keyword] = title; }
 
-    // All conflicts between these choices, each pair once. Options without an entry have their default choices. No way
-    // changes an option in `fixed`, or what is built into the printer.
-    std::vector<Conflict> find(const Choices &choices, const QSet<QString> &fixed = {});
+    // All conflicts between these choices, each set of options once. Options without an entry have their default
+    // choices. No way changes an option in `fixed`, or what is built into the printer.
+    std::vector<Conflict> find(const Choices &choices, const QSet<QString> &fixed = {}) const;
 
 private:
-    void mark(const Choices &choices);
-    Conflict describe(const ppd_option_t &one, const ppd_option_t &other, const QSet<QString> &fixed);
-    std::vector<Conflict::Way> waysOf(const ppd_option_t &changed, const ppd_option_t &other);
+    Conflict describe(const PpdConstraint &broken, const PpdConstraints::ChoiceOf &choiceOf,
+                      const QSet<QString> &fixed) const;
+    const ppd_choice_t *choiceToSettle(const PpdConstraint &broken, const ppd_option_t &changed,
+                                       const PpdConstraints::ChoiceOf &choiceOf) const;
+    Conflict::Way wayTo(const ppd_option_t &changed, const ppd_choice_t &choice) const;
     QString title(const ppd_option_t &option) const;
 
-    ppd_file_t *m_ppd;
+    PpdConstraints m_constraints;
     QSet<QString> m_builtIn;
     std::map<QString, QString> m_titles;
 };

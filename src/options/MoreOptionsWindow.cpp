@@ -23,12 +23,6 @@ QString labelText(QString text)
     return text.replace(u'&', QStringLiteral("&&"));
 }
 
-QString valueOf(const std::map<QString, QString> &texts, const QString &keyword)
-{
-    const auto found = texts.find(keyword);
-    return found == texts.end() ? QString() : found->second;
-}
-
 } // namespace
 
 MoreOptionsWindow::MoreOptionsWindow(const FurtherOptions &options, const QString &title, QWidget *parent)
@@ -85,7 +79,7 @@ void MoreOptionsWindow::showChoices(const std::map<QString, QString> &conflicts,
     for (size_t i = 0; i < m_menus.size(); ++i) {
         OptionMenu &menu = *m_menus[i];
         menu.choose(m_options.entries()[i].choice);
-        menu.explain(valueOf(conflicts, menu.keyword()), valueOf(origins, menu.keyword()));
+        menu.explain(textFor(conflicts, menu.keyword()), textFor(origins, menu.keyword()));
     }
 }
 

@@ -63,10 +63,10 @@ void OptionMenu::explain(const QString &conflict, const QString &origin)
 
 void OptionMenu::showNotes()
 {
-    QStringList notes = {m_conflict, m_origin};
+    QStringList notes = {currentText(), m_conflict, m_origin};
     notes.removeAll(QString());
-    setAccessibleDescription(notes.join(u'\n'));
-    setPlainTip(this, (QStringList(currentText()) + notes).join(u'\n'));
+    setAccessibleDescription(m_conflict);
+    setPlainTip(this, notes.join(u'\n'));
     const int marked = m_conflict.isEmpty() ? -1 : currentIndex();
     if (marked == m_marked)
         return;

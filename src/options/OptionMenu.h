@@ -4,6 +4,7 @@
 
 #include <QComboBox>
 #include <cups/ppd.h>
+#include <map>
 
 namespace bv {
 
@@ -42,6 +43,13 @@ private:
     QString m_origin;
     int m_marked = -1; // the item with the icon
 };
+
+// A text by keyword, or an empty one.
+inline QString textFor(const std::map<QString, QString> &texts, const QString &keyword)
+{
+    const auto found = texts.find(keyword);
+    return found == texts.end() ? QString() : found->second;
+}
 
 // The default choice of an option: its keyword, whether the PPD names it or it is the first one.
 QString defaultChoice(const ppd_option_t &option);

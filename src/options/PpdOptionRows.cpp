@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// Builds the rows from the PPD. Keeps controls, ticket and conflict line consistent.
+// Builds the rows from the PPD. Keeps controls and ticket consistent.
 #include "options/PpdOptionRows.h"
 
 #include "options/MoreOptionsWindow.h"
@@ -7,9 +7,8 @@
 #include "platform/PlainTip.h"
 
 #include <QFormLayout>
-#include <QLabel>
 #include <QPushButton>
-#include <QStyle>
+#include <algorithm>
 
 namespace bv {
 
@@ -37,28 +36,13 @@ const std::vector<RowKind> &rowKinds()
     return kinds;
 }
 
-QString valueOf(const std::map<QString, QString> &texts, const QString &keyword)
-{
-    const auto found = texts.find(keyword);
-    return found == texts.end() ? QString() : found->second;
-}
-
 } // namespace
 
 PpdOptionRows::PpdOptionRows(ppd_file_t *ppd, QWidget *parent)
-    : QWidget(parent), m_ppd(ppd), m_finder(ppd), m_form(new QFormLayout(this)), m_conflict(new QLabel(this)),
-      m_conflictIcon(new QLabel(this)), m_more(new QPushButton(this))
+    : QWidget(parent), m_ppd(ppd), m_finder(ppd), m_form(new QFormLayout(this)), m_more(new QPushButton(this))
 {
     m_form->setContentsMargins(0, 0, 0, 0);
     m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    m_conflict->setObjectName(QStringLiteral("conflictText"));
-    m_conflict->setTextFormat(Qt::PlainText);
-    m_conflict->setWordWrap(true);
-    m_conflict->hide();
-    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    m_conflictIcon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size, size));
-    m_conflictIcon->setAlignment(Qt::AlignTop | Qt::AlignTrailing);
-    m_conflictIcon->hide();
     m_more->setObjectName(QStringLiteral("moreOptions"));
     m_more->setAutoDefault(false);
     m_more->hide();
@@ -73,7 +57,6 @@ PpdOptionRows::PpdOptionRows(ppd_file_t *ppd, QWidget *parent)
         }
     }
     m_form->addRow(m_more);
-    m_form->addRow(m_conflictIcon, m_conflict);
 }
 
 void PpdOptionRows::addRow(const ppd_option_t &option, const QString &label, const QString &name)
@@ -129,7 +112,6 @@ void PpdOptionRows::readFrom(PMPrintSettings settings)
     }
     m_further.readFrom(settings);
     showChanged();
-    updateConflicts(settings);
 }
 
 void PpdOptionRows::writeTo(PMPrintSettings settings) const
@@ -149,16 +131,9 @@ void PpdOptionRows::restoreDefaults()
     showChanged();
 }
 
-ConflictFinder::Choices PpdOptionRows::choices(PMPrintSettings settings) const
+ConflictFinder::Choices PpdOptionRows::choices() const
 {
     ConflictFinder::Choices choices;
-    for (const ppd_option_t *option = ppdFirstOption(m_ppd); option; option = ppdNextOption(m_ppd)) {
-        const QString keyword = QString::fromUtf8(option->keyword);
-        PrintValue value;
-        PMPrintSettingsGetValue(settings, keyword, &value);
-        if (const QString *choice = value.string())
-            choices[keyword] = *choice;
-    }
     for (const OptionMenu *menu : m_menus)
         choices[menu->keyword()] = menu->choice();
     for (const FurtherOptions::Entry &entry : m_further.entries())
@@ -166,26 +141,52 @@ ConflictFinder::Choices PpdOptionRows::choices(PMPrintSettings settings) const
     return choices;
 }
 
-void PpdOptionRows::updateConflicts(PMPrintSettings settings)
+bool PpdOptionRows::choose(const QString &keyword, const QString &choice)
 {
-    const std::vector<Conflict> conflicts =
-        hasConstraints() ? m_finder.find(choices(settings)) : std::vector<Conflict>();
-    QStringList sentences;
-    for (const Conflict &conflict : conflicts)
-        sentences << conflict.sentence;
-    m_conflicts = conflictsByOption(conflicts);
-    m_conflict->setText(sentences.join(u'\n'));
-    m_conflict->setVisible(!sentences.isEmpty());
-    m_conflictIcon->setVisible(!sentences.isEmpty());
+    const auto row = std::find_if(m_menus.begin(), m_menus.end(),
+                                  [&keyword](const OptionMenu *menu) { return menu->keyword() == keyword; });
+    const bool isChosen = row == m_menus.end() ? m_further.choose(keyword, choice) : (*row)->choose(choice);
+    if (!isChosen)
+        return false;
+    showChanged();
+    emit choiceMade(keyword, choice);
+    return true;
+}
+
+void PpdOptionRows::findConflicts(PMPrintSettings settings, const std::map<QString, QString> &overruling)
+{
+    m_conflicts.clear();
+    if (!hasConstraints())
+        return;
+    ConflictFinder::Choices all = choices();
+    for (const ppd_option_t *option = ppdFirstOption(m_ppd); option; option = ppdNextOption(m_ppd)) {
+        const QString keyword = QString::fromUtf8(option->keyword);
+        PrintValue value;
+        PMPrintSettingsGetValue(settings, keyword, &value);
+        if (const QString *choice = value.string())
+            all.try_emplace(keyword, *choice);
+    }
+    QSet<QString> fixed;
+    for (const auto &[keyword, choice] : overruling) {
+        all[keyword] = choice;
+        fixed.insert(keyword);
+    }
+    m_conflicts = m_finder.find(all, fixed);
+}
+
+void PpdOptionRows::explain(const std::map<QString, QString> &conflicts, const std::map<QString, QString> &origins)
+{
+    m_conflictNotes = conflicts;
+    m_originNotes = origins;
     showNotes();
 }
 
 void PpdOptionRows::showNotes()
 {
     for (OptionMenu *menu : m_menus)
-        menu->explain(valueOf(m_conflicts, menu->keyword()), {});
+        menu->explain(textFor(m_conflictNotes, menu->keyword()), textFor(m_originNotes, menu->keyword()));
     if (m_window)
-        m_window->showChoices(m_conflicts, {});
+        m_window->showChoices(m_conflictNotes, m_originNotes);
 }
 
 void PpdOptionRows::showChanged()
@@ -195,11 +196,6 @@ void PpdOptionRows::showChanged()
     setPlainTip(m_more, tr("All other options of this printer"));
     if (m_window)
         showNotes();
-}
-
-QString PpdOptionRows::conflictText() const
-{
-    return m_conflict->text();
 }
 
 QStringList PpdOptionRows::keywords() const

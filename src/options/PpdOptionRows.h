@@ -11,7 +11,6 @@
 #include <QWidget>
 
 class QFormLayout;
-class QLabel;
 class QPushButton;
 
 namespace bv {
@@ -40,10 +39,17 @@ public:
     // Sets every option to the PPD's default.
     void restoreDefaults();
 
-    // Checks the rows against the ticket's other choices. Marks the rows in conflict, and describes the conflicts in a
-    // line below the rows; the line is hidden when there are none.
-    void updateConflicts(PMPrintSettings settings);
-    QString conflictText() const;
+    // Finds the conflicts between the ticket's choices and those of the rows. `overruling` has choices by keyword that
+    // count in place of the ticket's, and that no way out may change.
+    void findConflicts(PMPrintSettings settings, const std::map<QString, QString> &overruling);
+    const std::vector<Conflict> &conflicts() const { return m_conflicts; }
+    // Marks the rows in conflict, and says where choices come from. Both maps have sentences by keyword.
+    void explain(const std::map<QString, QString> &conflicts, const std::map<QString, QString> &origins);
+
+    // All choices of the options here, by keyword.
+    ConflictFinder::Choices choices() const;
+    // Makes a choice as the user would. False if it is none of the options here.
+    bool choose(const QString &keyword, const QString &choice);
     // True if the PPD has any constraints.
     bool hasConstraints() const { return m_finder.hasConstraints(); }
 
@@ -58,22 +64,20 @@ signals:
 private:
     void addRow(const ppd_option_t &option, const QString &label, const QString &name);
     void openWindow();
-    // What the job would contain of these options, and of the ticket's others.
-    ConflictFinder::Choices choices(PMPrintSettings settings) const;
     void showNotes();
     void showChanged();
 
     ppd_file_t *m_ppd;
     ConflictFinder m_finder;
     QFormLayout *m_form;
-    QLabel *m_conflict;
-    QLabel *m_conflictIcon;
     QPushButton *m_more;
     std::vector<OptionMenu *> m_menus;
     FurtherOptions m_further;
     QPointer<MoreOptionsWindow> m_window;
     QString m_printer;
-    std::map<QString, QString> m_conflicts; // sentences by keyword
+    std::vector<Conflict> m_conflicts;
+    std::map<QString, QString> m_conflictNotes; // sentences by keyword
+    std::map<QString, QString> m_originNotes;
 };
 
 } // namespace bv

@@ -36,6 +36,11 @@ inline constexpr char kSummaryNameProperty[] = "bvSummaryName";
 inline constexpr char kSummaryGroupProperty[] = "bvSummaryGroup";
 inline constexpr char kSummaryOffProperty[] = "bvSummaryOff";
 
+// The same for conflicts between options: the PPD keyword of the option that a control holds, and the keyword of the
+// choice that will be sent instead of the control's own, because another control decides (empty: the own one counts).
+inline constexpr char kOptionProperty[] = "bvOption";
+inline constexpr char kOptionInsteadProperty[] = "bvOptionInstead";
+
 // Where a plug-in lies and which language its texts have.
 struct PluginBundle
 {

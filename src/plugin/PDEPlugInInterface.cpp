@@ -185,8 +185,7 @@ void PDEPlugInInterface::constraints()
     if (!pdeMainView) // the joined table points to controls in the view
         return;
     bv::applyOptionRules(compTable.get());
-    switchedOff->update(compTable.get());
-    bv::explainSummaryControls(compTable.get());
+    explain();
 }
 
 void PDEPlugInInterface::selectItem()
@@ -194,8 +193,14 @@ void PDEPlugInInterface::selectItem()
     if (!onColorView)
         return;
     bv::applyOptionRules(onColorView->getControlData());
+    explain();
+}
+
+void PDEPlugInInterface::explain()
+{
     switchedOff->update(compTable.get());
     bv::explainSummaryControls(compTable.get());
+    bv::tellOverruledOptions(compTable.get(), painChange->quickColor(), painChange->economy());
 }
 
 void PDEPlugInInterface::terminate()

@@ -45,6 +45,8 @@ private:
     void myLoad();
     void connectOutlets();
     void connectActions();
+    // Tells users and dialog what the choices mean for the controls.
+    void explain();
     bool hasViews() const { return onColorView && onAdvancedView; }
 
     bv::PrintPanelCallback *pdePluginCallbackObject;

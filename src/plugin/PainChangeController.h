@@ -44,6 +44,10 @@ public:
     // The sum of both panes' record counts, in 16-bit arithmetic.
     int32_t getControlCountEachView() const;
 
+    // The chosen Quick Color, and whether Economy Print is on.
+    int16_t quickColor() const;
+    int16_t economy() const;
+
     // Sets the advanced menus to the choices that Quick Color and Economy imply.
     void changeAdvancedItemAccodingQuickColor();
     void getSummaryAdvancedItemAccodingQuickColor(bv::PrintDictionary *dictionary, bv::PrintArray *array);
@@ -59,6 +63,4 @@ public slots:
 private:
     void show(ControlTableView *shown, ControlTableView *hidden);
     template <typename Call> void advancedThenColor(Call call);
-    int16_t quickColor() const;
-    int16_t economy() const;
 };

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// Tells a dialog by properties of the controls which item of the summary each one stands for (see HostProtocol.h).
+// Tells a dialog by properties of the controls which item of the summary and which option of the PPD each one stands
+// for (see HostProtocol.h).
 #pragma once
 
 #include "common/PDEControlItem.h"
@@ -14,5 +15,9 @@ void nameSummaryControls(PDEControlTable table, const QWidget *view);
 
 // Sets why a setting has no effect, whether its pane has been shown since or not.
 void explainSummaryControls(PDEControlTable table);
+
+// Sets which choices the job will have in place of those in the advanced pane. Arguments as in
+// AdvancedColorOptions::changeItemAccodingQuickColor.
+void tellOverruledOptions(PDEControlTable table, int16_t quickColor, int16_t eco);
 
 } // namespace bv

@@ -94,25 +94,27 @@ void PresetMenu::use(const QString &name)
 {
     const Result<Preset> preset = m_store.load(m_target.queue, name);
     if (preset)
-        apply(preset.value().options, quoted(preset.value().name), preset.value().name);
+        apply(preset.value().options, quoted(preset.value().name), preset.value().name,
+              tr("From the preset “%1”.").arg(preset.value().name));
     else
         emit failed(preset.error());
 }
 
 void PresetMenu::useDefaults()
 {
-    apply({}, tr("Printer's defaults"), {});
+    apply({}, tr("Printer's defaults"), {}, {});
 }
 
 void PresetMenu::useLastTime()
 {
     if (const std::optional<PrintDictionary> ticket = m_target.lastTime())
-        apply(presetOptions(*ticket), tr("As last time"), {});
+        apply(presetOptions(*ticket), tr("As last time"), {}, tr("As in your last job."));
 }
 
-void PresetMenu::apply(const PrintDictionary &options, const QString &what, const QString &preset)
+void PresetMenu::apply(const PrintDictionary &options, const QString &what, const QString &preset,
+                       const QString &origin)
 {
-    const PresetOutcome outcome = m_target.use(options);
+    const PresetOutcome outcome = m_target.use(options, origin);
     setState(preset, what);
     emit used();
     QString sentences = outcome.changed == 0   ? tr("%1: all settings were so already.").arg(what)

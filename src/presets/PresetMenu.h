@@ -28,7 +28,8 @@ public:
         QString model;                                    // of the printer, for the files
         QString started;                                  // what the choices come from at first
         std::function<Result<PrintDictionary>()> choices; // the present ones; a failure is a sentence for the user
-        std::function<PresetOutcome(const PrintDictionary &)> use;
+        // Makes these the choices. The sentence says where they come from, for the tips of values; it may be empty.
+        std::function<PresetOutcome(const PrintDictionary &options, const QString &origin)> use;
         std::function<std::optional<PrintDictionary>()> lastTime; // nothing: no job was printed yet
     };
 
@@ -52,7 +53,7 @@ private:
     void refill();
     void useDefaults();
     void useLastTime();
-    void apply(const PrintDictionary &options, const QString &what, const QString &preset);
+    void apply(const PrintDictionary &options, const QString &what, const QString &preset, const QString &origin);
     void save();
     void rename();
     void remove();

@@ -39,7 +39,6 @@ TEST_F(CalledDialog, ShowsTheProgramsChoicesBeforeWhatIsRemembered)
     PrintDictionary before;
     before.setValue("PageSize", PrintValue("A6"));
     before.setValue("Duplex", PrintValue("DuplexNoTumble"));
-    before.setValue("TPToner", PrintValue("Save"));
     remembered->store("Paper", before);
     DialogCaller caller;
     caller.title = "Program";

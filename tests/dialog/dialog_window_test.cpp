@@ -6,15 +6,18 @@
 #include "widgets/MessageBar.h"
 #include "widgets/SummaryView.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QTest>
+#include <QTimer>
 
 using namespace bv;
 
@@ -137,13 +140,13 @@ TEST_F(Dialog, RemembersChoicesWhenTheJobIsSentButNotOnCancel)
     open();
     EXPECT_EQ(toner()->currentIndex(), 0);
     QTest::keyClick(toner(), Qt::Key_Down);
-    find<QComboBox>("row_PageSize")->setCurrentIndex(1);
+    find<QComboBox>("row_Duplex")->setCurrentIndex(1);
     find<QSpinBox>("copies")->setValue(3);
     ASSERT_TRUE(print());
 
     open({"Paper", std::nullopt, {}});
     EXPECT_EQ(toner()->currentIndex(), 1);
-    EXPECT_EQ(find<QComboBox>("row_PageSize")->currentIndex(), 1);
+    EXPECT_EQ(find<QComboBox>("row_Duplex")->currentIndex(), 1);
     EXPECT_EQ(find<QSpinBox>("copies")->value(), 1);
     EXPECT_FALSE(remembered->load("Second"));
 }
@@ -236,6 +239,8 @@ TEST_F(Dialog, MarksQueuesWithoutPaneInTheBackground)
     EXPECT_TRUE(QTest::qWaitFor([&] { return marked("Plain") && marked("Bare"); }));
     EXPECT_FALSE(marked("Paper"));
     EXPECT_FALSE(marked("Second"));
+    EXPECT_TRUE(printers->itemText(printers->findData("Plain")).contains("no color options"));
+    EXPECT_EQ(printers->itemText(printers->findData("Bare")), "Bare") << "it may be another time";
 }
 
 TEST_F(Dialog, AQueueWithoutDriverCannotPrintOffersARetryAndKeepsItsTicket)
@@ -257,6 +262,9 @@ TEST_F(Dialog, AQueueWithoutDriverCannotPrintOffersARetryAndKeepsItsTicket)
     ASSERT_TRUE(ready.wait());
     EXPECT_EQ(dialog->messageText(), QString());
     EXPECT_TRUE(dialog->hadPrinter());
+    const auto *printers = find<QComboBox>("printer");
+    EXPECT_EQ(printers->currentText(), "Bare");
+    EXPECT_EQ(printers->currentData(Qt::ToolTipRole).toString(), "") << "a stain of the failure";
     EXPECT_EQ(firstOfSummary(), "Toner: Rich");
     ASSERT_TRUE(print());
     EXPECT_EQ(sink.jobs[0].options.count("copies") + sink.jobs[0].options.count("page-ranges"), 0U)
@@ -356,6 +364,52 @@ TEST_F(Dialog, ShowsConflictsBetweenThePaneAndTheRows)
     find<QComboBox>("row_PageSize")->setCurrentIndex(0);
     EXPECT_FALSE(conflict->isVisible());
     EXPECT_TRUE(dialog->printReason().isEmpty());
+}
+
+TEST_F(Dialog, ButtonsSettleAConflictAndPrintAsksOnce)
+{
+    open();
+    find<QComboBox>("row_PageSize")->setCurrentIndex(1);
+    find<QComboBox>("row_Duplex")->setCurrentIndex(1);
+    QTest::keyClick(toner(), Qt::Key_Down);
+    auto *bar = find<QWidget>("conflictBar");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return bar->isVisible(); }));
+    int questions = 0;
+    const auto answer = [&](bool print) {
+        QTimer::singleShot(0, dialog.get(), [&questions, print] {
+            auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            ASSERT_NE(question, nullptr);
+            ++questions;
+            EXPECT_TRUE(question->text().contains("Postcard"));
+            for (QAbstractButton *button : question->buttons())
+                if ((question->buttonRole(button) == QMessageBox::AcceptRole) == print)
+                    button->click();
+        });
+        find<QPushButton>("print")->click();
+    };
+    sink.refusal = "Not now.";
+    answer(false);
+    EXPECT_EQ(dialog->messageText(), QString());
+    answer(true);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return dialog->messageText() == sink.refusal; }));
+    EXPECT_FALSE(print()) << "without another question";
+    EXPECT_EQ(questions, 2);
+    sink.refusal.clear();
+
+    // One after the other, in the rows and in the pane.
+    const auto settle = [&](const QString &keyword) {
+        for (QPushButton *button : bar->findChildren<QPushButton *>("settle_" + keyword))
+            if (!button->isHidden())
+                return button->click();
+        ADD_FAILURE() << keyword.toStdString();
+    };
+    settle("Duplex");
+    EXPECT_EQ(find<QComboBox>("row_Duplex")->currentIndex(), 0);
+    settle("TPToner");
+    EXPECT_EQ(toner()->currentIndex(), 0);
+    EXPECT_TRUE(bar->isHidden());
+    EXPECT_EQ(find<QComboBox>("row_PageSize")->currentIndex(), 1);
+    EXPECT_TRUE(print());
 }
 
 TEST_F(Dialog, EnterPrintsAndEscapeCancels)

@@ -5,9 +5,12 @@
 
 #include "widgets/MessageBar.h"
 
+#include <QApplication>
 #include <QComboBox>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 namespace bvtest {
 namespace {
@@ -37,6 +40,15 @@ TEST_F(ForeignText, IsNeverTakenForMarkup)
     find<QComboBox>("row_PageSize")->setCurrentIndex(1);
     find<QComboBox>("row_Duplex")->setCurrentIndex(1);
     sink.refusal = QString::fromLatin1(kMarkup);
+    EXPECT_EQ(imagesShown(dialog.get()), QStringList());
+    QTimer::singleShot(0, dialog.get(), [] {
+        auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        ASSERT_NE(question, nullptr);
+        EXPECT_EQ(imagesShown(question), QStringList());
+        for (QAbstractButton *button : question->buttons())
+            if (question->buttonRole(button) == QMessageBox::AcceptRole)
+                button->click();
+    });
     find<QPushButton>("print")->click();
     ASSERT_TRUE(QTest::qWaitFor([this] { return dialog->messageText().contains("img"); }));
     EXPECT_EQ(imagesShown(dialog.get()), QStringList());

@@ -2,6 +2,7 @@
 // Options of a PPD in rows and in the window of all others, and the conflicts between them.
 #include "options/ConflictFinder.h"
 #include "options/OptionMenu.h"
+#include "options/PaneOptions.h"
 #include "options/PpdOptionRows.h"
 #include "queues/PpdFile.h"
 #include "queues/Ticket.h"
@@ -121,9 +122,10 @@ TEST_F(Options, AConflictIsFoundOnceWithTheWaysThatSettleIt)
     EXPECT_TRUE(finder.hasConstraints());
     finder.setTitle("PageSize", "Paper size");
     EXPECT_EQ(sentences(finder.find({{"PageSize", "A6"}})), QStringList());
-    EXPECT_EQ(sentences(finder.find({{"PageSize", "A6"}, {"Staple", "True"}})),
-              QStringList{"Paper size “Postcard” and Staples & clips “Yes” do not go together. Change Paper size to A4 "
-                          "paper | Turn Staples & clips off"});
+    EXPECT_EQ(
+        sentences(finder.find({{"PageSize", "A6"}, {"Staple", "True"}})),
+        QStringList{"Staples & clips “Yes” and Paper size “Postcard” do not go together. Turn Staples & clips off | "
+                    "Change Paper size to A4 paper"});
     EXPECT_EQ(sentences(finder.find({{"PageSize", "A6"}, {"Staple", "True"}}, {"PageSize"})).front().count('|'), 0);
     // The printer has no second tray, and no click builds one in.
     EXPECT_EQ(sentences(finder.find({{"InputSlot", "Lower"}})),
@@ -183,6 +185,11 @@ TEST_F(Options, AConflictMarksBothControlsWhereverTheyStand)
     PpdOptionRows rows(ppd());
     rows.offerFurther({}, "Office", &ticket);
     rows.readFrom(&ticket);
+    const auto look = [&rows, &ticket] {
+        rows.findConflicts(&ticket, {});
+        rows.explain(conflictsByOption(rows.conflicts()), {{"InputSlot", "The printer's default."}});
+    };
+    look();
     rows.show();
     rows.findChild<QPushButton *>("moreOptions")->click();
     const std::array marked = {rows.findChild<OptionMenu *>("row_PageSize"),
@@ -192,14 +199,75 @@ TEST_F(Options, AConflictMarksBothControlsWhereverTheyStand)
         EXPECT_TRUE(menu->toolTip().contains("do not go together"));
         EXPECT_FALSE(menu->itemIcon(menu->currentIndex()).isNull());
     }
-    EXPECT_TRUE(rows.findChild<OptionMenu *>("row_InputSlot")->accessibleDescription().isEmpty());
-    marked[0]->choose("A4");
-    rows.updateConflicts(&ticket);
+    const auto *free = rows.findChild<OptionMenu *>("row_InputSlot");
+    EXPECT_TRUE(free->accessibleDescription().isEmpty());
+    EXPECT_EQ(free->toolTip(), "Upper\nThe printer's default.");
+    EXPECT_TRUE(rows.choose("Staple", "False"));
+    EXPECT_FALSE(rows.choose("Pane", "Three"));
+    look();
     for (const OptionMenu *menu : marked) {
         EXPECT_EQ(menu->accessibleDescription(), QString());
         for (int item = 0; item < menu->count(); ++item)
             EXPECT_TRUE(menu->itemIcon(item).isNull());
     }
+}
+
+TEST_F(Options, OnlyChoicesOfOneRuleAreSaidToConflict)
+{
+    constexpr char kRules[] = R"ppd(*cupsUIConstraints bent: "*PageSize A6 *Fold"
+*cupsUIConstraints film: "*PageSize A6 *MediaType Film *InputSlot Lower"
+)ppd";
+    const auto text = PpdText::from(QByteArray(kPpd) + kRules, "rules.ppd");
+    ASSERT_TRUE(text);
+    const Result<PpdFile> file = PpdFile::open(text.value());
+    ASSERT_TRUE(file);
+    const ConflictFinder finder(file.value().handle());
+    // PageSize stands in three rules that are broken; two options of different rules go together.
+    EXPECT_THAT(
+        sentences(finder.find(
+            {{"PageSize", "A6"}, {"Staple", "True"}, {"Fold", "Half"}, {"MediaType", "Film"}, {"InputSlot", "Lower"}})),
+        testing::ElementsAre("Media Size “Postcard” and Fold “In half” do not go together. "
+                             "Change Media Size to A4 paper | Change Fold to None",
+                             "Media Size “Postcard”, Stock “Film” and Slot “Lower” do not go together. "
+                             "Change Media Size to A4 paper | Change Stock to Plain | Change Slot to Upper",
+                             "Staples & clips “Yes” and Media Size “Postcard” do not go together. "
+                             "Turn Staples & clips off | Change Media Size to A4 paper",
+                             "Slot “Lower” and Second tray “Not Installed” do not go together. "
+                             "Change Slot to Upper"));
+    EXPECT_EQ(finder.find({{"PageSize", "A6"}, {"Fold", "None"}, {"MediaType", "Film"}}).size(), 0U);
+}
+
+TEST_F(Options, WhatAnotherControlDecidesCountsAndIsNoWayOut)
+{
+    Ticket ticket;
+    ticket.setValue("Pane", "One");
+    PpdOptionRows rows(ppd());
+    rows.offerFurther({"Pane"}, "Office", &ticket);
+    rows.choose("Fold", "Half");
+    rows.findConflicts(&ticket, {});
+    EXPECT_EQ(rows.conflicts().size(), 0U);
+    rows.findConflicts(&ticket, {{"Pane", "Two"}});
+    ASSERT_EQ(rows.conflicts().size(), 1U);
+    ASSERT_EQ(rows.conflicts()[0].ways.size(), 1U);
+    EXPECT_EQ(rows.conflicts()[0].ways[0].keyword, "Fold");
+}
+
+TEST_F(Options, TipsOfAPanelKeepItsOwnWords)
+{
+    QWidget view;
+    auto *control = new QPushButton(&view);
+    control->setProperty("bvOption", "Pane");
+    control->setToolTip("Own.");
+    explainPane(&view, {{"Pane", "Conflict."}}, {{"Pane", "Origin."}});
+    EXPECT_EQ(control->toolTip(), "Own.\nConflict.\nOrigin.");
+    EXPECT_EQ(control->accessibleDescription(), "Conflict.");
+    control->setToolTip("Greyed.");
+    control->setAccessibleDescription("Greyed.");
+    explainPane(&view, {{"Pane", "Conflict."}}, {});
+    EXPECT_EQ(control->toolTip(), "Greyed.\nConflict.");
+    explainPane(&view, {}, {});
+    EXPECT_EQ(control->toolTip(), "Greyed.");
+    EXPECT_EQ(control->accessibleDescription(), "Greyed.");
 }
 
 } // namespace
