@@ -93,6 +93,13 @@ void chooseGray(PrintDialog &dialog)
     find<QCheckBox>(dialog, "check_ColorAsGrayscale")->click();
 }
 
+void chooseInConflict(PrintDialog &dialog)
+{
+    auto *resolution = find<QComboBox>(dialog, "row_Resolution");
+    resolution->setCurrentIndex(resolution->findData(QStringLiteral("1200dpi")));
+    find<QCheckBox>(dialog, "check_EconomyPrint")->click();
+}
+
 void openMenu(PrintDialog &dialog)
 {
     dialog.parts().queues->popUp()->showPopup();
@@ -111,6 +118,7 @@ const std::vector<Kind> kKinds = {
     {.name = "default"},
     {.name = "manual",        .use = chooseManual},
     {.name = "gray",          .use = chooseGray},
+    {.name = "conflict",      .use = chooseInConflict},
     {.name = "waiting",       .isWaiting = true},
     {.name = "hundred-pages", .pages = 100},
     {.name = "messages",      .use = failThrice},
@@ -245,6 +253,8 @@ int take(const Kind &kind, const QString &path, QApplication &application)
         kind.use(dialog);
     if (!dialog.parts().preview->isFolded() && shown.isEmpty())
         shown.wait(10000);
+    constexpr int kSettled = 200; // milliseconds: scroll bars and columns find their places
+    QTest::qWait(kSettled);
     return save(dialog, path) ? 0 : 1;
 }
 
