@@ -45,6 +45,7 @@ constexpr int kPreviewLines = 14;
 // Widths in average characters.
 constexpr int kSideCharacters = 44;       // the side, at least
 constexpr int kWidestSideCharacters = 58; // the side, at most
+constexpr int kSummaryLines = 5;          // heading and rows of the summary below the settings, at least
 constexpr int kSummaryCharacters = 44;    // the summary, when it is beside the pane
 constexpr int kPaneCharacters = 66;       // the pane needs this much before the summary may be beside it
 
@@ -137,9 +138,10 @@ QWidget *PrintDialogLayout::makeSummary()
 {
     m_summaryBox = new QWidget(this);
     summary = new SummaryView(m_summaryBox);
-    summary->setMinimumHeight(fontMetrics().height() * 5);
     summary->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     m_summaryBox->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
+    // On a small screen the settings scroll rather than leave no room for it.
+    m_summaryBox->setMinimumHeight(fontMetrics().height() * kSummaryLines);
     auto *label = heading(tr("S&ummary"), m_summaryBox);
     label->setBuddy(summary);
     auto *box = column(m_summaryBox);
@@ -272,10 +274,12 @@ void PrintDialogLayout::placeSummary()
     m_summaryAside = aside;
     if (aside) {
         m_sideColumn->removeWidget(m_summaryBox);
+        m_summaryBox->setMinimumHeight(0);
         m_summaryBox->setFixedWidth(summaryWidth);
         m_middle->addWidget(m_summaryBox);
     } else {
         m_middle->removeWidget(m_summaryBox);
+        m_summaryBox->setMinimumHeight(fontMetrics().height() * kSummaryLines);
         m_summaryBox->setMinimumWidth(0);
         m_summaryBox->setMaximumWidth(QWIDGETSIZE_MAX);
         m_sideColumn->insertWidget(1, m_summaryBox, 1);

@@ -100,6 +100,11 @@ TEST_F(DialogPreview, StaysFoldedOnceItWasFolded)
     dialog->resize(1024, 600);
     QCoreApplication::processEvents();
     EXPECT_TRUE(preview().isFolded());
+    // And the settings leave the summary some: this is a screen of 1024 by 600 pixels at 150 %.
+    dialog->resize(682, 400);
+    QCoreApplication::processEvents();
+    const auto *summary = find<QWidget>("summaryView");
+    EXPECT_GT(summary->visibleRegion().boundingRect().height(), 2 * summary->fontMetrics().height());
 }
 
 TEST_F(DialogPreview, KnowsPaperAndGrayFromTheJobsOptions)
