@@ -3,7 +3,6 @@
 // of the test's own.
 
 #include <QDBusConnection>
-#include <QDBusInterface>
 #include <QDBusMessage>
 #include <QDBusReply>
 #include <QDBusVariant>
@@ -73,30 +72,33 @@ protected:
         environment.insert("DBUS_SESSION_BUS_ADDRESS", address);
         start(m_launcher, QLatin1String(kLauncher), {"--launch-immediately"});
         const QDBusConnection session = QDBusConnection::connectToBus(address, "reader's session");
-        QDBusInterface launcher("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", session);
         QDBusReply<QString> accessibility;
         ASSERT_TRUE(QTest::qWaitFor(
             [&] {
-                accessibility = launcher.call("GetAddress");
+                accessibility = session.call(
+                    QDBusMessage::createMethodCall("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress"));
                 return accessibility.isValid();
             },
             kPatience));
         bus = QDBusConnection::connectToBus(accessibility.value(), "reader");
         ASSERT_TRUE(bus.isConnected());
-        QDBusInterface registry("org.a11y.atspi.Registry", "/org/a11y/atspi/registry", "org.a11y.atspi.Registry", bus);
-        ASSERT_NE(registry.call("RegisterEvent", "object:", QStringList(), QString()).type(),
-                  QDBusMessage::ErrorMessage);
+        QDBusMessage listen = QDBusMessage::createMethodCall("org.a11y.atspi.Registry", "/org/a11y/atspi/registry",
+                                                             "org.a11y.atspi.Registry", "RegisterEvent");
+        listen.setArguments({QStringLiteral("object:"), QStringList(), QString()});
+        ASSERT_NE(bus.call(listen).type(), QDBusMessage::ErrorMessage);
         ASSERT_TRUE(bus.connect({}, {}, "org.a11y.atspi.Event.Object", "StateChanged", &listener,
                                 SLOT(stateChanged(QDBusMessage))));
     }
 
     void TearDown() override
     {
+        window.terminate();
+        window.waitForFinished();
         bus = QDBusConnection(QString());
         QDBusConnection::disconnectFromBus("reader");
         QDBusConnection::disconnectFromBus("reader's session");
         // The accessibility bus ends with its launcher, and that with the session's bus.
-        for (QProcess *program : {&window, &m_bus, &m_launcher, &m_display}) {
+        for (QProcess *program : {&m_bus, &m_launcher, &m_display}) {
             program->terminate();
             if (program->state() != QProcess::NotRunning)
                 program->waitForFinished();
