@@ -49,8 +49,7 @@ QString problemOf(const ServerAnswer &answer, int id)
         return answer.problem;
     if (answer.status() == IPP_STATUS_ERROR_NOT_FOUND)
         return tr("The print server %1 has no job %2. It may have been printed long ago.")
-            .arg(QString::fromUtf8(cupsServer()))
-            .arg(id);
+            .arg(QString::fromUtf8(cupsServer()), QString::number(id));
     return tr("The print server does not tell about job %1: %2.").arg(id).arg(answer.words());
 }
 

@@ -51,7 +51,7 @@ QString refusalOf(const ServerAnswer &answer, int id)
 {
     return answer.message
                ? tr("The print server refuses to change job %1, which stays held: %2.").arg(id).arg(answer.words())
-               : tr("%1 Job %2 stays held.").arg(answer.problem).arg(id);
+               : tr("%1 Job %2 stays held.").arg(answer.problem, QString::number(id));
 }
 
 } // namespace

@@ -77,8 +77,9 @@ QString checkRange(const JobOptions &options, const QStringList &documents, cons
     if (!pages || farthest <= *pages)
         return {};
     const QString name = QFileInfo(documents.first()).fileName();
-    return *pages == 1 ? tr("%1 has 1 page; there is no page %2.").arg(name).arg(farthest)
-                       : tr("%1 has %2 pages; there is no page %3.").arg(name).arg(*pages).arg(farthest);
+    const QString wish = QString::number(farthest);
+    return *pages == 1 ? tr("%1 has 1 page; there is no page %2.").arg(name, wish)
+                       : tr("%1 has %2 pages; there is no page %3.").arg(name, QString::number(*pages), wish);
 }
 
 Result<JobRequest> prepareJob(QueueSession &session, PrintPanel *panel, const QStringList &documents,

@@ -117,9 +117,10 @@ void PresetMenu::apply(const PrintDictionary &options, const QString &what, cons
     const PresetOutcome outcome = m_target.use(options, origin);
     setState(preset, what);
     emit used();
-    QString sentences = outcome.changed == 0   ? tr("%1: all settings were so already.").arg(what)
-                        : outcome.changed == 1 ? tr("%1: one setting changed.").arg(what)
-                                               : tr("%1: %2 settings changed.").arg(what).arg(outcome.changed);
+    QString sentences = outcome.changed == 0 ? tr("%1: all settings were so already.").arg(what)
+                        : outcome.changed == 1
+                            ? tr("%1: one setting changed.").arg(what)
+                            : tr("%1: %2 settings changed.").arg(what, QString::number(outcome.changed));
     if (!outcome.misfits.isEmpty()) {
         sentences += u'\n' + tr("Not used:") + u'\n' + outcome.misfits.mid(0, kMostMisfits).join(u'\n');
         if (const qsizetype more = outcome.misfits.size() - kMostMisfits; more > 0)

@@ -125,7 +125,7 @@ QString PresetStore::freeName(const QString &queue, const QString &name) const
 {
     QString free = name;
     for (int number = 2; contains(queue, free); ++number)
-        free = QStringLiteral("%1 %2").arg(name).arg(number);
+        free = QStringLiteral("%1 %2").arg(name, QString::number(number));
     return free;
 }
 

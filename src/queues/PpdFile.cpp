@@ -152,7 +152,7 @@ Result<PpdFile> PpdFile::open(const PpdText &text)
         const ppd_status_t status = ppdLastError(&line);
         const QString reason = QString::fromUtf8(ppdErrorString(status));
         return Ppd::failure(status > PPD_ALLOC_ERROR && line > 0
-                                ? tr("%1 cannot be used: %2, line %3.").arg(text.name, reason).arg(line)
+                                ? tr("%1 cannot be used: %2, line %3.").arg(text.name, reason, QString::number(line))
                                 : tr("%1 cannot be read: %2.").arg(text.name, reason));
     }
     PpdFile ppd(file);

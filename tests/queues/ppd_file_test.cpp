@@ -84,6 +84,10 @@ TEST_F(PpdFileTest, AFileThatIsNotAPpdIsRefusedByName)
 {
     EXPECT_THAT(open("%PDF-1.4\n").error().toStdString(), HasSubstr("test.ppd"));
     EXPECT_THAT(open(kHead + "*OpenUI *A: PickOne\n*OpenUI\n").error().toStdString(), HasSubstr("test.ppd"));
+    QFile odd(m_folder.filePath("50%1.ppd"));
+    ASSERT_TRUE(odd.open(QIODevice::WriteOnly) && odd.write("%PDF-1.4\n") > 0);
+    odd.close();
+    EXPECT_THAT(PpdFile::open(odd.fileName()).error().toStdString(), HasSubstr("50%1.ppd cannot be used"));
     EXPECT_THAT(PpdFile::open(m_folder.path()).error().toStdString(), HasSubstr("no file"));
     EXPECT_FALSE(PpdFile::open(m_folder.filePath("missing.ppd")));
 }
