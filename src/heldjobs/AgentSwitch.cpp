@@ -8,7 +8,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
 #include <cstdio>
 #include <fcntl.h>
 
@@ -99,12 +98,9 @@ QString agentAutostartFile()
 QString switchAgentOn(const QString &program)
 {
     const QString path = agentAutostartFile();
-    const QByteArray text = autostartText(program);
-    QSaveFile file(path);
-    if (QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) && file.write(text) == text.size() &&
-        file.commit())
-        return {};
-    return tr("The file %1 cannot be written: %2.").arg(path, file.errorString());
+    QString error;
+    return storeFile(path, autostartText(program), &error) ? QString()
+                                                           : tr("The file %1 cannot be written: %2.").arg(path, error);
 }
 
 QString switchAgentOff()

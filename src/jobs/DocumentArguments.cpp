@@ -3,6 +3,7 @@
 #include "jobs/DocumentArguments.h"
 
 #include "platform/FileDescriptor.h"
+#include "queues/StateFolder.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -74,7 +75,7 @@ Result<QString> DocumentArguments::keepInput()
     char bytes[65536];
     ssize_t count = 0;
     while ((count = readSome(STDIN_FILENO, bytes)) > 0)
-        if (file.write(bytes, count) != count)
+        if (!writeWhole(file, {bytes, size_t(count)}))
             return Path::failure(cannot.arg(QDir::tempPath(), file.errorString()));
     if (count < 0)
         return Path::failure(

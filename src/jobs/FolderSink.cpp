@@ -29,7 +29,8 @@ QString writeOptions(const JobOptions &options, const QString &path)
         object.insert(key, value);
     QFile file(path);
     const QByteArray json = QJsonDocument(object).toJson();
-    if (!file.open(QIODevice::WriteOnly) || file.write(json) != json.size() || !file.flush())
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||
+        !writeWhole(file, {json.constData(), size_t(json.size())}))
         return tr("%1 cannot be written: %2.").arg(path, file.errorString());
     return {};
 }
@@ -42,7 +43,7 @@ QString copyDocument(const QString &path, const QString &target, CallControl &co
     QFile copy(target);
     bool written = copy.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered);
     const auto write = [&](std::span<const char> bytes) {
-        written = copy.write(bytes.data(), qint64(bytes.size())) == qint64(bytes.size());
+        written = writeWhole(copy, bytes);
         return written;
     };
     QString error = written ? document.value().readAll(control, write) : QString();

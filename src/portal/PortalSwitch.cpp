@@ -2,12 +2,13 @@
 // Writes and removes the user's own description of how the portal is started.
 #include "portal/PortalSwitch.h"
 
+#include "queues/StateFolder.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QSaveFile>
 
 namespace bv {
 
@@ -95,11 +96,9 @@ Switched PortalSwitch::switchOn() const
                        "Exec=/bin/sh -c 'XDG_CURRENT_DESKTOP=\"bvprint:$XDG_CURRENT_DESKTOP\" exec %1'\n"
                        "AssumedAppArmorLabel=unconfined\n")
             .arg(command);
-    QSaveFile file(m_file);
-    const QByteArray bytes = kMark + text.toUtf8();
-    if (!QDir().mkpath(QFileInfo(m_file).path()) || !file.open(QIODevice::WriteOnly) ||
-        file.write(bytes) != bytes.size() || !file.commit())
-        return Switched::failure(tr("%1 cannot be written: %2.").arg(m_file, file.errorString()));
+    QString error;
+    if (!storeFile(m_file, kMark + text.toUtf8(), &error))
+        return Switched::failure(tr("%1 cannot be written: %2.").arg(m_file, error));
     return tr("Programs that print through the portal show this dialog from your next login on.");
 }
 

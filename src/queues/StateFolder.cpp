@@ -43,12 +43,24 @@ QString safeFileName(const QString &text)
     return QString::fromLatin1(name);
 }
 
+bool writeWhole(QFileDevice &file, std::span<const char> bytes)
+{
+    while (!bytes.empty()) {
+        const qint64 written = file.write(bytes.data(), qint64(bytes.size()));
+        if (written <= 0)
+            return false;
+        bytes = bytes.subspan(size_t(written));
+    }
+    return true;
+}
+
 bool storeFile(const QString &path, const QByteArray &bytes, QString *error)
 {
     QSaveFile file(path);
-    // Flushed first, since commit() does not see that a write of its own fails.
-    const bool isStored = QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) &&
-                          file.write(bytes) == bytes.size() && file.flush() && file.commit();
+    // Unbuffered, since commit() does not see that a write of its own fails.
+    const bool isStored = QDir().mkpath(QFileInfo(path).path()) &&
+                          file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+                          writeWhole(file, {bytes.constData(), size_t(bytes.size())}) && file.commit();
     if (!isStored)
         *error = file.errorString();
     return isStored;

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFileDevice>
 #include <QString>
+#include <span>
 
 namespace bv {
 
@@ -15,6 +17,10 @@ QString configFolder();
 
 // A name for a file, without suffix, that is safe for any text and different for each.
 QString safeFileName(const QString &text);
+
+// Writes all bytes to a file that was opened with QIODevice::Unbuffered. False on a failure; errorString() of the file
+// then holds the system's words. QFile's own write() has none when the disk becomes full in the middle of it.
+bool writeWhole(QFileDevice &file, std::span<const char> bytes);
 
 // Writes a whole file, or leaves it as it was. Makes its folder. On a failure *error receives the system's words.
 bool storeFile(const QString &path, const QByteArray &bytes, QString *error);

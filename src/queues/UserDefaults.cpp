@@ -12,7 +12,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
+#include <QFileInfo>
 #include <algorithm>
 #include <cups/cups.h>
 
@@ -167,11 +167,9 @@ QString write(const QueueInstance &of, const QByteArray &options)
     }
     if (first == lines.end() && !options.isEmpty())
         put("Dest " + name + ' ' + options);
-    QSaveFile file(path);
-    if (QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) && file.write(text) == text.size() &&
-        file.commit())
-        return {};
-    return tr("Your defaults could not be written: %1: %2.").arg(path, file.errorString());
+    QString error;
+    return storeFile(path, text, &error) ? QString()
+                                         : tr("Your defaults could not be written: %1: %2.").arg(path, error);
 }
 
 bool isInstanceName(const QString &text)

@@ -7,6 +7,7 @@
 #include "jobs/StandardAttributes.h"
 #include "queues/PpdFile.h"
 #include "queues/TicketJson.h"
+#include "support/FileSizeLimit.h"
 
 #include <QDir>
 #include <QFile>
@@ -114,6 +115,15 @@ TEST(FolderSink, LeavesNoFolderOfAJobThatFailed)
         bv::CallControl control;
         EXPECT_FALSE(sink.submit({"Q", "t", {folder.filePath("a.txt"), folder.filePath(bad)}, {}}, control)) << bad;
     }
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(QByteArray(3000, 'x')) == 3000);
+    file.close();
+    for (const rlim_t room : {1000, 10}) { // for the options and a part of the document; for a part of the options
+        const bvtest::FileSizeLimit full(room);
+        bv::CallControl control;
+        const auto sent = sink.submit({"Q", "t", {folder.filePath("a.txt")}, {{"keyword", "value"}}}, control);
+        ASSERT_FALSE(sent);
+        EXPECT_THAT(sent.error().toStdString(), ::testing::EndsWith(": File too large."));
+    }
     bv::CallControl canceled;
     canceled.cancel();
     EXPECT_FALSE(sink.submit({"Q", "t", {folder.filePath("a.txt")}, {}}, canceled));
@@ -143,6 +153,8 @@ TEST(PageRanges, AreCheckedAgainstThePages)
         EXPECT_EQ(bv::checkRange(options, {"/x/s.pdf"}, {}), QString()) << "no count is known";
         EXPECT_EQ(bv::checkRange(options, {"a", "b"}, four).isEmpty(), options.empty());
     }
+    EXPECT_EQ(bv::checkRange({{"page-ranges", "9"}}, {"/x/50%1.pdf"}, four),
+              "50%1.pdf has 4 pages; there is no page 9.");
 }
 
 // Each text with the resulting option; an empty option means that the text is refused.

@@ -4,6 +4,8 @@
 #include "queues/RememberedTickets.h"
 #include "queues/SessionStart.h"
 #include "queues/StateFolder.h"
+#include "queues/UserDefaults.h"
+#include "support/FileSizeLimit.h"
 
 #include <QDir>
 #include <QFile>
@@ -108,6 +110,29 @@ TEST(RememberedTickets, PutAnUnreadableFileAside)
         EXPECT_FALSE(QFile::exists(path));
         EXPECT_TRUE(QFile::exists(path + ".unreadable"));
     }
+}
+
+TEST(UserFiles, StayAsTheyWereWhereTheDiskIsFull)
+{
+    const QTemporaryDir home;
+    const QByteArray before = qgetenv("HOME");
+    qputenv("HOME", home.path().toUtf8());
+    const QString file = home.filePath(".cups/lpoptions");
+    const QByteArray old = "Dest other x=" + QByteArray(3000, 'y') + '\n';
+    QString error;
+    ASSERT_TRUE(bv::storeFile(file, old, &error)) << error.toStdString();
+    {
+        const bvtest::FileSizeLimit full(1000);
+        EXPECT_FALSE(bv::storeFile(file, QByteArray(3000, 'z'), &error));
+        EXPECT_EQ(error, "File too large");
+        const bv::UserDefaults defaults(home.filePath("state"));
+        EXPECT_TRUE(defaults.store({"Q", {}}, {{"a", "b"}}).endsWith(": File too large."));
+    }
+    qputenv("HOME", before);
+    QFile stored(file);
+    ASSERT_TRUE(stored.open(QIODevice::ReadOnly));
+    EXPECT_EQ(stored.readAll(), old);
+    EXPECT_EQ(QDir(home.filePath(".cups")).entryList(QDir::Files), QStringList("lpoptions"));
 }
 
 } // namespace
