@@ -101,6 +101,9 @@ Result<int> createJob(ServerConnection &server, const JobRequest &job, const Que
     server.setPatience(kPatience);
     const ServerAnswer answer = server.ask(request);
     server.setPatience(std::chrono::milliseconds(0));
+    // The server may have the job all the same. Without its documents it is given up there after a while.
+    if (!answer.message)
+        return Result<int>::failure(answer.problem + u' ' + tr("Nothing was printed."));
     if (!answer.isGood())
         return Result<int>::failure(problemOf(answer, job.queue, job.title));
     ipp_attribute_t *number = ippFindAttribute(answer.message.get(), "job-id", IPP_TAG_INTEGER);

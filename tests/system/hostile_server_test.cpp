@@ -97,7 +97,7 @@ INSTANTIATE_TEST_SUITE_P(Servers, Hostile, ::testing::Values(
     Row{{"ppd=cut"},                          "broke off its answer"},
     Row{{"ppd=huge"},                         "larger than 8 MB"},
     Row{{"ppd=dribbles"},                     kSilent},
-    Row{{"create=unreadable"},                kUnreadable,                  1, 0},
+    Row{{"create=unreadable"},                "that cannot be read. Nothing was printed.", 1, 0},
     Row{{"create=refused"},                   "QL70 refused the job: No.",  1, 0},
     Row{{"send=refused"},                     "QL70 refused the job: No.",  1, 1},
     Row{{"send=closes"},                      "did not confirm it. The job was canceled", 1, 1},
