@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// dialog_writer ticket FOLDER TEXT: remembers a choice. dialog_writer job FOLDER DOCUMENT: stores a job. The dialog's
-// own code, in a program that a test can stop at any call. Exit status: 0 done, 1 failed.
+// dialog_writer ticket FOLDER TEXT: remembers a choice. dialog_writer defaults FOLDER TEXT: makes a choice a default of
+// the user whose home the folder is. dialog_writer job FOLDER DOCUMENT: stores a job. The dialog's own code, in a
+// program that a test can stop at any call. Exit status: 0 done, 1 failed.
 #include "jobs/FolderSink.h"
 #include "queues/RememberedTickets.h"
+#include "queues/UserDefaults.h"
 
 #include <QCoreApplication>
 #include <cstdio>
@@ -17,6 +19,11 @@ int main(int argc, char **argv)
         bv::PrintDictionary ticket;
         ticket.setValue(QStringLiteral("Choice"), words[3]);
         return bv::RememberedTickets(words[2]).store(QStringLiteral("QL70"), ticket) ? 0 : 1;
+    }
+    if (words[1] == QStringLiteral("defaults")) {
+        qputenv("HOME", words[2].toUtf8());
+        const bv::UserDefaults defaults(words[2]);
+        return defaults.store({QStringLiteral("QL70"), {}}, {{QStringLiteral("Choice"), words[3]}}).isEmpty() ? 0 : 1;
     }
     bv::CallControl control;
     bv::JobRequest request;

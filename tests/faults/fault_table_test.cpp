@@ -188,7 +188,10 @@ private:
 class DialogSequence : public Sequence
 {
 public:
-    DialogSequence(FaultTable &test, bool job, bool hasOld) : m_test(test), m_job(job), m_hasOld(hasOld) {}
+    // What it writes: "ticket", "defaults" or "job".
+    DialogSequence(FaultTable &test, std::string what, bool hasOld)
+        : m_test(test), m_what(std::move(what)), m_job(m_what == "job"), m_hasOld(hasOld)
+    {}
 
     std::string folder() override { return m_test.real("/dialog"); }
     void prepare() override
@@ -206,9 +209,15 @@ public:
             return whole("/dialog/job-1") ? "" : "success without a whole job";
         if (m_job)
             return ended || !std::filesystem::exists(m_test.real("/dialog/job-1")) ? "" : "half of a job stays";
-        const std::string now = m_test.contents("/dialog/QL70.json").value_or("");
-        const bool isNew = now.find("\"new\"") != now.npos && now.ends_with("}\n");
-        const bool isOld = m_hasOld ? now.find("\"old\"") != now.npos && now.ends_with("}\n") : now.empty();
+        const bool defaults = m_what == "defaults";
+        const std::string now =
+            m_test.contents(defaults ? "/dialog/.cups/lpoptions" : "/dialog/QL70.json").value_or("");
+        const auto holds = [&](const std::string &text) {
+            return defaults ? now == "Dest QL70 Choice=" + text + "\n"
+                            : now.find('"' + text + '"') != now.npos && now.ends_with("}\n");
+        };
+        const bool isNew = holds("new");
+        const bool isOld = m_hasOld ? holds("old") : now.empty();
         if (!isNew && !isOld)
             return "torn";
         return succeeded && !isNew ? "success without the new choice" : "";
@@ -229,7 +238,7 @@ private:
         all.program = BV_BUILD_DIR "/tests/dialog_writer";
         return m_test
                    .run(m_job ? HelperSequence::Arguments{"job", m_test.real("/dialog"), m_test.real("/document")}
-                              : HelperSequence::Arguments{"ticket", m_test.real("/dialog"), text},
+                              : HelperSequence::Arguments{m_what, m_test.real("/dialog"), text},
                         all)
                    .exitCode == 0;
     }
@@ -240,6 +249,7 @@ private:
     }
 
     FaultTable &m_test;
+    std::string m_what;
     bool m_job;
     bool m_hasOld;
 };
@@ -280,7 +290,8 @@ std::unique_ptr<Sequence> FaultTable::make(const std::string &name)
             sequence->learnAfter();
         return sequence;
     }
-    return std::make_unique<DialogSequence>(*this, name == "job", name == "choices");
+    const bool hasOld = name != "job" && name != "first_choices";
+    return std::make_unique<DialogSequence>(*this, name == "job" || name == "defaults" ? name : "ticket", hasOld);
 }
 
 TEST_P(FaultTable, EveryFaultLeavesWholeFiles)
@@ -307,9 +318,9 @@ TEST_P(FaultTable, EveryFaultLeavesWholeFiles)
     EXPECT_GT(call, 2) << "the calls are seen";
 }
 
-constexpr const char *kSequences[] = {"first_piece",   "later_piece",      "commit",  "swap",
-                                      "swap_back",     "unreadable_aside", "removal", "walk",
-                                      "first_choices", "choices",          "job"};
+constexpr const char *kSequences[] = {"first_piece",   "later_piece",      "commit",   "swap",
+                                      "swap_back",     "unreadable_aside", "removal",  "walk",
+                                      "first_choices", "choices",          "defaults", "job"};
 
 INSTANTIATE_TEST_SUITE_P(Sequences, FaultTable, ::testing::ValuesIn(kSequences),
                          [](const auto &info) { return std::string(info.param); });
