@@ -179,11 +179,9 @@ void PresetMenu::rename()
 void PresetMenu::remove()
 {
     const QString name = state().preset;
-    const auto answer =
-        QMessageBox::question(this, tr("Delete Preset"),
-                              tr("Delete the preset “%1” of “%2”? The present choices stay.").arg(name, m_target.title),
-                              QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
-    if (answer != QMessageBox::Yes || !isDone(m_store.remove(m_target.queue, name)))
+    if (!isAgreed(tr("Delete Preset"),
+                  tr("Delete the preset “%1” of “%2”? The present choices stay.").arg(name, m_target.title)) ||
+        !isDone(m_store.remove(m_target.queue, name)))
         return;
     state().preset.clear();
     state().what = tr("Choices of “%1”").arg(name);
@@ -248,8 +246,16 @@ QString PresetMenu::askName(const QString &title, const QString &proposed)
 bool PresetMenu::mayReplace(const QString &name)
 {
     return !m_store.contains(m_target.queue, name) ||
-           QMessageBox::question(this, tr("Save as Preset"),
-                                 tr("There is a preset “%1” already. Replace it?").arg(name)) == QMessageBox::Yes;
+           isAgreed(tr("Save as Preset"), tr("There is a preset “%1” already. Replace it?").arg(name));
+}
+
+bool PresetMenu::isAgreed(const QString &title, const QString &question)
+{
+    QMessageBox box(QMessageBox::Question, title, QString(), QMessageBox::Yes | QMessageBox::No, this);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(question);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
 }
 
 } // namespace bv

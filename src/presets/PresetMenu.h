@@ -64,6 +64,8 @@ private:
     void showName();
     QString askName(const QString &title, const QString &proposed);
     bool mayReplace(const QString &name);
+    // Names come from other people's files and from the print server, so they are shown letter by letter.
+    bool isAgreed(const QString &title, const QString &question);
 
     // What is in use for a printer.
     struct State

@@ -3,12 +3,14 @@
 #include "DialogWorld.h"
 
 #include "presets/PresetMenu.h"
+#include "support/MarkupProbe.h"
 
 #include <QAction>
 #include <QComboBox>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
@@ -131,6 +133,35 @@ TEST_F(Presets, FromTheCommandLineAreUsedOrReported)
     entry("presetLastTime")->trigger();
     EXPECT_EQ(toner()->currentIndex(), 1);
     EXPECT_EQ(shown(), "Preset: As last time");
+}
+
+TEST_F(Presets, NamesOfOthersAreNeitherMarkupNorPlaceHolders)
+{
+    const QString name = QString("50%1 ") + bvtest::kMarkup;
+    PresetStore().store("Paper", {name, {}, [] {
+                                      PrintDictionary options;
+                                      options.setValue("TPToner", "Save");
+                                      options.setValue("Duplex", "DuplexNoTumble");
+                                      return options;
+                                  }()});
+    open();
+    entry("preset_" + name)->trigger();
+    EXPECT_EQ(message(), "“" + name + "”: 2 settings changed.");
+    int questions = 0;
+    const auto refuse = [&] {
+        auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        ASSERT_NE(question, nullptr);
+        ++questions;
+        EXPECT_TRUE(question->text().contains(name));
+        EXPECT_EQ(bvtest::imagesShown(question), QStringList());
+        question->reject();
+    };
+    QTimer::singleShot(0, dialog.get(), refuse);
+    entry("presetDelete")->trigger();
+    QTimer::singleShot(0, dialog.get(), [&] { QTimer::singleShot(0, dialog.get(), refuse); });
+    answer("presetSave", name);
+    EXPECT_EQ(questions, 2);
+    EXPECT_TRUE(PresetStore().contains("Paper", name));
 }
 
 } // namespace
