@@ -22,6 +22,7 @@ set(BV_PLACES ${CMAKE_INSTALL_BINDIR} lib/bvco ${BV_FILTERS} ${BV_PPD_FOLDER} ${
 # Runs first, so that an installation is never left half done. Also creates the folders.
 install(CODE "
   set(places [==[${BV_PLACES}]==])
+  set(build [==[${CMAKE_BINARY_DIR}]==])
   set(programs [==[$<TARGET_FILE:bvprint>;$<TARGET_FILE:bvportal>;$<TARGET_FILE:bvco>;$<TARGET_FILE:bvpages>;$<TARGET_FILE:QL70Helper>;$<TARGET_FILE:QL70Walk>;$<TARGET_FILE:QL70Resolve>;$<TARGET_FILE:bvql70>]==])
   include([==[${CMAKE_SOURCE_DIR}/cmake/InstallCheck.cmake]==])")
 

@@ -1,12 +1,18 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
 # Stops an installation before anything is copied if a program is not built or a folder cannot be written. Then creates
 # the folders, readable for everybody whatever the umask (CMake itself does not do so for parent folders).
-# Input: places (folders; relative ones are below the prefix), programs (the built files).
+# Input: places (folders; relative ones are below the prefix), programs (the built files), build (the build folder).
 foreach(program IN LISTS programs)
   if(NOT EXISTS "${program}")
     message(FATAL_ERROR "Nothing was installed: ${program} is not built. Build first: cmake --build FOLDER")
   endif()
 endforeach()
+
+execute_process(COMMAND test -w "${build}" RESULT_VARIABLE refused)
+if(refused)
+  message(FATAL_ERROR "Nothing was installed: ${build} cannot be written, and the list of what is installed is kept "
+    "there, for its removal. Build in a place of your own.")
+endif()
 
 foreach(place IN LISTS places)
   cmake_path(ABSOLUTE_PATH place BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}")
