@@ -146,11 +146,13 @@ JobSettings jobSettings(ppd_file_t *ppd, const char *text)
     options.mark(ppd);
 
     const std::string_view mode = options.value(kColorMode);
-    if (std::find(std::begin(kGrayModes), std::end(kGrayModes), mode) != std::end(kGrayModes) &&
-        !isMarked(ppd, kGray, "True")) {
-        addByName(job, ppd, kGray, "True");
+    if (std::find(std::begin(kGrayModes), std::end(kGrayModes), mode) != std::end(kGrayModes)) {
+        // Usually the PPD's preset for gray has marked it already, but not where the job says otherwise.
+        if (!isMarked(ppd, kGray, "True"))
+            addByName(job, ppd, kGray, "True");
         // A gray job has no colors to separate. The dialog has the same rule.
-        addByName(job, ppd, kSeparation, "False");
+        if (isMarked(ppd, kSeparation, "True"))
+            addByName(job, ppd, kSeparation, "False");
     }
 
     const int quickColor = markedIndex(ppd, kQuickColor);

@@ -108,6 +108,9 @@ TEST_F(JobSettings, PrintColorModeGrayTurnsOnThePrintersGrayOption)
 {
     EXPECT_THAT(choices("BVQuickColor=Manual print-color-mode=monochrome BVColorAsGray=False BVColorSeparation=True"),
                 UnorderedElementsAre(Pair("BVColorAsGray", "True"), Pair("BVColorSeparation", "False")));
+    // The PPD's preset for gray does the same to a job that says nothing of gray, and leaves the separation.
+    EXPECT_THAT(choices("BVQuickColor=Manual print-color-mode=monochrome BVColorSeparation=True"),
+                ElementsAre(Pair("BVColorSeparation", "False")));
     // The print server adds "color" to every job that lacks the attribute, so it must not turn gray off.
     EXPECT_THAT(choices("BVQuickColor=Manual print-color-mode=color BVColorAsGray=True"), IsEmpty());
 }
