@@ -16,8 +16,9 @@ namespace {
 constexpr size_t kLongestComment = 1024;
 // A longer feature is taken for one without an end, and kept.
 constexpr size_t kLongestFeature = size_t{64} * 1024;
-// The end of a setup section is searched within this many bytes.
+// The end of a setup section, or a section behind a resource, is searched within this many bytes.
 constexpr size_t kLongestSetup = size_t{128} * 1024;
+constexpr std::string_view kBegin = "%%Begin";
 // Possible bytes before a document on its first line: the end of the previous job, in the serial protocol and in the
 // printer job language.
 constexpr std::string_view kPrefixes[] = {"\004", "\033%-12345X"};
@@ -193,10 +194,15 @@ bool DocumentRewriter::structure(DocumentStream &stream, std::string_view line)
             m_copies = copiesOf(line);
         if (line.starts_with("%%BeginSetup"))
             return beginSetup(stream, line);
-        if (line.starts_with("%%EndComments") || line.starts_with("%%EndProlog"))
+        if (line.starts_with("%%EndComments") || line.starts_with("%%EndProlog")) {
             m_place = Place::AfterHeader;
-        else if (line.starts_with("%%Begin") && m_place != Place::Setup)
+        } else if (line.starts_with(kBegin) && m_place != Place::Setup && m_place != Place::Prolog) {
             m_place = Place::Prolog;
+            line.remove_prefix(kBegin.size());
+            m_resourceEnd = "%%End" + std::string(line.substr(0, line.find_first_of(": \t\r\n")));
+        } else if (m_place == Place::Prolog && line.starts_with(m_resourceEnd)) {
+            endResource(stream);
+        }
     }
     return false;
 }
@@ -225,6 +231,17 @@ bool DocumentRewriter::beginSetup(DocumentStream &stream, std::string_view line)
     stream.pass(line.size());
     putSettings(stream, Section::None);
     return true;
+}
+
+// A resource may stand in a document without any section. The settings then go before the code behind the resource.
+void DocumentRewriter::endResource(DocumentStream &stream)
+{
+    const std::string_view text = stream.ahead(kLongestSetup);
+    for (const std::string_view section : {"%%EndProlog", "%%BeginSetup", "%%Page:"}) {
+        if (text.find(section) != text.npos)
+            return;
+    }
+    m_place = Place::AfterHeader;
 }
 
 void DocumentRewriter::putSettings(DocumentStream &stream, Section section)

@@ -55,6 +55,7 @@ private:
     bool structure(DocumentStream &stream, std::string_view line);
     void beginDocument(DocumentStream &stream, std::string_view line);
     bool beginSetup(DocumentStream &stream, std::string_view line);
+    void endResource(DocumentStream &stream);
     void putSettings(DocumentStream &stream, Section section);
     bool isOurs(std::string_view feature) const;
 
@@ -63,7 +64,8 @@ private:
     Place m_place = Place::Outside;
     std::string m_comment; // the comment being handled
     std::string m_lineEnd = "\n";
-    int m_nested = 0; // nesting depth of embedded documents
+    std::string m_resourceEnd; // the comment that ends the resource, font or file in which the prolog began
+    int m_nested = 0;          // nesting depth of embedded documents
     int m_pages = 0;
     int m_copies = 1;
     bool m_found = false; // a document was found

@@ -98,6 +98,13 @@ std::vector<Document> documents()
          head + prolog + "%%BeginSetup\n" + at + "show\n"},
         {"no section at all: at the head", head + "\n% note\nshow\n%%EOF\n",
          head + "\n% note\n" + at + "show\n%%EOF\n"},
+        {"a resource, and no section: before the code behind it",
+         head + "%%BeginResource: procset p\n/p {} def\n%%EndResource\n%%BeginFont: f\n/f\n%%EndFont\nshow\n%%EOF\n",
+         head + "%%BeginResource: procset p\n/p {} def\n%%EndResource\n%%BeginFont: f\n/f\n%%EndFont\n" + at +
+             "show\n%%EOF\n"},
+        {"a prolog that begins with a resource: in its setup",
+         head + "%%BeginProcSet: p\n/p\n%%EndProcSet\n/q\n%%EndProlog\n%%BeginSetup\n%%EndSetup\n" + pages,
+         head + "%%BeginProcSet: p\n/p\n%%EndProcSet\n/q\n%%EndProlog\n" + section + pages},
         {"no structure: behind the first line", "%!\nshow\n%%Page: 1 1\n", "%!\n" + at + "show\n%%Page: 1 1\n"},
         {"a feature that never ends stays",
          head + prolog + "%%BeginSetup\n%%EndSetup\n%%Page: 1 1\n%%BeginFeature: *BVA old\nshow\n",
