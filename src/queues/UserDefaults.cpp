@@ -45,6 +45,25 @@ constexpr const char *kMarkedByLibcups[] = {
     "mirror",
 };
 
+// A choice of the PPD and the standard option that means the same.
+struct StandardForm
+{
+    const char *option;
+    const char *choice; // null: any, which is then the standard option's value
+    const char *standard;
+    const char *value;
+};
+constexpr StandardForm kStandardForms[] = {
+    {"Duplex", "None", "sides", "one-sided"},
+    {"Duplex", "DuplexNoTumble", "sides", "two-sided-long-edge"},
+    {"Duplex", "DuplexTumble", "sides", "two-sided-short-edge"},
+    {"PageSize", nullptr, "media", nullptr},
+};
+
+// Standard options that were taken in as choices of the PPD, and would go before a new choice.
+constexpr const char *kSuperseded[] = {"media",     "sides", "print-color-mode", "output-mode", "printer-resolution",
+                                       "PageRegion"};
+
 // A line "Dest NAME OPTIONS" or "Default NAME OPTIONS". Other lines have no name.
 struct Line
 {
@@ -118,6 +137,26 @@ void addOptions(const QByteArray &text, UserDefaults::Options &options)
     for (int i = 0; i < count; ++i)
         putOption(QString::fromUtf8(list[i].name), QString::fromUtf8(list[i].value), options);
     cupsFreeOptions(count, list);
+}
+
+// Programs choose paper and sides by standard options, and libcups passes over those beside the PPD's own. So what is
+// stored is the standard form, which a program's choice replaces. `system` are the options of the computer's file,
+// which cannot be taken out.
+UserDefaults::Options storedForm(const UserDefaults::Options &options, const UserDefaults::Options &system)
+{
+    UserDefaults::Options stored = options;
+    for (const StandardForm &form : kStandardForms) {
+        const QString option = QLatin1String(form.option);
+        const auto chosen = options.find(option);
+        if (chosen == options.end() || system.count(option) != 0 || chosen->second.isEmpty() ||
+            chosen->second.startsWith(u"Custom") || (form.choice && chosen->second != QLatin1String(form.choice)))
+            continue;
+        stored[QLatin1String(form.standard)] = form.choice ? QString(QLatin1String(form.value)) : chosen->second;
+        stored[option].clear();
+    }
+    for (const char *superseded : kSuperseded)
+        stored.try_emplace(QLatin1String(superseded));
+    return stored;
 }
 
 // Options as they stand in a line.
@@ -249,7 +288,12 @@ QString UserDefaults::store(const QueueInstance &of, const Options &options) con
         if (!m_replaced.store(of.name(), kept))
             return tr("Your present defaults could not be kept, so they were not replaced.");
     }
-    for (const auto &[name, value] : options) {
+    Options system;
+    for (const Line &line : linesOf(systemFile())) {
+        if (isOf(line, of))
+            addOptions(line.options, system);
+    }
+    for (const auto &[name, value] : storedForm(options, system)) {
         if (value.isEmpty())
             removeOption(name, own);
         else if (canBeStored(name, value))

@@ -39,8 +39,10 @@ public:
     // The names of a queue's instances, in the order of the files.
     QStringList instances(const QString &queue) const;
 
-    // Puts these options over the user's entries; an empty value removes one. What was there before the first store()
-    // is kept for takeBack(). Nothing else in the file changes. Returns a sentence for the user on a failure.
+    // Puts these options, all that the window shows, over the user's entries; an empty value removes one. Paper and
+    // sides are written as standard options (media, sides), and entries for what the window shows in another way are
+    // taken out. What was there before the first store() is kept for takeBack(). Nothing else in the file changes.
+    // Returns a sentence for the user on a failure.
     QString store(const QueueInstance &of, const Options &options) const;
     // Whether store() has replaced something that takeBack() can restore.
     bool canTakeBack(const QueueInstance &of) const;

@@ -71,9 +71,9 @@ protected:
         return m_defaults->options(of).value_or(UserDefaults::Options{{"none", ""}});
     }
     // The options of a job that lp sends.
-    std::map<QString, QString> printedByLp(const QString &name)
+    std::map<QString, QString> printedByLp(const QString &name, const QStringList &more = {})
     {
-        EXPECT_TRUE(s_server->administer("lp", {"-d", name, s_home + "/document.ps"}));
+        EXPECT_TRUE(s_server->administer("lp", QStringList{"-d", name} + more + QStringList{s_home + "/document.ps"}));
         return s_server->recorded(++s_job).options;
     }
 
@@ -127,6 +127,27 @@ TEST_F(Defaults, ThatAreStoredReachLpAndAreTakenBack)
     EXPECT_EQ(m_defaults->takeBack({m_queue, {}}), "");
     EXPECT_EQ(lpoptionsFile(), before);
     EXPECT_NE(m_defaults->takeBack({m_queue, {}}), "");
+}
+
+TEST_F(Defaults, GiveWayToStandardOptionsOfAJob)
+{
+    // What the window then shows as other choices would otherwise go before them.
+    lpoptions(m_queue, {"sides=two-sided-short-edge", "print-color-mode=monochrome", "PageRegion=A5"});
+    const UserDefaults::Options shown = {
+        {"BVColorAsGray", "False"}, {"Duplex", "None"}, {"PageSize", "A4"}, {"Resolution", "600dpi"}};
+    EXPECT_EQ(m_defaults->store({m_queue, {}}, shown), "");
+    EXPECT_THAT(options({m_queue, {}}), ElementsAre(Pair("BVColorAsGray", "False"), Pair("Resolution", "600dpi"),
+                                                    Pair("media", "A4"), Pair("sides", "one-sided")));
+    const auto sent = printedByLp(m_queue, {"-o", "sides=two-sided-long-edge", "-o", "media=A5"});
+    // The server adds the PPD's choices to those of the job.
+    EXPECT_THAT(sent, Contains(Pair("Duplex", "DuplexNoTumble")));
+    EXPECT_THAT(sent, Contains(Pair("PageSize", "A5")));
+    EXPECT_THAT(sent, Not(Contains(Pair("print-color-mode", "monochrome"))));
+    // The computer's file cannot be changed, so its option is overruled under its own name.
+    write("system/lpoptions", "Dest " + m_queue.toUtf8() + " Duplex=DuplexTumble\n");
+    EXPECT_EQ(m_defaults->store({m_queue, {}}, shown), "");
+    EXPECT_THAT(printedByLp(m_queue), Contains(Pair("Duplex", "None")));
+    write("system/lpoptions", "");
 }
 
 TEST_F(Defaults, UnderANameAreAnInstanceOfTheQueue)

@@ -201,7 +201,7 @@ TEST_F(WindowPrinting, StartsFromTheUsersDefaultsStoresThemAndTakesThemBack)
     click("check_EconomyPrint");
     find<QAction>("useForAll")->trigger();
     EXPECT_TRUE(lpoptions().contains("BVEconoMode=True")) << m_dialog->messageText().toStdString();
-    EXPECT_TRUE(lpoptions().contains("Duplex=DuplexTumble")) << lpoptions().constData();
+    EXPECT_TRUE(lpoptions().contains("sides=two-sided-short-edge")) << lpoptions().constData();
     EXPECT_TRUE(lpoptions().contains("\nDest QL70/Proof BVQuickColor=Presentation\n"));
     // A new window shows what was stored.
     open({});
