@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // bvprint: the print dialog, as a window or driven by a batch of commands.
 #include "app/CommandLine.h"
+#include "app/EndSignals.h"
 #include "app/MessageFilter.h"
 #include "app/ShareProfiles.h"
 #include "app/WindowSystem.h"
@@ -82,6 +83,7 @@ int runProgram(const bv::CommandLine &line)
 {
     if (line.mode == bv::CommandLine::Mode::Agent)
         return bv::runAgent();
+    bv::endInOrderBySignals();
     // In the locale C a batch shows the keys of texts. A window always shows words.
     const bool isBatch = line.mode == bv::CommandLine::Mode::Batch;
     const QString language = isBatch && bv::isLocaleC() ? QString() : bv::messageLocale();

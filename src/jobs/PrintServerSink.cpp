@@ -5,6 +5,7 @@
 #include "jobs/DocumentReader.h"
 #include "jobs/OptionEncoding.h"
 #include "queues/BackgroundCall.h"
+#include "queues/CancelAtEnd.h"
 #include "queues/ServerConnection.h"
 
 #include <QCoreApplication>
@@ -220,6 +221,7 @@ Sent PrintServerSink::submit(const JobRequest &request, CallControl &control) co
     if (!queue)
         return Sent::failure(queue.error());
     const UnfinishedWork untilTheJobIsWhole;
+    const CancelAtEnd endsWithTheProgram(control);
     const Result<int> job = createJob(server.value(), request, queue.value());
     if (!job)
         return Sent::failure(job.error());

@@ -10,7 +10,10 @@
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
+#include <QProcess>
 #include <QTemporaryDir>
+#include <QTest>
+#include <csignal>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -148,6 +151,29 @@ TEST_F(Printing, SeveralDocumentsAreOneJobAndOneRefusalCancelsIt)
     const auto states = PrivateCupsd::jobStates("QL70");
     EXPECT_EQ(states.size(), 2U);
     EXPECT_EQ(states.begin()->second, IPP_JSTATE_CANCELED);
+}
+
+TEST_F(Printing, ASignalThatEndsTheProgramCancelsTheJobThatIsBeingSent)
+{
+    useServerHere();
+    // Long enough to be on its way when the signal comes.
+    QFile document(write("long.ps", "%!PS\n"));
+    ASSERT_TRUE(document.resize(qint64{8} * 1024 * 1024 * 1024));
+    const QString script = write("script", "print \"" + document.fileName().toUtf8() + "\"\n");
+    size_t jobs = 0;
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        QProcess program;
+        program.setChildProcessModifier([number] { std::signal(number, SIG_DFL); });
+        program.start(BV_BUILD_DIR "/bin/bvprint", {"--queue", "QL70", "--batch", script});
+        ++jobs;
+        ASSERT_TRUE(QTest::qWaitFor([&] { return PrivateCupsd::jobStates("QL70").size() == jobs; }, 30000));
+        kill(pid_t(program.processId()), number);
+        ASSERT_TRUE(program.waitForFinished());
+        EXPECT_EQ(program.exitStatus(), QProcess::CrashExit); // ended by the signal
+        EXPECT_EQ(program.exitCode(), number);
+        EXPECT_EQ(PrivateCupsd::jobStates("QL70").rbegin()->second, IPP_JSTATE_CANCELED);
+    }
+    EXPECT_EQ(m_server.recordedCount(), 0);
 }
 
 TEST_F(Printing, AnOptionThatWouldBeParsedAsSeveralIsRefused)
