@@ -98,10 +98,11 @@ QString printerNote(const PrintQueue &queue)
         parts << queue.location;
     if (!queue.acceptsJobs)
         parts << tr("takes no jobs: choose another printer");
-    if (queue.isStopped)
-        parts << tr("stopped: jobs wait until somebody resumes it");
+    // What the server says is the nearest to the cause, and the end of a note may be cut.
     if (!queue.stateMessage.isEmpty())
         parts << queue.stateMessage;
+    if (queue.isStopped)
+        parts << tr("stopped: jobs wait until somebody resumes it");
     parts << reasonsOf(queue);
     return parts.join(tr(" · "));
 }

@@ -5,6 +5,7 @@
 #include "platform/PlainTip.h"
 #include "printers/PrinterIcon.h"
 #include "printers/PrinterState.h"
+#include "widgets/ElidedLabel.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -31,16 +32,13 @@ std::vector<PrintQueue> lastOnesFirst(std::vector<PrintQueue> queues, const QStr
 
 } // namespace
 
-QueueList::QueueList(QWidget *parent) : QWidget(parent), m_popUp(new PrinterMenu(this)), m_note(new QLabel(this))
+QueueList::QueueList(QWidget *parent) : QWidget(parent), m_popUp(new PrinterMenu(this)), m_note(new ElidedLabel(this))
 {
     m_popUp->setObjectName(QStringLiteral("printer"));
     m_popUp->setAccessibleName(tr("Printer"));
     m_popUp->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_popUp->setMinimumContentsLength(26);
-    m_popUp->setPlaceholderText(tr("No printer"));
     m_note->setObjectName(QStringLiteral("printerNote"));
-    m_note->setTextFormat(Qt::PlainText);
-    m_note->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto *label = new QLabel(tr("P&rinter:"), this);
     label->setBuddy(m_popUp);
     auto *row = new QHBoxLayout(this);
@@ -71,8 +69,15 @@ void QueueList::setQueues(const std::vector<PrintQueue> &queues, const QStringLi
         showItem(row);
     }
     m_popUp->setCurrentIndex(m_popUp->findData(before, kNameRole));
+    m_popUp->setPlaceholderText(tr("No printer"));
     m_popUp->setEnabled(!m_queues.empty());
     showNote();
+}
+
+void QueueList::showLooking()
+{
+    setQueues({});
+    m_popUp->setPlaceholderText(tr("Looking for printers…"));
 }
 
 bool QueueList::choose(const QString &queue)
@@ -111,7 +116,12 @@ void QueueList::showItem(int row)
         printerIcon(marked.mark == Mark::Unusable && state == PrinterState::Ready ? PrinterState::Attention : state));
     m_popUp->setItemData(row, note, PrinterMenu::kNoteRole);
     m_popUp->setItemData(row, title + u'\n' + queue.location, PrinterMenu::kSearchRole);
-    m_popUp->setItemData(row, marked.reason.isEmpty() ? QVariant() : plainTip(marked.reason), Qt::ToolTipRole);
+    QStringList more = {note, marked.reason};
+    more.removeAll(QString());
+    // The note may be cut in the list.
+    const QString all = more.join(u'\n');
+    m_popUp->setItemData(row, all.isEmpty() ? QVariant() : plainTip(all), Qt::ToolTipRole);
+    m_popUp->setItemData(row, all, Qt::AccessibleDescriptionRole);
 }
 
 void QueueList::showNote()

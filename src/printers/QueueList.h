@@ -8,9 +8,9 @@
 #include <QHash>
 #include <QWidget>
 
-class QLabel;
-
 namespace bv {
+
+class ElidedLabel;
 
 class QueueList : public QWidget
 {
@@ -22,6 +22,8 @@ public:
     // Replaces the queues; those of `last`, by name, come first, in its order. The choice and the marks stay where
     // their queues are still there. Sends no signal.
     void setQueues(const std::vector<PrintQueue> &queues, const QStringList &last = {});
+    // Says that the printers are being looked for, until setQueues().
+    void showLooking();
     // Chooses a queue by name without sending a signal. False if there is no such queue.
     bool choose(const QString &queue);
     // Name of the chosen queue, or empty.
@@ -52,7 +54,7 @@ private:
     void showNote();
 
     PrinterMenu *m_popUp;
-    QLabel *m_note;
+    ElidedLabel *m_note;
     std::vector<PrintQueue> m_queues; // one for each item
     QHash<QString, MarkOfQueue> m_marks;
 };

@@ -94,7 +94,7 @@ TEST_F(Choosing, ShowsTheLastUsedFirstAndKeepsChoiceAndMarks)
     EXPECT_EQ(chosen.count(), 0);
     list.mark("q5", QueueList::Mark::None);
     EXPECT_EQ(text(1), "Device 5 (q5)");
-    EXPECT_EQ(menu->itemData(1, Qt::ToolTipRole), QVariant());
+    EXPECT_EQ(menu->itemData(1, Qt::AccessibleDescriptionRole), "Cellar");
 }
 
 TEST_F(Choosing, FollowsChangesWhileTheListIsOpen)
@@ -107,7 +107,8 @@ TEST_F(Choosing, FollowsChangesWhileTheListIsOpen)
     queues[57].stateMessage = "Out of toner: call the help desk";
     list.setQueues(queues);
     EXPECT_EQ(menu->list()->currentIndex().data(Qt::UserRole), "q57");
-    EXPECT_TRUE(menu->list()->currentIndex().data().toString().contains("call the help desk"));
+    for (const int role : {Qt::DisplayRole, Qt::ToolTipRole, Qt::AccessibleDescriptionRole})
+        EXPECT_TRUE(menu->list()->currentIndex().data(role).toString().contains("call the help desk")) << role;
     queues.erase(queues.begin() + 7);
     list.setQueues(queues);
     EXPECT_EQ(found(), (QStringList{"q57", "q107", "q157"}));
