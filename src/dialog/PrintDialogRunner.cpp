@@ -11,6 +11,7 @@
 #include "queues/Complaint.h"
 #include "preview/PagePreview.h"
 #include "queues/PanelLoader.h"
+#include "widgets/OutlineStyle.h"
 #include "queues/TicketJson.h"
 
 #include <QCoreApplication>
@@ -105,6 +106,7 @@ int showPrintDialog(std::shared_ptr<const QueueSource> source, std::shared_ptr<c
                     PrintDialogStart start, const QString &screenshot, const std::function<void(PrintDialog &)> &adapt)
 {
     start.remembersSize = screenshot.isEmpty();
+    useOutlines();
     RememberedTickets remembered;
     PrintDialog dialog(std::move(source), std::move(sink), loader, remembered, std::move(start));
     if (adapt)

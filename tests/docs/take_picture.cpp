@@ -13,6 +13,7 @@
 #include "queues/PanelLoader.h"
 #include "queues/QueueSource.h"
 #include "widgets/DocumentList.h"
+#include "widgets/OutlineStyle.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -38,7 +39,7 @@ struct Kind
     const char *name;
     QSize size = {1200, 760}; // of the window, in points
     double scale = 1;
-    int font = 0;                                         // in points; 0: the usual one
+    int font = 10;                                        // in points; desktops have 10 or 11
     void (*prepare)(QApplication &application) = nullptr; // before the window is made
     void (*use)(PrintDialog &dialog) = nullptr;           // once it is ready
     bool isWaiting = false;                               // taken while the printer is silent
@@ -55,7 +56,8 @@ void setColors(const QColor &ground, const QColor &field, const QColor &text, co
 {
     QPalette palette(text, button, field, button.darker(160), button, text, text, field, ground);
     palette.setColor(QPalette::Highlight, highlight);
-    palette.setColor(QPalette::HighlightedText, ground);
+    constexpr int kBright = 150;
+    palette.setColor(QPalette::HighlightedText, qGray(highlight.rgb()) > kBright ? Qt::black : Qt::white);
     palette.setColor(QPalette::ToolTipBase, field);
     palette.setColor(QPalette::ToolTipText, text);
     palette.setColor(QPalette::PlaceholderText, QColor(text.red(), text.green(), text.blue(), 150));
@@ -215,8 +217,8 @@ int take(const Kind &kind, const QString &path, QApplication &application)
         root.write("snmp/snmp.conf", "mibs :\ndefaultPort " + std::to_string(silentPort()) + "\n");
         qputenv("SNMPCONFPATH", root.file("snmp").c_str());
     }
-    if (kind.font > 0)
-        QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), kind.font));
+    bv::useOutlines();
+    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), kind.font));
     if (kind.prepare)
         kind.prepare(application);
     bv::PanelLoader loader;
