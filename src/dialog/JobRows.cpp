@@ -37,7 +37,7 @@ JobRows::JobRows(QWidget *parent)
     pages->addWidget(m_allPages);
     pages->addWidget(m_somePages);
     pages->addWidget(m_range, 1);
-    m_form->addRow(tr("&Copies:"), m_copies);
+    m_form->addRow(tr("Cop&ies:"), m_copies);
     m_form->addRow(pages);
     setTabOrder(m_copies, m_allPages);
     setTabOrder(m_allPages, m_somePages);

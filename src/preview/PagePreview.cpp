@@ -51,7 +51,7 @@ void PagePreview::build()
 {
     m_toggle = new QToolButton(this);
     m_toggle->setObjectName(QStringLiteral("previewToggle"));
-    m_toggle->setText(tr("P&review"));
+    m_toggle->setText(tr("Preview (&1)")); // the other controls of the window have all of its letters
     m_toggle->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_toggle->setAutoRaise(true);
     m_toggle->setFocusPolicy(Qt::StrongFocus);

@@ -10,6 +10,7 @@
 #include <QHash>
 #include <QLabel>
 #include <QSet>
+#include <QStackedWidget>
 #include <QTabBar>
 #include <functional>
 #include <vector>
@@ -25,13 +26,16 @@ struct Title
     int place;
     QString text;
     std::function<void(const QString &)> write;
+    bool isInSight;
 };
 
 // What was made of a text, so that it is known again.
 constexpr char kWritten[] = "bvMnemonicText";    // the text with our mark
 constexpr char kOriginal[] = "bvMnemonicSource"; // the text as its owner set it
+constexpr char kLetter[] = "bvMnemonicLetter";   // the letter that it was given, as long as its owner lives
+constexpr char kNamed[] = "bvMnemonicNamed";     // the text when that was
 
-QByteArray property(const char *name, int place)
+QByteArray propertyOf(const char *name, int place)
 {
     return QByteArray(name) + QByteArray::number(place);
 }
@@ -39,8 +43,8 @@ QByteArray property(const char *name, int place)
 // A text as its owner set it, whatever we made of it.
 QString originalOf(const Title &title)
 {
-    const bool isOurs = title.owner->property(property(kWritten, title.place)).toString() == title.text;
-    return isOurs ? title.owner->property(property(kOriginal, title.place)).toString() : title.text;
+    const bool isOurs = title.owner->property(propertyOf(kWritten, title.place)).toString() == title.text;
+    return isOurs ? title.owner->property(propertyOf(kOriginal, title.place)).toString() : title.text;
 }
 
 // Without the mark. A doubled "&" stays doubled, since it stands for itself.
@@ -88,62 +92,114 @@ QString lettersOf(const QString &plain)
 void collect(QWidget *window, std::vector<Title> *titles)
 {
     for (QWidget *widget : window->findChildren<QWidget *>()) {
-        if (widget->window() != window || !widget->isVisibleTo(window))
+        if (widget->window() != window)
             continue;
+        const bool isInSight = widget->isVisibleTo(window);
+        const auto add = [&](int place, const QString &text, std::function<void(const QString &)> write, bool inSight) {
+            if (!text.isEmpty())
+                titles->push_back({widget, place, text, std::move(write), inSight});
+        };
         if (auto *label = qobject_cast<QLabel *>(widget)) {
-            const bool names = label->buddy() && label->buddy()->isVisibleTo(window) && !label->text().isEmpty();
-            if (names)
-                titles->push_back({label, 0, label->text(), [label](const QString &text) { label->setText(text); }});
+            if (label->buddy())
+                add(
+                    0, label->text(), [label](const QString &text) { label->setText(text); },
+                    isInSight && label->buddy()->isVisibleTo(window));
         } else if (auto *button = qobject_cast<QAbstractButton *>(widget)) {
-            if (!button->text().isEmpty())
-                titles->push_back(
-                    {button, 0, button->text(), [button](const QString &text) { button->setText(text); }});
+            add(
+                0, button->text(), [button](const QString &text) { button->setText(text); }, isInSight);
         } else if (auto *group = qobject_cast<QGroupBox *>(widget)) {
             if (group->isCheckable())
-                titles->push_back({group, 0, group->title(), [group](const QString &text) { group->setTitle(text); }});
+                add(
+                    0, group->title(), [group](const QString &text) { group->setTitle(text); }, isInSight);
         } else if (auto *tabs = qobject_cast<QTabBar *>(widget)) {
             for (int tab = 0; tab < tabs->count(); ++tab)
-                titles->push_back(
-                    {tabs, tab, tabs->tabText(tab), [tabs, tab](const QString &text) { tabs->setTabText(tab, text); }});
+                add(
+                    tab, tabs->tabText(tab), [tabs, tab](const QString &text) { tabs->setTabText(tab, text); },
+                    isInSight);
         }
     }
 }
 
-// Shares the letters out. Those that texts bring along come first, then those that were given before, so that few ever
-// change. A text that finds none of its letters free makes another one change, where that has a choice (a matching by
-// augmenting paths), so that few texts get a letter that they do not have.
+// False for widgets on different pages of a stack.
+bool canMeet(const QWidget *one, const QWidget *other)
+{
+    for (const QWidget *parent = one; parent; parent = parent->parentWidget())
+        if (parent == other || parent->isAncestorOf(other))
+            return !qobject_cast<const QStackedWidget *>(parent);
+    return true;
+}
+
+// Shares the letters out. Who has a letter keeps it, in sight or not. Then come letters that texts bring along, then
+// the texts in sight that have none yet: where one finds none of its letters free, another new one takes another (a
+// matching by augmenting paths), so that few texts get a letter that they do not have. The letter of a text that is out
+// of sight and may come back is taken only where there is no other.
 class LetterSharing
 {
 public:
-    LetterSharing(const std::vector<Title> &titles, const std::vector<QString> &originals)
-        : m_given(titles.size()), m_isOwn(titles.size())
+    // What each title had before; null: nothing.
+    LetterSharing(const std::vector<Title> &titles, const std::vector<QString> &originals, std::vector<QChar> before)
+        : m_titles(titles), m_given(std::move(before)), m_letters(titles.size())
     {
-        m_letters.reserve(titles.size());
-        for (size_t i = 0; i < titles.size(); ++i) {
-            m_letters.push_back(lettersOf(withoutMark(originals[i])));
-            m_isOwn[i] = give(i, mnemonicOf(originals[i]));
-        }
-        for (size_t i = 0; i < titles.size(); ++i)
-            give(i, mnemonicOf(titles[i].text));
-        for (size_t i = 0; i < titles.size(); ++i)
-            if (QSet<QChar> tried; m_given[i].isNull() || !m_letters[i].contains(m_given[i]))
+        const auto each = [&](auto &&act) {
+            for (size_t i = 0; i < titles.size(); ++i)
+                if (m_given[i].isNull())
+                    act(i);
+        };
+        each([&](size_t i) {
+            if (const QChar own = mnemonicOf(originals[i]); !own.isNull() && !isHeld(own, i, true))
+                m_given[i] = own;
+        });
+        yieldDoubles(originals);
+        for (const bool sparesHidden : {true, false}) {
+            std::vector<size_t> wanting;
+            each([&](size_t i) {
+                if (titles[i].isInSight)
+                    wanting.push_back(i);
+            });
+            for (const size_t i : wanting) {
+                m_letters[i].clear();
+                for (const QChar letter : lettersOf(withoutMark(originals[i])))
+                    if (!isHeld(letter, i, sparesHidden) && !m_letters[i].contains(letter))
+                        m_letters[i] += letter;
+            }
+            m_holders.clear();
+            for (const size_t i : wanting) {
+                QSet<QChar> tried;
                 find(i, &tried);
-        for (size_t i = 0; i < titles.size(); ++i)
-            for (const QChar letter : QStringLiteral("1234567890QXZJKVWYBGHFMPUIOLNDRSCTAE"))
-                give(i, letter);
+            }
+            for (const size_t i : wanting)
+                for (const QChar letter : QStringLiteral("1234567890QXZJKVWYBGHFMPUIOLNDRSCTAE"))
+                    if (m_given[i].isNull() && !isHeld(letter, i, sparesHidden))
+                        m_given[i] = letter;
+        }
     }
 
-    // In the order of the titles; null where none was left.
+    // In the order of the titles; null where none was left, or none is needed yet.
     const std::vector<QChar> &letters() const { return m_given; }
 
 private:
-    bool give(size_t i, QChar letter)
+    // Whether another title has the letter: one in sight, or, if these are to be spared, one that may come into sight.
+    bool isHeld(QChar letter, size_t by, bool sparesHidden) const
     {
-        if (!m_given[i].isNull() || letter.isNull() || m_holders.contains(letter))
-            return false;
-        m_given[i] = letter;
-        m_holders.insert(letter, i);
-        return true;
+        for (size_t i = 0; i < m_titles.size(); ++i) {
+            if (i == by || m_given[i] != letter)
+                continue;
+            if ((m_titles[i].isInSight && m_titles[by].isInSight) ||
+                (sparesHidden && canMeet(m_titles[i].owner, m_titles[by].owner)))
+                return true;
+        }
+        return false;
+    }
+
+    // Two that have come into sight together have the same letter where there was no other. One of them gets a new one:
+    // not the one that brought its letter along.
+    void yieldDoubles(const std::vector<QString> &originals)
+    {
+        for (const bool yieldsOwn : {false, true})
+            for (size_t i = 0; i < m_titles.size(); ++i)
+                if (m_titles[i].isInSight && !m_given[i].isNull() &&
+                    (yieldsOwn || m_given[i] != mnemonicOf(originals[i])) && isHeld(m_given[i], i, false))
+                    m_given[i] = QChar();
     }
 
     bool find(size_t i, QSet<QChar> *tried)
@@ -153,10 +209,8 @@ private:
                 continue;
             tried->insert(letter);
             const auto holder = m_holders.constFind(letter);
-            if (holder != m_holders.constEnd() && (m_isOwn[*holder] || !find(*holder, tried)))
+            if (holder != m_holders.constEnd() && !find(*holder, tried))
                 continue;
-            if (!m_given[i].isNull() && m_holders.value(m_given[i]) == i)
-                m_holders.remove(m_given[i]);
             m_given[i] = letter;
             m_holders.insert(letter, i);
             return true;
@@ -164,18 +218,30 @@ private:
         return false;
     }
 
-    std::vector<QString> m_letters; // of each text, the best ones first
+    const std::vector<Title> &m_titles;
     std::vector<QChar> m_given;
-    std::vector<bool> m_isOwn; // the text brought its letter along
-    QHash<QChar, size_t> m_holders;
+    std::vector<QString> m_letters; // those that a new title may have, the best ones first
+    QHash<QChar, size_t> m_holders; // the new titles that have one of these
 };
+
+// The letter that the title has had; null when it has none, or when its text is another one that lacks the letter or
+// brings its own.
+QChar keptLetter(const Title &title, const QString &original)
+{
+    const QString letter = title.owner->property(propertyOf(kLetter, title.place)).toString();
+    if (letter.isEmpty() || title.owner->property(propertyOf(kNamed, title.place)).toString() == original)
+        return letter.isEmpty() ? QChar() : letter[0];
+    const QChar own = mnemonicOf(original);
+    const bool fits = own.isNull() ? lettersOf(withoutMark(original)).contains(letter[0]) : own == letter[0];
+    return fits ? letter[0] : QChar();
+}
 
 void write(const Title &title, const QString &original, const QString &marked)
 {
     if (marked == title.text)
         return;
-    title.owner->setProperty(property(kWritten, title.place), marked);
-    title.owner->setProperty(property(kOriginal, title.place), original);
+    title.owner->setProperty(propertyOf(kWritten, title.place), marked);
+    title.owner->setProperty(propertyOf(kOriginal, title.place), original);
     title.write(marked);
 }
 
@@ -213,11 +279,21 @@ void Mnemonics::assign()
     for (const Title &title : titles)
         originals.push_back(originalOf(title));
 
-    const std::vector<QChar> given = LetterSharing(titles, originals).letters();
+    std::vector<QChar> before;
+    before.reserve(titles.size());
+    for (size_t i = 0; i < titles.size(); ++i)
+        before.push_back(keptLetter(titles[i], originals[i]));
+
+    const std::vector<QChar> given = LetterSharing(titles, originals, before).letters();
     for (size_t i = 0; i < titles.size(); ++i) {
+        const Title &title = titles[i];
+        title.owner->setProperty(propertyOf(kLetter, title.place), given[i].isNull() ? QString() : QString(given[i]));
+        title.owner->setProperty(propertyOf(kNamed, title.place), originals[i]);
+        if (!title.isInSight)
+            continue;
         const QString plain = withoutMark(originals[i]);
         const bool isOwn = given[i] == mnemonicOf(originals[i]);
-        write(titles[i], originals[i], isOwn ? originals[i] : given[i].isNull() ? plain : withMark(plain, given[i]));
+        write(title, originals[i], isOwn ? originals[i] : given[i].isNull() ? plain : withMark(plain, given[i]));
     }
 }
 

@@ -10,7 +10,9 @@ class QWidget;
 namespace bv {
 
 // Controls are named by their own text, or by a label that is their buddy. A mark "&" that a text brings along is kept
-// where its letter is still free. A text none of whose letters is free gets one behind it, in parentheses.
+// where its letter is still free. A text none of whose letters is free gets one behind it, in parentheses. A control
+// keeps its letter as long as it lives, so that people can learn it; what stands on different pages of a stack may have
+// the same.
 class Mnemonics : public QObject
 {
     Q_OBJECT

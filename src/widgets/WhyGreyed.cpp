@@ -43,7 +43,7 @@ QString nameOf(QWidget *widget, const QWidget *area)
 } // namespace
 
 WhyGreyed::WhyGreyed(QWidget *area, QWidget *parent)
-    : QPushButton(tr("Why Is It Gray?"), parent), m_area(area), m_popUp(new QFrame(this, Qt::Popup)),
+    : QPushButton(tr("W&hy Is It Gray?"), parent), m_area(area), m_popUp(new QFrame(this, Qt::Popup)),
       m_list(new QListWidget(m_popUp))
 {
     setObjectName(QStringLiteral("whyGreyed"));

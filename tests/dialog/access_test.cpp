@@ -30,8 +30,15 @@ protected:
         DialogTest::SetUp();
         loadPlugin(QStringLiteral(BV_BUILD_DIR "/lib/bvco/bvco.so"));
         source.add("Ours", BV_SOURCE_DIR "/resources/QL70.ppd");
-        open({"Ours", std::nullopt, {document}});
+        make({"Ours", std::nullopt, {document}});
         dialog->resize(1400, 1000);
+        QSignalSpy ready(dialog.get(), &PrintDialog::ready);
+        dialog->show();
+        ASSERT_TRUE(ready.isEmpty());
+        expectMnemonics(); // while it waits
+        if (ready.isEmpty()) {
+            ASSERT_TRUE(ready.wait());
+        }
     }
     void TearDown() override
     {
@@ -72,17 +79,23 @@ protected:
         for (int turn = 0; turn < 3; ++turn)
             QCoreApplication::processEvents();
         std::map<QChar, QStringList> owners;
-        const auto note = [&](const QString &text) { owners[mnemonicOf(text)] << text; };
+        const auto note = [&](const QWidget *owner, const QString &text) {
+            const QChar letter = mnemonicOf(text);
+            owners[letter] << text;
+            const auto [seen, isNew] =
+                m_letters.try_emplace({owner, withoutMnemonic(text).section(u'(', 0, 0)}, letter);
+            EXPECT_EQ(seen->second, letter) << text.toStdString() << " changed its letter";
+        };
         for (const QWidget *widget : dialog->findChildren<QWidget *>()) {
             if (!widget->isVisible() || widget->window() != dialog.get())
                 continue;
             if (const auto *label = qobject_cast<const QLabel *>(widget); label && label->buddy())
-                note(label->text());
+                note(label, label->text());
             if (const auto *button = qobject_cast<const QAbstractButton *>(widget); button && !button->text().isEmpty())
-                note(button->text());
+                note(button, button->text());
             if (const auto *tabs = qobject_cast<const QTabWidget *>(widget))
                 for (int tab = 0; tab < tabs->count(); ++tab)
-                    note(tabs->tabText(tab));
+                    note(tabs, tabs->tabText(tab));
         }
         for (const auto &owner : owners) {
             if (owner.first.isNull() || owner.second.size() > 1) {
@@ -93,13 +106,22 @@ protected:
         }
     }
 
+    // Letters that people know from other programs.
+    void expectFixedLetters()
+    {
+        EXPECT_EQ(mnemonicOf(find<QPushButton>("cancel")->text()), u'C');
+        EXPECT_EQ(mnemonicOf(find<QPushButton>("print")->text()), u'P');
+    }
+
     void check(const char *where)
     {
         expectMnemonics();
+        expectFixedLetters();
         std::printf("--- %s\n", where);
         dump(QAccessible::queryAccessibleInterface(dialog.get()), 0);
     }
 
+    std::map<std::pair<const QWidget *, QString>, QChar> m_letters; // by control and text
     int m_controls = 0;
     int m_nameless = 0;
     int m_clashes = 0;
@@ -111,6 +133,12 @@ TEST_F(Access, EveryControlHasANameAndAMnemonicOfItsOwn)
     find<QCheckBox>("check_ColorAsGrayscale")->click();
     check("Color as Grayscale");
     find<QCheckBox>("check_ColorAsGrayscale")->click();
+    auto *resolution = find<QComboBox>("row_Resolution");
+    resolution->setCurrentIndex(resolution->findData(QStringLiteral("1200dpi")));
+    find<QCheckBox>("check_EconomyPrint")->click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return find<QWidget>("conflictBar")->isVisible(); }));
+    check("a conflict");
+    find<QCheckBox>("check_EconomyPrint")->click();
     QTest::keyClick(find<QComboBox>("menu_QuickColor"), Qt::Key_End);
     find<QPushButton>("button_AdvanceColorOptions")->click();
     auto *tabs = find<QTabWidget>("tab_SwitchVew");
@@ -118,6 +146,8 @@ TEST_F(Access, EveryControlHasANameAndAMnemonicOfItsOwn)
         tabs->setCurrentIndex(tab);
         check(qPrintable("Advanced, " + tabs->tabText(tab)));
     }
+    find<QPushButton>("button_HideAdvancedOptions")->click();
+    check("Color Options again");
     std::printf("%d controls seen, without a name %d, clashes %d\n", m_controls, m_nameless, m_clashes);
     EXPECT_GT(m_controls, 100);
 }

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSet>
+#include <QStackedWidget>
 #include <QTabBar>
 #include <gtest/gtest.h>
 
@@ -69,7 +70,25 @@ TEST_F(MnemonicsOf, NoTwoTextsShareALetter)
     EXPECT_EQ(label->text(), "Pap&er:");
 }
 
-TEST_F(MnemonicsOf, StayWhileTheirLettersAreFreeAndFollowNewTexts)
+TEST_F(MnemonicsOf, PagesOfAStackShareLetters)
+{
+    auto *stack = new QStackedWidget;
+    form->addRow(stack);
+    for (int page = 0; page < 2; ++page) {
+        auto *button = new QPushButton("Xx");
+        stack->addWidget(button);
+        buttons << button;
+    }
+    window.show();
+    const Mnemonics mnemonics(&window);
+    for (const int page : {0, 1, 0}) {
+        stack->setCurrentIndex(page);
+        settle();
+        EXPECT_EQ(mnemonicOf(buttons[page]->text()), u'X');
+    }
+}
+
+TEST_F(MnemonicsOf, StayAsLongAsTheirTextsHaveThem)
 {
     QPushButton *one = add("Gray");
     window.show();
@@ -79,13 +98,19 @@ TEST_F(MnemonicsOf, StayWhileTheirLettersAreFreeAndFollowNewTexts)
     QPushButton *two = add("&Go");
     two->show();
     settle();
-    EXPECT_EQ(letters(), "RG") << "a letter that a text brings along comes first";
+    EXPECT_EQ(letters(), "GO") << "who has a letter keeps it";
     two->hide();
+    QPushButton *three = add("oo");
+    three->show();
     settle();
-    EXPECT_EQ(letters()[0], 'R') << "no change without need";
+    EXPECT_EQ(letters(), "GO1") << "the hidden one may come back";
+    one->setText("Green");
+    settle();
+    EXPECT_EQ(letters()[0], 'G');
+    two->show();
     one->setText("Color");
     settle();
-    EXPECT_EQ(one->text(), "&Color");
+    EXPECT_EQ(letters(), "CO1");
     for (int i = 0; i < 50; ++i)
         add("eee")->show();
     mnemonics.assign();
