@@ -53,7 +53,6 @@ PreviewBinding::PreviewBinding(PrintDialogLayout &parts, QObject *parent) : QObj
 
 void PreviewBinding::start()
 {
-    m_parts.unfoldPreview();
     m_parts.preview->start();
 }
 

@@ -14,6 +14,7 @@
 #include "widgets/BreakingLabel.h"
 #include "widgets/DocumentList.h"
 #include "widgets/MessageBar.h"
+#include "widgets/Mnemonics.h"
 #include "widgets/PaneArea.h"
 #include "widgets/ReasonLabel.h"
 #include "widgets/SendingRow.h"
@@ -33,6 +34,7 @@
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <algorithm>
+#include <initializer_list>
 
 namespace bv {
 
@@ -122,6 +124,8 @@ QWidget *PrintDialogLayout::makeSide()
     // Leaves room for the focus frames of controls at the edge.
     inner->setContentsMargins(2, 2, 4, 2);
     m_settings->setWidget(content);
+    content->installEventFilter(this);
+    reserveRows();
 
     m_sideColumn = column(side);
     // The settings take the height they need, summary and preview take the rest.
@@ -223,8 +227,7 @@ void PrintDialogLayout::showQueue(PpdOptionRows *rows, QWidget *pane, const QStr
         m_place->addWidget(pane);
     wait->say(pane ? QString() : sentence);
     m_place->setCurrentWidget(pane ? pane : wait);
-    m_paneTitle->setText(paneName);
-    m_paneTitle->setVisible(!paneName.isEmpty());
+    m_paneTitle->setText(paneName); // the button beside it keeps its line, so that nothing moves
     alignLabels(rows);
     widenSide();
     setTabOrders();
@@ -243,6 +246,20 @@ void PrintDialogLayout::showPaneNote(const QString &note)
     m_paneNote->setVisible(!note.isEmpty());
 }
 
+void PrintDialogLayout::showDropped(bool isDropped)
+{
+    QWidget *focused = window()->focusWidget();
+    if (isDropped) {
+        m_focused = focused;
+        // Not to a button that would be pressed by what was typed for another one.
+        window()->setFocus();
+    }
+    for (QWidget *part : std::initializer_list<QWidget *>{queues, m_side, m_summaryBox, why})
+        part->setEnabled(!isDropped);
+    if (!isDropped && m_focused && (!focused || focused == window() || wait->isAncestorOf(focused)))
+        m_focused->setFocus();
+}
+
 QString PrintDialogLayout::placeText() const
 {
     return wait->text();
@@ -253,6 +270,22 @@ void PrintDialogLayout::resizeEvent(QResizeEvent *event)
     QWidget::resizeEvent(event);
     placeSummary();
     placePreview();
+}
+
+void PrintDialogLayout::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    unfoldPreview();
+}
+
+bool PrintDialogLayout::eventFilter(QObject *object, QEvent *event)
+{
+    // A text may have got a mnemonic behind it.
+    if (object == m_settings->widget() && event->type() == QEvent::LayoutRequest) {
+        alignLabels(qobject_cast<PpdOptionRows *>(m_rows->currentWidget()));
+        widenSide();
+    }
+    return QWidget::eventFilter(object, event);
 }
 
 bool PrintDialogLayout::event(QEvent *event)
@@ -289,8 +322,9 @@ void PrintDialogLayout::placeSummary()
 
 void PrintDialogLayout::unfoldPreview()
 {
-    if (!m_previewPlaced)
-        m_previewFoldedByUser = previewWasFolded();
+    if (m_previewPlaced)
+        return;
+    m_previewFoldedByUser = previewWasFolded();
     m_previewPlaced = true;
     placePreview();
 }
@@ -360,6 +394,20 @@ void PrintDialogLayout::setTabOrders()
     }
 }
 
+void PrintDialogLayout::reserveRows()
+{
+    QWidget usual;
+    auto *form = new QFormLayout(&usual);
+    form->setContentsMargins(0, 0, 0, 0);
+    for (const QString &label : PpdOptionRows::allLabels()) {
+        auto *menu = new QComboBox;
+        menu->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        form->addRow(label, menu);
+    }
+    usual.ensurePolished();
+    m_rows->setMinimumHeight(usual.sizeHint().height());
+}
+
 // Aligns the fields of the two forms at the side.
 void PrintDialogLayout::alignLabels(PpdOptionRows *rows)
 {
@@ -367,6 +415,11 @@ void PrintDialogLayout::alignLabels(PpdOptionRows *rows)
     if (rows)
         labels += labelsOf(rows->form());
     int widest = 0;
+    QLabel measure;
+    for (const QString &text : PpdOptionRows::allLabels()) {
+        measure.setText(withoutMnemonic(text));
+        widest = std::max(widest, measure.sizeHint().width());
+    }
     for (const QLabel *label : labels)
         widest = std::max(widest, label->sizeHint().width());
     for (QLabel *label : labels)

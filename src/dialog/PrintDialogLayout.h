@@ -3,6 +3,7 @@
 // middle, buttons at the bottom.
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 class QBoxLayout;
@@ -60,14 +61,15 @@ public:
     void showWait(PpdOptionRows *rows, const QString &sentence);
     // Shows a quiet line above the pane; none when it is empty.
     void showPaneNote(const QString &note);
-    // Unfolds the preview if there is room for it and the user has not folded it, else folds it. From now on it follows
-    // the window's size.
-    void unfoldPreview();
+    // Shows whether input to printer, rows and preview is dropped. The focus comes back to them afterwards.
+    void showDropped(bool isDropped);
     // The sentence shown instead of a pane. Empty while a pane is shown.
     QString placeText() const;
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    bool eventFilter(QObject *object, QEvent *event) override;
     bool event(QEvent *event) override;
 
 private:
@@ -84,6 +86,10 @@ private:
     void setTabOrders();
     QWidget *lastControl(const QWidget *owner, QWidget *otherwise) const;
     void alignLabels(PpdOptionRows *rows);
+    // Keeps the room of rows that are not there yet, so that nothing moves when they come.
+    void reserveRows();
+    // Unfolds the preview if there is room for it and the user has not folded it, else folds it.
+    void unfoldPreview();
 
     QBoxLayout *m_middle = nullptr;
     QBoxLayout *m_sideColumn = nullptr;
@@ -95,6 +101,7 @@ private:
     QLabel *m_paneTitle = nullptr;
     QLabel *m_paneNote = nullptr;
     QWidget *m_noRows = nullptr;
+    QPointer<QWidget> m_focused; // before input was dropped
     bool m_summaryAside = false;
     bool m_previewPlaced = false;
     bool m_previewFoldedByUser = false;

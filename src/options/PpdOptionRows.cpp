@@ -59,6 +59,14 @@ PpdOptionRows::PpdOptionRows(ppd_file_t *ppd, QWidget *parent)
     m_form->addRow(m_more);
 }
 
+QStringList PpdOptionRows::allLabels()
+{
+    QStringList labels;
+    for (const RowKind &kind : rowKinds())
+        labels << tr(kind.label);
+    return labels;
+}
+
 void PpdOptionRows::addRow(const ppd_option_t &option, const QString &label, const QString &name)
 {
     auto *menu = new OptionMenu(option, name, this);

@@ -46,6 +46,8 @@ public:
     // Marks the rows in conflict, and says where choices come from. Both maps have sentences by keyword.
     void explain(const std::map<QString, QString> &conflicts, const std::map<QString, QString> &origins);
 
+    // The labels of all rows that a PPD can have.
+    static QStringList allLabels();
     // All choices of the options here, by keyword.
     ConflictFinder::Choices choices() const;
     // Makes a choice as the user would. False if it is none of the options here.
