@@ -3,6 +3,7 @@
 #include "dialog/DeviceWait.h"
 
 #include "dialog/InputGate.h"
+#include "dialog/WindowSettings.h"
 #include "widgets/WaitPanel.h"
 
 #include <QDateTime>
@@ -44,8 +45,9 @@ DeviceWait::DeviceWait(WaitPanel *panel, InputGate *gate, QWidget *cancel)
     connect(panel, &WaitPanel::skipped, this, &DeviceWait::giveUp);
 }
 
-void DeviceWait::begin()
+void DeviceWait::begin(const QString &printer)
 {
+    m_printer = printer;
     m_isOn = true;
     m_gaveUp = false;
     m_device.clear();
@@ -71,8 +73,7 @@ PanelWait::End DeviceWait::waitForInput(int descriptor, std::optional<Clock::tim
         return hasInput(descriptor, left) ? End::Input : End::TimeOver;
     if (hasInput(descriptor, left < 0 ? kBlockingMilliseconds : std::min(left, kBlockingMilliseconds)))
         return End::Input;
-    const QString sentence =
-        m_device.empty() ? m_panel->text() : tr("Waiting for the printer at %1…").arg(QString::fromStdString(m_device));
+    const QString sentence = m_device.empty() ? m_panel->text() : tr("Waiting for “%1” to answer…").arg(m_printer);
     m_panel->wait(sentence, tr("S&kip"));
     m_gate->close({m_panel->skipButton(), m_cancel});
     QSocketNotifier input(descriptor, QSocketNotifier::Read);
@@ -95,10 +96,19 @@ bool DeviceWait::wantsDevice(std::string_view device)
 
 void DeviceWait::deviceAsked(std::string_view device, bool answered, int64_t storedSince)
 {
-    if (answered)
-        m_silent.erase(std::string(device));
-    else
-        m_silent[std::string(device)] = {std::chrono::steady_clock::now(), storedSince};
+    const std::string name(device);
+    const QString address = QString::fromStdString(name);
+    if (answered) {
+        m_silent.erase(name);
+        rememberListing(address, QDateTime::currentSecsSinceEpoch());
+        return;
+    }
+    // A refresh that fails writes the list as well, so the file's time counts only for the first one.
+    const int64_t known = lastListing(address);
+    const int64_t listedAt = storedSince == 0 || known == 0 ? storedSince : known;
+    if (listedAt != known)
+        rememberListing(address, listedAt);
+    m_silent[name] = {std::chrono::steady_clock::now(), listedAt};
 }
 
 QString DeviceWait::note(const std::string &device) const
@@ -106,9 +116,9 @@ QString DeviceWait::note(const std::string &device) const
     const auto silent = m_silent.find(device);
     if (silent == m_silent.end())
         return {};
-    if (silent->second.storedSince == 0)
+    if (silent->second.listedAt == 0)
         return tr("The printer did not answer. None of its profiles are known.");
-    const QDateTime since = QDateTime::fromSecsSinceEpoch(silent->second.storedSince);
+    const QDateTime since = QDateTime::fromSecsSinceEpoch(silent->second.listedAt);
     const QLocale locale;
     return tr("The printer did not answer. Its profiles are shown as of %1, %2.", "date and time")
         .arg(locale.toString(since.date(), tr("d MMMM", "a date in the notation of QLocale")),

@@ -30,8 +30,8 @@ public:
     // The panel shows the wait and has the button Skip; `cancel` is the dialog's own button. All are borrowed.
     DeviceWait(WaitPanel *panel, InputGate *gate, QWidget *cancel);
 
-    // Panels may wait between these two; at other times they block.
-    void begin();
+    // Panels may wait between these two; at other times they block. `printer` is the name that people know.
+    void begin(const QString &printer);
     void end();
     // Ends the wait that is under way. Nothing else is waited for until end().
     void giveUp();
@@ -49,7 +49,7 @@ private:
     struct Silence
     {
         std::chrono::steady_clock::time_point at; // when it did not answer
-        int64_t storedSince = 0;
+        int64_t listedAt = 0; // when it listed its profiles the last time, in seconds since 1970; 0: never
     };
 
     WaitPanel *m_panel;
@@ -58,6 +58,7 @@ private:
     QEventLoop m_loop;
     std::map<std::string, Silence> m_silent; // devices that did not answer the last time
     std::string m_device;
+    QString m_printer;
     bool m_isOn = false;
     bool m_gaveUp = false;
 };

@@ -44,16 +44,20 @@ void InputGate::close(const QList<QWidget *> &buttons)
     while (QWidget *popUp = QApplication::activePopupWidget())
         if (!popUp->close())
             break;
-    if (!m_isClosed)
-        qApp->installEventFilter(this);
+    if (m_isClosed)
+        return;
+    qApp->installEventFilter(this);
     m_isClosed = true;
+    emit switched(true);
 }
 
 void InputGate::open()
 {
-    if (m_isClosed)
-        qApp->removeEventFilter(this);
+    if (!m_isClosed)
+        return;
+    qApp->removeEventFilter(this);
     m_isClosed = false;
+    emit switched(false);
 }
 
 bool InputGate::isOurs(const QWidget *widget) const

@@ -24,6 +24,8 @@ public:
     bool isClosed() const { return m_isClosed; }
 
 signals:
+    // Input is dropped from now on, or is let through again.
+    void switched(bool isClosed);
     // The user pressed Esc while the gate was closed.
     void escaped();
 

@@ -53,6 +53,7 @@ constexpr int kRestMilliseconds = 200;
 // Topics of messages. Of each, only the last message stands.
 const QString kActionTopic = QStringLiteral("action"); // what became of the user's last action
 const QString kDocumentTopic = QStringLiteral("documents");
+const QString kStoppedTopic = QStringLiteral("stopped");
 
 // The size of the last time, or wide enough for pane and summary side by side; no larger than the screen.
 QSize startSize(bool remembers)
@@ -92,7 +93,7 @@ PrintDialog::PrintDialog(std::shared_ptr<const QueueSource> source, std::shared_
     updateTitle();
     if (m_start.caller)
         followCaller(*m_start.caller);
-    m_parts->queues->setQueues({});
+    m_parts->queues->showLooking();
     m_parts->showWait(nullptr, tr("Looking for printers…"));
     m_parts->summary->showNote(QString());
     setBusy(true);
@@ -150,6 +151,7 @@ void PrintDialog::connectParts()
             &DocumentList::chooseFiles);
     connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, m_parts->print, &QPushButton::click);
     connect(m_gate, &InputGate::escaped, this, &PrintDialog::reject);
+    connect(m_gate, &InputGate::switched, m_parts, &PrintDialogLayout::showDropped);
 }
 
 void PrintDialog::followCaller(const DialogCaller &caller)
@@ -217,6 +219,7 @@ void PrintDialog::takeQueues(const Result<std::vector<PrintQueue>> &queues)
     if (m_rooms.empty()) {
         m_parts->message->say(MessageBar::Kind::Problem, m_noQueue, tr("Look &Again"), [this] {
             setBusy(true);
+            m_parts->queues->showLooking();
             m_parts->showWait(nullptr, tr("Looking for printers…"));
             listQueues();
         });
@@ -258,6 +261,7 @@ void PrintDialog::chooseQueue(const QString &queue)
         }
     }
     m_parts->message->clear();
+    m_saidStopped = false;
     m_openFailure.clear();
     m_current = chosen;
     m_opening.cancel();
@@ -294,6 +298,7 @@ void PrintDialog::followQueues(const std::vector<PrintQueue> &queues)
         if (!room(queue.name))
             m_rooms.push_back(std::make_unique<QueueRoom>(queue));
     m_parts->queues->setQueues(shown, lastPrinters());
+    sayStopped();
     updateReadiness();
 }
 
@@ -380,7 +385,7 @@ void PrintDialog::preparePane()
     if (!m_current || m_current->state() == QueueRoom::State::Listed)
         return;
     if (m_current->state() == QueueRoom::State::Opened) {
-        m_deviceWait->begin();
+        m_deviceWait->begin(queueTitle(m_current->queue()));
         m_current->preparePane(m_loader);
         m_deviceWait->end();
         m_current->setDevice(m_deviceWait->device());
@@ -408,10 +413,7 @@ void PrintDialog::showCurrent()
         m_parts->showQueue(m_current->rows(), m_current->pane(), m_current->paneName(), m_current->noPaneReason());
         offerPresets();
         m_parts->showPaneNote(m_deviceWait->note(m_current->device()));
-        if (m_current->queue().isStopped)
-            m_parts->message->say(MessageBar::Kind::Note,
-                                  tr("This printer is stopped. You can print all the same: it keeps the job and prints "
-                                     "it once it is resumed."));
+        sayStopped();
         surveyOthers();
     }
     refreshSummary();
@@ -470,6 +472,19 @@ void PrintDialog::setBusy(bool busy)
 void PrintDialog::say(const QString &problem)
 {
     m_parts->message->say(MessageBar::Kind::Problem, problem, QString(), {}, kActionTopic);
+}
+
+void PrintDialog::sayStopped()
+{
+    const bool isStopped = m_current && m_current->state() == QueueRoom::State::Ready && m_current->queue().isStopped;
+    if (!isStopped)
+        m_parts->message->drop(kStoppedTopic);
+    else if (!m_saidStopped)
+        m_parts->message->say(MessageBar::Kind::Note,
+                              tr("This printer is stopped. You can print all the same: it keeps the job and prints it "
+                                 "once it is resumed."),
+                              QString(), {}, kStoppedTopic);
+    m_saidStopped = isStopped;
 }
 
 void PrintDialog::note(const QString &sentence)
@@ -564,7 +579,8 @@ void PrintDialog::print()
                                   : Result<JobRequest>::failure(tr("The choices are not complete yet."));
     });
     setBusy(true);
-    m_gate->close({m_parts->sending->stopButton(), m_parts->cancel});
+    m_gate->close({m_parts->sending->stopButton()});
+    m_parts->cancel->hide(); // of two buttons that cancel, people would not know which does what
     m_parts->sending->stopButton()->setFocus();
     updateReadiness();
 }
@@ -611,6 +627,7 @@ void PrintDialog::endSending()
     if (!m_gate->isClosed())
         return;
     m_gate->open();
+    m_parts->cancel->show();
     setBusy(false);
     updateReadiness();
     m_current->enter();

@@ -103,6 +103,8 @@ private:
     QueueRoom *room(const QString &queue);
     void setBusy(bool busy);
     void say(const QString &problem);
+    // Says that the chosen printer is stopped, as long as it is.
+    void sayStopped();
     void note(const QString &sentence);
     void offerPresets();
     void refreshSummary();
@@ -150,6 +152,7 @@ private:
     bool m_begun = false;
     bool m_busy = false;
     bool m_hadPrinter = false;
+    bool m_saidStopped = false; // of the chosen printer, and it still is
 };
 
 } // namespace bv

@@ -84,6 +84,14 @@ void MessageBar::remove(MessageRow *row)
     updateGeometry();
 }
 
+void MessageBar::drop(const QString &topic)
+{
+    const auto found =
+        std::find_if(m_rows.begin(), m_rows.end(), [&topic](const MessageRow *one) { return one->topic() == topic; });
+    if (found != m_rows.end())
+        remove(*found);
+}
+
 void MessageBar::clear()
 {
     while (!m_rows.empty())

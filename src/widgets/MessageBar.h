@@ -27,6 +27,8 @@ public:
     // action runs. A message with the same text, or the same topic where there is one, is replaced.
     void say(Kind kind, const QString &text, const QString &actionName = QString(), std::function<void()> action = {},
              const QString &topic = QString());
+    // Removes the message of this topic, if there is one.
+    void drop(const QString &topic);
     // Removes all messages.
     void clear();
     // The texts of all messages in full, a line each at least; empty when there is none.

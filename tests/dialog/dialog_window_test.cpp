@@ -193,6 +193,11 @@ TEST_F(Dialog, ChoosesTheDefaultQueueAndShowsItsState)
     EXPECT_FALSE(find<QLabel>("printerNote")->text().contains("takes no jobs"));
     EXPECT_TRUE(dialog->messageText().contains("stopped"));
     EXPECT_TRUE(dialog->printReason().isEmpty());
+    // Somebody resumes it.
+    source.relist([](auto &listed) { listed[1].isStopped = false; });
+    find<PrinterMenu>("printer")->showPopup(); // asks at once
+    EXPECT_TRUE(QTest::qWaitFor([&] { return dialog->messageText().isEmpty(); }, 20000));
+    find<PrinterMenu>("printer")->hidePopup();
     ASSERT_TRUE(print());
     EXPECT_EQ(sink.jobs.size(), 1U);
 }
@@ -433,6 +438,8 @@ TEST_F(Dialog, WhileAJobIsSentOnlyCancelWorks)
     auto *printers = find<QComboBox>("printer");
     find<QPushButton>("print")->click();
     ASSERT_TRUE(QTest::qWaitFor([&] { return find<QPushButton>("cancelJob")->isVisible(); }));
+    EXPECT_FALSE(find<QPushButton>("cancel")->isVisible()) << "only one button cancels";
+    EXPECT_FALSE(find<QSpinBox>("copies")->isEnabled());
     QTest::mouseClick(find<QPushButton>("print"), Qt::LeftButton);
     QTest::keyClick(find<QSpinBox>("copies"), Qt::Key_Up);
     QTest::keyClick(find<QSpinBox>("copies"), Qt::Key_Return);
@@ -442,6 +449,7 @@ TEST_F(Dialog, WhileAJobIsSentOnlyCancelWorks)
     // The job is stopped, and everything can be used again.
     QTest::mouseClick(find<QPushButton>("cancelJob"), Qt::LeftButton);
     EXPECT_EQ(dialog->printReason(), QString());
+    EXPECT_TRUE(find<QPushButton>("cancel")->isVisible());
     EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog->messageText().contains(u"…"); }));
     QTest::keyClick(find<QSpinBox>("copies"), Qt::Key_Up);
     EXPECT_EQ(find<QSpinBox>("copies")->value(), 2);
@@ -475,6 +483,7 @@ TEST_F(Dialog, CancelEndsItWhileThePrintServerIsSilent)
     dialog->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
     EXPECT_TRUE(find<QWidget>("waitIndicator")->isVisible());
+    EXPECT_FALSE(find<QComboBox>("printer")->placeholderText().contains("No printer"));
     EXPECT_TRUE(dialog->isWaiting());
     find<QPushButton>("cancel")->click();
     EXPECT_FALSE(dialog->isVisible());

@@ -85,8 +85,11 @@ protected:
 TEST_F(SilentPrinter, CanBeSkippedAndIsLeftAloneForAWhile)
 {
     openAndWait("One", [this](QPushButton *skip) {
-        EXPECT_TRUE(find<QLabel>("placeText")->text().contains("127.0.0.1"));
+        EXPECT_TRUE(find<QLabel>("placeText")->text().contains("“One”"));
         EXPECT_TRUE(find<QWidget>("waitIndicator")->isVisible());
+        EXPECT_FALSE(find<QSpinBox>("copies")->isEnabled());
+        EXPECT_FALSE(find<QComboBox>("printer")->isEnabled());
+        EXPECT_FALSE(skip->hasFocus());
         // All of this is lost.
         QTest::keyClick(find<QSpinBox>("copies"), Qt::Key_Up);
         QTest::mouseClick(find<QPushButton>("print"), Qt::LeftButton);
@@ -96,6 +99,7 @@ TEST_F(SilentPrinter, CanBeSkippedAndIsLeftAloneForAWhile)
     ASSERT_TRUE(isReady());
     EXPECT_NE(dialog->findChild<QComboBox *>("menu_QuickColor"), nullptr);
     EXPECT_EQ(find<QSpinBox>("copies")->value(), 1);
+    EXPECT_EQ(dialog->focusWidget(), find<QSpinBox>("copies"));
     EXPECT_TRUE(find<QLabel>("paneNote")->text().contains("did not answer"));
     expectNoChildAndNoRest();
 
@@ -127,15 +131,26 @@ TEST(DeviceWait, TheNoteGoesWhenTheDeviceAnswers)
     bv::WaitPanel panel(&dialog);
     bv::InputGate gate(&dialog);
     bv::DeviceWait wait(&panel, &gate, &panel);
-    wait.begin();
+    wait.begin("Hall");
     EXPECT_TRUE(wait.wantsDevice("10.0.0.1"));
     wait.deviceAsked("10.0.0.1", false, 1);
     EXPECT_FALSE(wait.wantsDevice("10.0.0.1"));
     EXPECT_TRUE(wait.wantsDevice("10.0.0.2"));
     EXPECT_TRUE(wait.note("10.0.0.1").contains("January"));
+    // What failed wrote the list, here and in another window.
+    constexpr int64_t kAfterFailure = 4'000'000'000;
+    wait.deviceAsked("10.0.0.1", false, kAfterFailure);
+    EXPECT_TRUE(wait.note("10.0.0.1").contains("January"));
+    bv::DeviceWait later(&panel, &gate, &panel);
+    later.deviceAsked("10.0.0.1", false, kAfterFailure);
+    EXPECT_EQ(later.note("10.0.0.1"), wait.note("10.0.0.1"));
     wait.deviceAsked("10.0.0.1", true, 1);
     EXPECT_TRUE(wait.wantsDevice("10.0.0.1"));
     EXPECT_EQ(wait.note("10.0.0.1"), QString());
+    later.deviceAsked("10.0.0.1", false, kAfterFailure);
+    EXPECT_FALSE(later.note("10.0.0.1").contains("January")) << "it listed its profiles just now";
+    later.deviceAsked("10.0.0.1", false, 0);
+    EXPECT_TRUE(later.note("10.0.0.1").contains("None")) << "the list is gone";
     // Outside a preparation a panel waits as in any dialog.
     wait.giveUp();
     wait.end();
@@ -143,7 +158,7 @@ TEST(DeviceWait, TheNoteGoesWhenTheDeviceAnswers)
     ASSERT_EQ(pipe(ends.data()), 0);
     close(ends[1]);
     EXPECT_EQ(wait.waitForInput(ends[0], std::nullopt), bv::PanelWait::End::Input);
-    wait.begin();
+    wait.begin("Hall");
     wait.giveUp();
     EXPECT_EQ(wait.waitForInput(ends[0], std::nullopt), bv::PanelWait::End::GaveUp);
     close(ends[0]);
