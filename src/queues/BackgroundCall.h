@@ -4,6 +4,7 @@
 // even if the thread hangs where nothing can end it, as in a resolver. Such a thread is left behind.
 #pragma once
 
+#include "platform/DetachedThreads.h"
 #include "queues/CallControl.h"
 
 #include <QCoreApplication>
@@ -16,24 +17,6 @@
 #include <optional>
 
 namespace bv {
-
-// Starts a thread that nobody waits for. False when the system has none to give.
-bool startDetached(std::function<void()> body);
-
-// Keeps the end of the program back for a moment: until this is destroyed, or for kFinishMilliseconds.
-class UnfinishedWork
-{
-public:
-    UnfinishedWork();
-    ~UnfinishedWork();
-    UnfinishedWork(const UnfinishedWork &) = delete;
-    UnfinishedWork &operator=(const UnfinishedWork &) = delete;
-};
-inline constexpr int kFinishMilliseconds = 1500;
-
-// Call it at the end of main(): waits shortly for unfinished work. False when threads are still running; then the
-// program must end without running destructors that they could meet (std::_Exit).
-bool detachedThreadsEnded();
 
 // What the two threads of a call share.
 template <typename T> struct CallState

@@ -3,6 +3,8 @@
 #include "widgets/DocumentList.h"
 
 #include "platform/PlainTip.h"
+#include "widgets/FileProbe.h"
+#include "widgets/Mnemonics.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -56,15 +58,18 @@ protected:
 };
 
 constexpr int kPathRole = Qt::UserRole;
+constexpr int kSizeRole = Qt::UserRole + 1; // in bytes
 
-// Why a file cannot be printed. Empty when it can.
-QString whyNot(const QFileInfo &file)
+// Why a file cannot be printed. Empty when it can, or when its disk does not answer: it is asked again before printing.
+QString whyNot(const QFileInfo &file, const FileFacts &facts)
 {
-    if (!file.exists())
+    if (!facts.isKnown)
+        return {};
+    if (!facts.exists)
         return DocumentList::tr("“%1” was not found.").arg(file.filePath());
-    if (file.isDir())
+    if (facts.isFolder)
         return DocumentList::tr("“%1” is a folder. Add the files in it.").arg(file.fileName());
-    if (!file.isReadable())
+    if (!facts.isReadable)
         return DocumentList::tr("“%1” cannot be read. Ask its owner for leave to read it.").arg(file.fileName());
     return {};
 }
@@ -122,9 +127,10 @@ void DocumentList::addDocuments(const QStringList &paths)
     QStringList known = documents();
     QStringList reasons;
     bool added = false;
-    for (const QString &path : paths) {
-        const QFileInfo file(path);
-        if (const QString reason = whyNot(file); !reason.isEmpty()) {
+    const std::vector<FileFacts> facts = probeFiles(paths);
+    for (qsizetype i = 0; i < paths.size(); ++i) {
+        const QFileInfo file(paths[i]);
+        if (const QString reason = whyNot(file, facts[size_t(i)]); !reason.isEmpty()) {
             reasons << reason;
             continue;
         }
@@ -136,6 +142,7 @@ void DocumentList::addDocuments(const QStringList &paths)
         known << absolute;
         auto *item = new QListWidgetItem(file.fileName(), m_list);
         item->setData(kPathRole, absolute);
+        item->setData(kSizeRole, facts[size_t(i)].size);
         item->setToolTip(plainTip(absolute));
         added = true;
     }
@@ -195,6 +202,9 @@ void DocumentList::removeSelected()
     // The Remove button is disabled when the list becomes empty, so the focus moves to the list first.
     m_list->setFocus();
     qDeleteAll(selected);
+    // The next one, so that the key can be pressed again.
+    if (QListWidgetItem *next = m_list->currentItem())
+        next->setSelected(true);
     updateButtons();
     emit documentsChanged();
 }
@@ -223,13 +233,21 @@ void DocumentList::moveSelected(bool up)
 void DocumentList::countDocuments()
 {
     qint64 size = 0;
-    for (const QString &path : documents())
-        size += QFileInfo(path).size();
-    m_label->setText(m_list->count() == 0
-                         ? tr("&Documents:")
-                         : tr("&Documents (%1, %2):", "number and size")
-                               .arg(m_list->count())
-                               .arg(QLocale().formattedDataSize(size, 1, QLocale::DataSizeTraditionalFormat)));
+    for (int row = 0; row < m_list->count(); ++row)
+        size += m_list->item(row)->data(kSizeRole).toLongLong();
+    const auto title = [](int count, qint64 bytes) {
+        return tr("&Documents (%1, %2):", "number and size")
+            .arg(count)
+            .arg(QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeTraditionalFormat));
+    };
+    m_label->setText(m_list->count() == 0 ? tr("&Documents:") : title(m_list->count(), size));
+    // The column keeps its width while documents come and go.
+    constexpr int kManyDocuments = 88;
+    constexpr qint64 kManyBytes = 91 << 10;
+    const auto widthOf = [this](const QString &text) {
+        return fontMetrics().horizontalAdvance(withoutMnemonic(text)) + m_label->margin();
+    };
+    m_label->setMinimumWidth(std::max(widthOf(title(kManyDocuments, kManyBytes)), widthOf(m_label->text())));
     m_list->updateGeometry();
 }
 

@@ -155,6 +155,8 @@ TEST_F(DialogParts, OrdersTheDocumentsByKeys)
     EXPECT_EQ(changed.count(), 4);
     QTest::keyClick(documents.list(), Qt::Key_Delete);
     EXPECT_EQ(order(), "da");
+    QTest::keyClick(documents.list(), Qt::Key_Delete);
+    EXPECT_EQ(order().size(), 1) << "the next one is selected";
 }
 
 TEST_F(DialogParts, AcceptsOnlyLocalFilesFromADrop)

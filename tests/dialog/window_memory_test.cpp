@@ -76,7 +76,8 @@ protected:
             for (const QWidget *parent = widget; parent != dialog.get(); parent = parent->parentWidget()) {
                 const QRect around = placeOf(parent);
                 EXPECT_TRUE(place.isNull() || (place.left() >= around.left() && place.right() <= around.right()))
-                    << name << " is cut";
+                    << name << " is cut: " << place.left() << "-" << place.right() << " in " << around.left() << "-"
+                    << around.right();
             }
         }
         return found;

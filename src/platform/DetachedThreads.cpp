@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // Detached threads, counted.
-#include "queues/BackgroundCall.h"
+#include "platform/DetachedThreads.h"
 
+#include <atomic>
+#include <chrono>
 #include <system_error>
 #include <thread>
 
@@ -15,8 +17,8 @@ std::atomic<int> unfinishedWorks = 0;
 
 template <typename Condition> void waitFor(Condition condition, std::chrono::milliseconds limit)
 {
-    const auto deadline = CallControl::Clock::now() + limit;
-    while (!condition() && CallControl::Clock::now() < deadline)
+    const auto deadline = std::chrono::steady_clock::now() + limit;
+    while (!condition() && std::chrono::steady_clock::now() < deadline)
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
 }
 
