@@ -3,7 +3,7 @@
 #include "dialog/DeviceWait.h"
 
 #include "dialog/InputGate.h"
-#include "dialog/WindowSettings.h"
+#include "dialog/ListingTimes.h"
 #include "widgets/WaitPanel.h"
 
 #include <QDateTime>

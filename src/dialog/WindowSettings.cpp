@@ -15,8 +15,6 @@ const QString kPreviewFolded = QStringLiteral("preview/folded");
 const QString kWindowSize = QStringLiteral("window/size");
 const QString kLastPrinters = QStringLiteral("printers/last");
 
-const QString kListings = QStringLiteral("printers/listings"); // "SECONDS ADDRESS", the latest first
-
 constexpr qsizetype kMostPrinters = 20;
 
 QString settingsFile()
@@ -75,22 +73,6 @@ void rememberPrinter(const QString &queue)
     printers.removeAll(queue);
     printers.prepend(queue);
     store(kLastPrinters, printers.mid(0, kMostPrinters));
-}
-
-int64_t lastListing(const QString &address)
-{
-    for (const QString &line : load(kListings).toStringList())
-        if (line.section(u' ', 1) == address)
-            return line.section(u' ', 0, 0).toLongLong();
-    return 0;
-}
-
-void rememberListing(const QString &address, int64_t seconds)
-{
-    QStringList lines = load(kListings).toStringList();
-    lines.removeIf([&address](const QString &line) { return line.section(u' ', 1) == address; });
-    lines.prepend(QString::number(seconds) + u' ' + address);
-    store(kListings, lines.mid(0, kMostPrinters));
 }
 
 } // namespace bv

@@ -20,8 +20,4 @@ void rememberWindowSize(const QSize &size);
 QStringList lastPrinters();
 void rememberPrinter(const QString &queue);
 
-// When the printer at this address listed its profiles the last time, in seconds since 1970; 0 when that is not known.
-int64_t lastListing(const QString &address);
-void rememberListing(const QString &address, int64_t seconds);
-
 } // namespace bv
