@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // Kept in a settings file as lines "SECONDS ADDRESS", the latest first.
-#include "dialog/ListingTimes.h"
+#include "waiting/ListingTimes.h"
 
 #include "platform/Log.h"
 #include "queues/StateFolder.h"

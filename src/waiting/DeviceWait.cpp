@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // Waiting for a descriptor in an event loop, and remembering silent devices.
-#include "dialog/DeviceWait.h"
+#include "waiting/DeviceWait.h"
 
-#include "dialog/InputGate.h"
-#include "dialog/ListingTimes.h"
+#include "waiting/InputGate.h"
+#include "waiting/ListingTimes.h"
 #include "widgets/WaitPanel.h"
 
 #include <QDateTime>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // An event filter over the whole application.
-#include "dialog/InputGate.h"
+#include "waiting/InputGate.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // The steps of a job on its way.
-#include "dialog/JobSending.h"
+#include "waiting/JobSending.h"
 
 #include "widgets/SendingRow.h"
 

@@ -3,9 +3,9 @@
 #include "dialog/DialogWorld.h"
 #include "support/ListRoot.h"
 
-#include "dialog/DeviceWait.h"
 #include "dialog/WindowSettings.h"
-#include "dialog/InputGate.h"
+#include "waiting/DeviceWait.h"
+#include "waiting/InputGate.h"
 #include "widgets/WaitPanel.h"
 
 #include <QComboBox>
