@@ -500,11 +500,10 @@ void PrintDialog::refreshSummary()
             m_parts->presets->follow(choices.value());
     }
     m_parts->conflicts->showConflicts(m_current ? m_current->conflicts() : std::vector<Conflict>());
-    if (m_current && m_current->pane())
-        m_parts->summary->showSummary(m_current->summary(), m_current->defaultSummary(),
-                                      summaryHints(m_current->pane()));
+    if (m_current && m_current->state() == QueueRoom::State::Ready)
+        m_parts->summary->showEntries(m_current->summaryRows());
     else
-        m_parts->summary->showNote(m_current && !m_busy ? tr("There are no color options to sum up.") : QString());
+        m_parts->summary->showNote(QString());
     m_preview->follow(m_current);
     m_parts->why->refresh();
 }

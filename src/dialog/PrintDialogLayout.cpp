@@ -48,7 +48,8 @@ constexpr int kPreviewLines = 14;
 constexpr int kSideCharacters = 44;       // the side, at least
 constexpr int kWidestSideCharacters = 58; // the side, at most
 constexpr int kSummaryLines = 5;          // heading and rows of the summary below the settings, at least
-constexpr int kSummaryCharacters = 44;    // the summary, when it is beside the pane
+constexpr int kSummaryCharacters = 44;    // the summary, when it is beside the pane, at least
+constexpr int kWidestSummary = 56;        // and at most
 constexpr int kPaneCharacters = 66;       // the pane needs this much before the summary may be beside it
 
 QLabel *heading(const QString &text, QWidget *parent)
@@ -299,16 +300,17 @@ bool PrintDialogLayout::event(QEvent *event)
 void PrintDialogLayout::placeSummary()
 {
     const int character = fontMetrics().averageCharWidth();
-    const int summaryWidth = character * kSummaryCharacters;
     const int paneWidth = std::max(m_place->minimumSizeHint().width(), character * kPaneCharacters);
-    const bool aside = width() >= m_side->width() + paneWidth + summaryWidth + 4 * m_middle->spacing();
+    const int room = width() - m_side->width() - paneWidth - 4 * m_middle->spacing();
+    const bool aside = room >= character * kSummaryCharacters;
+    if (aside)
+        m_summaryBox->setFixedWidth(std::min(room, character * kWidestSummary));
     if (aside == m_summaryAside)
         return;
     m_summaryAside = aside;
     if (aside) {
         m_sideColumn->removeWidget(m_summaryBox);
         m_summaryBox->setMinimumHeight(0);
-        m_summaryBox->setFixedWidth(summaryWidth);
         m_middle->addWidget(m_summaryBox);
     } else {
         m_middle->removeWidget(m_summaryBox);

@@ -7,6 +7,9 @@
 #include "queues/PanelLoader.h"
 #include "queues/TicketJson.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace bv {
 
 QString noPaneSentence(const QString &queueTitle)
@@ -90,8 +93,12 @@ void QueueRoom::makePane(PanelLoader &loader)
     const PrintDictionary chosen = m_session->ticket().entries();
     m_session->ticket().clear();
     m_paneWarning = holder->prepare();
-    if (holder->area())
+    if (holder->area()) {
         m_defaultSummary = holder->panel().summaryInfo();
+        if (holder->panel().saveValuesAndReturnError(nullptr))
+            m_defaultChoices = presetOptions(m_session->ticket().entries());
+        m_session->ticket().clear();
+    }
     if (!chosen.entries.empty()) {
         m_session->ticket().replace(chosen);
         if (holder->area())
@@ -177,9 +184,23 @@ JobOptions QueueRoom::options()
     return jobOptions(choices.entries(), m_session->ppdFile());
 }
 
-PrintDictionary QueueRoom::summary()
+std::vector<SummaryEntry> QueueRoom::summaryRows()
 {
-    return m_holder ? m_holder->panel().summaryInfo() : PrintDictionary();
+    std::vector<SummaryEntry> rows = m_rows->summary();
+    if (!m_holder)
+        return rows;
+    std::vector<SummaryEntry> ofPanel =
+        summaryEntries(m_holder->panel().summaryInfo(), m_defaultSummary, summaryHints(pane()));
+    std::move(ofPanel.begin(), ofPanel.end(), std::back_inserter(rows));
+    return rows;
+}
+
+PrintDictionary QueueRoom::usualChoices() const
+{
+    PrintDictionary choices = m_defaultChoices;
+    for (const auto &[key, value] : m_rows->defaults().entries)
+        choices.setValue(key, value);
+    return choices;
 }
 
 void QueueRoom::updateConflicts()

@@ -86,10 +86,10 @@ public:
     // For looking up the meaning of an option. Null before open().
     ppd_file_t *ppd() const { return m_session ? m_session->ppdFile() : nullptr; }
 
-    // The panel's summary. An empty dictionary without a panel.
-    PrintDictionary summary();
-    // What the summary says while every setting is as the printer proposes. Empty without a panel.
-    const PrintDictionary &defaultSummary() const { return m_defaultSummary; }
+    // Rows for the summary: of the dialog's own rows, then of the panel.
+    std::vector<SummaryEntry> summaryRows();
+    // What presetChoices() gives while every setting is as the printer proposes.
+    PrintDictionary usualChoices() const;
     // Has the panel write its choices into the ticket, looks for conflicts, and says at each control what is in
     // conflict and where choices come from.
     void updateConflicts();
@@ -128,7 +128,9 @@ private:
     QString m_noPaneReason;
     QString m_paneWarning;
     std::string m_device;
+    // Of the panel, while every setting is as the printer proposes.
     PrintDictionary m_defaultSummary;
+    PrintDictionary m_defaultChoices;
     // The order matters: members are destroyed from last to first, the panel before its session and the rows before
     // their PPD.
     std::optional<PpdFile> m_rowsPpd;

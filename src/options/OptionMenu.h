@@ -8,6 +8,9 @@
 
 namespace bv {
 
+// The default choice of an option: its keyword, whether the PPD names it or it is the first one.
+QString defaultChoice(const ppd_option_t &option);
+
 class OptionMenu final : public QComboBox
 {
     Q_OBJECT
@@ -20,6 +23,9 @@ public:
     QString keyword() const { return QString::fromUtf8(m_option.keyword); }
     QString choice() const { return currentData().toString(); }
     QString name() const { return m_name; }
+    // What the printer proposes: a keyword, and its words.
+    QString usualChoice() const { return defaultChoice(m_option); }
+    QString usualText() const { return itemText(findData(usualChoice())); }
 
     // Chooses by keyword, without a signal. False if the option has no such choice.
     bool choose(const QString &choice);
@@ -50,8 +56,5 @@ inline QString textFor(const std::map<QString, QString> &texts, const QString &k
     const auto found = texts.find(keyword);
     return found == texts.end() ? QString() : found->second;
 }
-
-// The default choice of an option: its keyword, whether the PPD names it or it is the first one.
-QString defaultChoice(const ppd_option_t &option);
 
 } // namespace bv

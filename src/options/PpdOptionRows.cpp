@@ -4,6 +4,7 @@
 
 #include "options/MoreOptionsWindow.h"
 #include "options/OptionMenu.h"
+#include "options/PpdWords.h"
 #include "platform/PlainTip.h"
 
 #include <QFormLayout>
@@ -147,6 +148,29 @@ ConflictFinder::Choices PpdOptionRows::choices() const
     for (const FurtherOptions::Entry &entry : m_further.entries())
         choices[entry.keyword()] = entry.choice;
     return choices;
+}
+
+std::vector<SummaryEntry> PpdOptionRows::summary() const
+{
+    const SummaryHint general{tr("General settings"), {}};
+    std::vector<SummaryEntry> entries;
+    for (const OptionMenu *menu : m_menus)
+        entries.push_back({menu->name(), menu->currentText(), menu->usualText(), general});
+    for (const FurtherOptions::Entry &entry : m_further.entries()) {
+        const QString usual = defaultChoice(*entry.option);
+        if (entry.choice != usual)
+            entries.push_back({optionText(*entry.option), choiceText(*entry.option, entry.choice),
+                               choiceText(*entry.option, usual), general});
+    }
+    return entries;
+}
+
+PrintDictionary PpdOptionRows::defaults() const
+{
+    PrintDictionary defaults;
+    for (const OptionMenu *menu : m_menus)
+        defaults.setValue(menu->keyword(), menu->usualChoice());
+    return defaults;
 }
 
 bool PpdOptionRows::choose(const QString &keyword, const QString &choice)

@@ -6,6 +6,7 @@
 
 #include "options/ConflictFinder.h"
 #include "options/FurtherOptions.h"
+#include "widgets/SummaryView.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -50,6 +51,11 @@ public:
     static QStringList allLabels();
     // All choices of the options here, by keyword.
     ConflictFinder::Choices choices() const;
+    // All rows for the summary, and of the further options those that are not at their defaults: there may be
+    // thousands.
+    std::vector<SummaryEntry> summary() const;
+    // What writeTo() would write if nothing were chosen.
+    PrintDictionary defaults() const;
     // Makes a choice as the user would. False if it is none of the options here.
     bool choose(const QString &keyword, const QString &choice);
     // True if the PPD has any constraints.

@@ -24,6 +24,14 @@ QString choiceText(const ppd_choice_t &choice)
     return wordsOr(choice.text, choice.choice);
 }
 
+QString choiceText(const ppd_option_t &option, const QString &keyword)
+{
+    for (int i = 0; i < option.num_choices; ++i)
+        if (keyword == QString::fromUtf8(option.choices[i].choice))
+            return choiceText(option.choices[i]);
+    return keyword;
+}
+
 QString groupText(const ppd_group_t &group)
 {
     return wordsOr(group.text, group.name);

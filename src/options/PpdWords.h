@@ -10,6 +10,8 @@ namespace bv {
 // The PPD's texts, or the keywords where it has none. A text is plain; a label needs its ampersands doubled.
 QString optionText(const ppd_option_t &option);
 QString choiceText(const ppd_choice_t &choice);
+// The text of an option's choice by its keyword, or the keyword of one that the option does not have.
+QString choiceText(const ppd_option_t &option, const QString &keyword);
 QString groupText(const ppd_group_t &group);
 
 } // namespace bv

@@ -5,9 +5,12 @@
 #include "platform/HostProtocol.h"
 #include "platform/PlainTip.h"
 
+#include <QEvent>
 #include <QHeaderView>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <algorithm>
+#include <utility>
 
 namespace bv {
 
@@ -27,14 +30,45 @@ std::optional<QString> displayText(const PrintValue &value)
     return std::nullopt;
 }
 
+// Room around a text in a cell, as styles have it.
+int cellMargins(const QWidget &view)
+{
+    return 2 * (view.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &view) + 1);
+}
+
+// Makes a row as tall as its texts are when they are broken into lines. A tree by itself measures them as one line.
+class BreakingDelegate final : public QStyledItemDelegate
+{
+public:
+    explicit BreakingDelegate(const QTreeWidget &view, QObject *parent) : QStyledItemDelegate(parent), m_view(view) {}
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        const bool isHeading = !index.parent().isValid();
+        int width = isHeading ? m_view.viewport()->width() : m_view.columnWidth(index.column());
+        if (index.column() == 0)
+            width -= m_view.indentation() * (isHeading ? 1 : 2);
+        QStyleOptionViewItem broken(option);
+        broken.rect = QRect(0, 0, std::max(width, 1), 1);
+        constexpr QSize kApart(0, 2); // so that lines of one row are closer than rows
+        return QStyledItemDelegate::sizeHint(broken, index) + kApart;
+    }
+
+private:
+    const QTreeWidget &m_view;
+};
+
 } // namespace
 
-SummaryView::Items summaryItems(const PrintDictionary &summary)
+std::vector<SummaryEntry> summaryEntries(const PrintDictionary &summary, const PrintDictionary &defaults,
+                                         const SummaryHints &hints)
 {
-    SummaryView::Items items;
+    std::vector<SummaryEntry> entries;
+    QHash<QString, bool> known;
     const auto add = [&](const QString &name) {
-        if (std::optional<QString> text = displayText(summary.value(name)))
-            items.emplace_back(name, std::move(*text));
+        std::optional<QString> text = displayText(summary.value(name));
+        if (text && !std::exchange(known[name], true))
+            entries.push_back({name, std::move(*text), displayText(defaults.value(name)), hints.value(name)});
     };
     const QString orderKey = QString::fromLatin1(kSummaryDisplayOrder);
     const PrintValue order = summary.value(orderKey);
@@ -43,13 +77,13 @@ SummaryView::Items summaryItems(const PrintDictionary &summary)
             if (const QString *text = name.string())
                 add(*text);
         }
-        return items;
+        return entries;
     }
     for (const auto &entry : summary.entries) {
         if (entry.first != orderKey)
             add(entry.first);
     }
-    return items;
+    return entries;
 }
 
 SummaryHints summaryHints(const QWidget *view)
@@ -74,7 +108,8 @@ SummaryView::SummaryView(QWidget *parent) : QTreeWidget(parent)
     setHeaderLabels({tr("Setting"), tr("Choice")});
     setHeaderHidden(true);
     header()->setStretchLastSection(true);
-    setUniformRowHeights(true);
+    setWordWrap(true);
+    setItemDelegate(new BreakingDelegate(*this, this));
     setIndentation(fontMetrics().averageCharWidth() * 2);
     setSelectionMode(SingleSelection);
     setTabKeyNavigation(false);
@@ -86,11 +121,9 @@ SummaryView::SummaryView(QWidget *parent) : QTreeWidget(parent)
             [this](const QTreeWidgetItem *item) { m_unfolded[item->text(0)] = false; });
 }
 
-void SummaryView::showSummary(const PrintDictionary &summary, const PrintDictionary &defaults,
-                              const SummaryHints &hints)
+void SummaryView::showEntries(const std::vector<SummaryEntry> &entries)
 {
-    m_items = summaryItems(summary);
-    if (m_items.empty()) {
+    if (entries.empty()) {
         showNote(tr("There is nothing to sum up."));
         return;
     }
@@ -98,11 +131,13 @@ void SummaryView::showSummary(const PrintDictionary &summary, const PrintDiction
     const QString rest = tr("Unchanged");
     QStringList headings = {differs};
     std::vector<Row> rows;
-    for (const auto &[name, value] : m_items) {
-        const std::optional<QString> usual = displayText(defaults.value(name));
-        const SummaryHint hint = hints.value(name);
-        const bool changed = usual && *usual != value;
-        rows.push_back({changed ? differs : hint.group.isEmpty() ? rest : hint.group, name, value, hint.off, changed});
+    for (const SummaryEntry &entry : entries) {
+        const bool changed = entry.usual && *entry.usual != entry.value;
+        const QString &group = entry.hint.group;
+        rows.push_back({changed           ? differs
+                        : group.isEmpty() ? rest
+                                          : group,
+                        entry.name, entry.value, entry.hint.off, changed});
         if (!headings.contains(rows.back().heading))
             headings << rows.back().heading;
     }
@@ -115,6 +150,7 @@ void SummaryView::showSummary(const PrintDictionary &summary, const PrintDiction
         renewTexts();
     else
         rebuild();
+    fitColumns();
 }
 
 bool SummaryView::hasSamePlaces(const std::vector<Row> &rows) const
@@ -150,7 +186,6 @@ void SummaryView::rebuild()
         m_cells.push_back(new QTreeWidgetItem(heading));
     }
     renewTexts();
-    fitColumns();
     verticalScrollBar()->setValue(position);
 }
 
@@ -168,6 +203,7 @@ void SummaryView::renewTexts()
         strong.setBold(row.changed);
         for (const int column : {0, 1}) {
             cell.setText(column, column == 0 ? row.name : row.value);
+            cell.setTextAlignment(column, Qt::AlignTop | Qt::AlignLeading);
             cell.setData(column, Qt::ForegroundRole, row.off.isEmpty() ? QVariant() : dimmed);
             cell.setToolTip(column, plainTip(spoken));
         }
@@ -176,11 +212,35 @@ void SummaryView::renewTexts()
     }
 }
 
+int SummaryView::widestIn(int column, bool words) const
+{
+    int widest = 0;
+    for (const Row &row : m_rows) {
+        QFont shown = font();
+        shown.setBold(column == 1 && row.changed);
+        const QFontMetrics metrics(shown);
+        const QString &text = column == 0 ? row.name : row.value;
+        for (const QString &part : words ? text.split(u' ') : QStringList{text})
+            widest = std::max(widest, metrics.horizontalAdvance(part));
+    }
+    // A character more, since styles round in their own ways.
+    return widest + cellMargins(*this) + fontMetrics().averageCharWidth() + (column == 0 ? 2 * indentation() : 0);
+}
+
 void SummaryView::fitColumns()
 {
-    // Long names leave the values two fifths; the tip has what does not fit.
     const int room = viewport()->width();
-    setColumnWidth(0, std::min(sizeHintForColumn(0), room * 3 / 5));
+    const int names = widestIn(0, false);
+    int width = names;
+    if (names + widestIn(1, false) > room) {
+        // Values are read first: they stay in one line while the names keep two fifths, and no word of either column is
+        // cut as long as both find a place.
+        width = std::clamp(room - widestIn(1, false), room * 2 / 5, room * 3 / 5);
+        width = std::min({width, names, room - widestIn(1, true)});
+        width = std::max(width, std::min(widestIn(0, true), room * 4 / 5));
+    }
+    setColumnWidth(0, width);
+    scheduleDelayedItemsLayout(); // rows may be taller now, or less tall
 }
 
 void SummaryView::resizeEvent(QResizeEvent *event)
@@ -189,9 +249,15 @@ void SummaryView::resizeEvent(QResizeEvent *event)
     fitColumns();
 }
 
+void SummaryView::changeEvent(QEvent *event)
+{
+    QTreeWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        fitColumns();
+}
+
 void SummaryView::showNote(const QString &note)
 {
-    m_items.clear();
     m_rows.clear();
     m_cells.clear();
     clear();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// Shows the panel's summary as rows of name and value: first what differs from the printer's defaults, then the rest in
-// groups that can be folded.
+// Shows settings as rows of name and value: first what differs from the printer's defaults, then the rest in groups
+// that can be folded.
 #pragma once
 
 #include "platform/PrintValue.h"
@@ -8,7 +8,7 @@
 #include <QHash>
 #include <QStringList>
 #include <QTreeWidget>
-#include <utility>
+#include <optional>
 #include <vector>
 
 namespace bv {
@@ -25,31 +25,39 @@ using SummaryHints = QHash<QString, SummaryHint>;
 // Empty for a panel that has none.
 SummaryHints summaryHints(const QWidget *view);
 
+// A setting with its value, all as shown.
+struct SummaryEntry
+{
+    QString name;
+    QString value;
+    std::optional<QString> usual; // the value that the printer proposes; nothing: unknown, and nothing differs
+    SummaryHint hint = {};
+};
+
+// The items of a panel's summary. The order array decides; a name without a value is skipped, and so is a name that was
+// there before: it has the same value. Without an order array the items come in dictionary order. `defaults` is the
+// summary of a panel whose settings were never changed.
+std::vector<SummaryEntry> summaryEntries(const PrintDictionary &summary, const PrintDictionary &defaults = {},
+                                         const SummaryHints &hints = {});
+
 class SummaryView : public QTreeWidget
 {
     Q_OBJECT
 
 public:
-    // Names and values as shown.
-    using Items = std::vector<std::pair<QString, QString>>;
-
     explicit SummaryView(QWidget *parent = nullptr);
 
-    // Shows a panel's summary. The order array decides: an item named twice is shown twice, a name without a value is
-    // skipped. Without an order array the items are shown in dictionary order. `defaults` is the summary of a panel
-    // whose settings were never changed; without one nothing differs. Keeps what is folded and the scroll position.
-    void showSummary(const PrintDictionary &summary, const PrintDictionary &defaults = {},
-                     const SummaryHints &hints = {});
+    // Shows these settings, of whatever source. Keeps what is folded and the scroll position.
+    void showEntries(const std::vector<SummaryEntry> &entries);
     // Shows a sentence instead of items.
     void showNote(const QString &note);
 
-    // The items shown now, in the panel's order. Empty while a note is shown.
-    const Items &items() const { return m_items; }
     // The texts of all rows from top to bottom, "name: value" or a heading alone.
     QStringList lines() const;
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     struct Row
@@ -65,15 +73,15 @@ private:
     void rebuild();
     void renewTexts();
     QTreeWidgetItem *addHeading(const QString &text);
+    // Gives the names the room that they need, as long as the values keep theirs. What does not fit beside each other
+    // is broken into lines.
     void fitColumns();
+    // The widest text of a column, or the widest of its words, in pixels.
+    int widestIn(int column, bool words) const;
 
-    Items m_items;
     std::vector<Row> m_rows;                // in the order shown
     std::vector<QTreeWidgetItem *> m_cells; // one for each row
     QHash<QString, bool> m_unfolded;        // by heading, once the user has folded or unfolded it
 };
-
-// The items of a summary in display order.
-SummaryView::Items summaryItems(const PrintDictionary &summary);
 
 } // namespace bv

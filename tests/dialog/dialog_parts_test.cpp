@@ -30,11 +30,17 @@ TEST(Summary, FollowsTheOrderArrayAndSkipsValuesWithoutText)
     summary.setValue("B", "two");
     summary.setValue("A", PrintValue::integer(1));
     summary.setValue("C", PrintArray{});
-    EXPECT_EQ(summaryItems(summary), (SummaryView::Items{{"A", "1"}, {"B", "two"}}));
+    const auto shown = [&summary] {
+        QStringList shown;
+        for (const SummaryEntry &entry : summaryEntries(summary))
+            shown << entry.name + u'=' + entry.value;
+        return shown;
+    };
+    EXPECT_EQ(shown(), (QStringList{"A=1", "B=two"}));
     summary.setValue(kSummaryDisplayOrder, PrintArray{"B", "C", "missing", PrintValue::integer(3), "A", "B"});
-    EXPECT_EQ(summaryItems(summary), (SummaryView::Items{{"B", "two"}, {"A", "1"}, {"B", "two"}}));
+    EXPECT_EQ(shown(), (QStringList{"B=two", "A=1"}));
     summary.setValue(kSummaryDisplayOrder, "no array");
-    EXPECT_EQ(summaryItems(summary).size(), 2U);
+    EXPECT_EQ(shown().size(), 2);
 }
 
 TEST(Summary, ShowsWhatDiffersFirstAndTheRestInGroups)
@@ -46,7 +52,7 @@ TEST(Summary, ShowsWhatDiffersFirstAndTheRestInGroups)
     summary.setValue(kSummaryDisplayOrder, PrintArray{"Toner", "Photo", "<b>Sharp</b>", "Paper"});
     const SummaryHints hints = {{"Photo", {"Images", {}}}, {"<b>Sharp</b>", {"Images", "Gray is on."}}};
     SummaryView view;
-    view.showSummary(summary, defaults, hints);
+    view.showEntries(summaryEntries(summary, defaults, hints));
     EXPECT_EQ(view.lines(), (QStringList{"All as the printer proposes.", "Unchanged", "Toner: usual", "Paper: usual",
                                          "Images", "Photo: usual", "<b>Sharp</b>: usual"}));
     const QTreeWidgetItem *dimmed = view.topLevelItem(2)->child(1);
@@ -56,7 +62,7 @@ TEST(Summary, ShowsWhatDiffersFirstAndTheRestInGroups)
 
     summary.setValue("Photo", "vivid");
     view.topLevelItem(2)->setExpanded(true);
-    view.showSummary(summary, defaults, hints);
+    view.showEntries(summaryEntries(summary, defaults, hints));
     EXPECT_EQ(view.lines(), (QStringList{"Changed", "Photo: vivid", "Unchanged", "Toner: usual", "Paper: usual",
                                          "Images", "<b>Sharp</b>: usual"}));
     EXPECT_TRUE(view.topLevelItem(0)->isExpanded());
@@ -65,12 +71,40 @@ TEST(Summary, ShowsWhatDiffersFirstAndTheRestInGroups)
 
     const QTreeWidgetItem *row = view.topLevelItem(0)->child(0);
     summary.setValue("Photo", "vivid & <i>deep</i>");
-    view.showSummary(summary, defaults, {{"Photo", {"Images", {}}}, {"<b>Sharp</b>", {"Images", {}}}});
+    view.showEntries(summaryEntries(summary, defaults, {{"Photo", {"Images", {}}}, {"<b>Sharp</b>", {"Images", {}}}}));
     EXPECT_EQ(view.topLevelItem(0)->child(0), row) << "only texts are renewed";
     EXPECT_EQ(row->text(1), "vivid & <i>deep</i>");
     EXPECT_FALSE(view.topLevelItem(2)->child(0)->data(1, Qt::ForegroundRole).isValid());
     view.showNote("Nothing.");
     EXPECT_EQ(view.lines(), QStringList{"Nothing."});
+}
+
+TEST(Summary, BreaksLongNamesInsteadOfCuttingThem)
+{
+    SummaryView view;
+    view.resize(280, 400);
+    view.show();
+    for (const int points : {9, 18}) {
+        QFont font = view.font();
+        font.setPointSize(points);
+        view.setFont(font);
+        view.resize(view.fontMetrics().averageCharWidth() * 44, 400);
+        view.showEntries({{"Graphics Edge Enhancement", "Off", "On", {}},
+                          {"Graphics RGB Gray Treatment", "Black Toner for Gray", "Other", {}},
+                          {"Two-sided", "Long-Edge Binding, all of the sheets", "Off", {}}});
+        QCoreApplication::processEvents();
+        for (int i = 0; i < 3; ++i) {
+            const QTreeWidgetItem *row = view.topLevelItem(0)->child(i);
+            for (const int column : {0, 1}) {
+                const QRect room = view.visualRect(view.indexFromItem(row, column)).adjusted(3, 0, -3, 0);
+                const QRect needed =
+                    QFontMetrics(row->font(column))
+                        .boundingRect(QRect(0, 0, room.width(), 1000), Qt::TextWordWrap, row->text(column));
+                EXPECT_LE(needed.width(), room.width()) << points << row->text(column).toStdString();
+                EXPECT_LE(needed.height(), room.height()) << points << row->text(column).toStdString();
+            }
+        }
+    }
 }
 
 TEST(ChangeWatcherTest, ReportsSeveralChangesOfOneTurnOnce)

@@ -26,11 +26,8 @@ namespace {
 class Dialog : public bvtest::DialogTest
 {
 protected:
-    QString firstOfSummary()
-    {
-        const SummaryView::Items &items = find<SummaryView>("summaryView")->items();
-        return items.empty() ? QString() : items.front().first + ": " + items.front().second;
-    }
+    // The row of the panel's first option.
+    QString tonerInSummary() { return find<SummaryView>("summaryView")->lines().filter("Toner: ").join(u'\n'); }
     QString place() { return dialog->parts().placeText(); }
     QComboBox *toner() { return visibleControl<QComboBox>("tonerMenu"); }
 
@@ -90,11 +87,11 @@ TEST_F(Dialog, RestoreDefaultsResetsPaneAndRowsButNotTheJobsOwnRows)
     ticket.setValue("TPToner", "Rich");
     ticket.setValue("PageSize", "A6");
     open({QString(), ticket, {document}});
-    EXPECT_EQ(firstOfSummary(), "Toner: Rich");
+    EXPECT_EQ(tonerInSummary(), "Toner: Rich");
     EXPECT_EQ(find<QComboBox>("row_PageSize")->currentData().toString(), "A6");
     find<QSpinBox>("copies")->setValue(2);
     find<QPushButton>("restoreDefaults")->click();
-    EXPECT_EQ(firstOfSummary(), "Toner: Normal");
+    EXPECT_EQ(tonerInSummary(), "Toner: Normal");
     EXPECT_EQ(find<QComboBox>("row_PageSize")->currentData().toString(), "A4");
     EXPECT_EQ(find<QSpinBox>("copies")->value(), 2);
     ASSERT_TRUE(print());
@@ -165,7 +162,7 @@ TEST_F(Dialog, SwitchingQueuesKeepsThePaneAndValuesOfEach)
     EXPECT_EQ(toner(), first);
     EXPECT_EQ(first->currentIndex(), 1);
     EXPECT_EQ(visibleControl<QComboBox>("row_PageSize")->currentIndex(), 1);
-    EXPECT_EQ(firstOfSummary(), "Toner: Save");
+    EXPECT_EQ(tonerInSummary(), "Toner: Save");
 }
 
 TEST_F(Dialog, ExplainsAMissingPaneAndPrintsWithoutIt)
@@ -220,7 +217,7 @@ TEST_F(Dialog, FollowsThePrintersWhileItIsOpen)
     EXPECT_TRUE(shows([&] { return printers->findData("New") >= 0; }));
     EXPECT_EQ(printers->currentData().toString(), "Paper");
     EXPECT_TRUE(dialog->printReason().contains("no longer there")) << qPrintable(dialog->printReason());
-    EXPECT_EQ(firstOfSummary(), "Toner: Normal") << "what the user chose stays";
+    EXPECT_EQ(tonerInSummary(), "Toner: Normal") << "what the user chose stays";
     source.relist([&](auto &listed) {
         listed.push_back(paper);
         listed.back().acceptsJobs = false;
@@ -259,7 +256,7 @@ TEST_F(Dialog, AQueueWithoutDriverCannotPrintOffersARetryAndKeepsItsTicket)
     EXPECT_FALSE(dialog->printReason().isEmpty());
     EXPECT_FALSE(dialog->hadPrinter());
     switchTo("Paper");
-    EXPECT_EQ(firstOfSummary(), "Toner: Normal") << "the ticket is for the other queue";
+    EXPECT_EQ(tonerInSummary(), "Toner: Normal") << "the ticket is for the other queue";
     switchTo("Bare");
     source.ppdPaths["Bare"] = source.ppdPaths["Paper"];
     QSignalSpy ready(dialog.get(), &PrintDialog::ready);
@@ -270,7 +267,7 @@ TEST_F(Dialog, AQueueWithoutDriverCannotPrintOffersARetryAndKeepsItsTicket)
     const auto *printers = find<QComboBox>("printer");
     EXPECT_EQ(printers->currentText(), "Bare");
     EXPECT_EQ(printers->currentData(Qt::ToolTipRole).toString(), "") << "a stain of the failure";
-    EXPECT_EQ(firstOfSummary(), "Toner: Rich");
+    EXPECT_EQ(tonerInSummary(), "Toner: Rich");
     ASSERT_TRUE(print());
     EXPECT_EQ(sink.jobs[0].options.count("copies") + sink.jobs[0].options.count("page-ranges"), 0U)
         << "the dialog's own rows say these";
@@ -364,11 +361,33 @@ TEST_F(Dialog, ShowsConflictsBetweenThePaneAndTheRows)
     find<QComboBox>("row_PageSize")->setCurrentIndex(1);
     QTest::keyClick(toner(), Qt::Key_Down);
     EXPECT_TRUE(QTest::qWaitFor([&] { return conflict->isVisible(); }));
-    EXPECT_EQ(firstOfSummary(), "Toner: Save") << "live";
+    EXPECT_EQ(tonerInSummary(), "Toner: Save") << "live";
     EXPECT_TRUE(conflict->text().contains("Save")) << qPrintable(conflict->text());
     find<QComboBox>("row_PageSize")->setCurrentIndex(0);
     EXPECT_FALSE(conflict->isVisible());
     EXPECT_TRUE(dialog->printReason().isEmpty());
+}
+
+TEST_F(Dialog, SumsUpItsOwnRowsLikeThePanels)
+{
+    open();
+    const auto *summary = find<SummaryView>("summaryView");
+    EXPECT_EQ(summary->lines().mid(0, 4), (QStringList{"All as the printer proposes.", "General settings",
+                                                       "Paper size: A4 paper", "Two-sided: Off"}));
+    find<QComboBox>("row_Duplex")->setCurrentIndex(1);
+    EXPECT_EQ(summary->lines().mid(0, 2), (QStringList{"Changed", "Two-sided: Long edge"}));
+    QTest::keyClick(toner(), Qt::Key_Down);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return tonerInSummary() == "Toner: Save"; }));
+    EXPECT_EQ(summary->lines().mid(0, 3), (QStringList{"Changed", "Two-sided: Long edge", "Toner: Save"}));
+    const QTreeWidgetItem *row = summary->topLevelItem(0)->child(0);
+    EXPECT_TRUE(row->font(1).bold());
+    EXPECT_EQ(row->data(0, Qt::AccessibleTextRole).toString(), "Two-sided: Long edge");
+    // A printer without a panel has them as well, and its further options once they differ.
+    switchTo("Plain");
+    visibleControl<QComboBox>("row_PageSize")->setCurrentIndex(1);
+    visibleControl<QPushButton>("moreOptions")->click();
+    visibleControl<QComboBox>("row_XXToner")->setCurrentIndex(1);
+    EXPECT_EQ(summary->lines().mid(0, 3), (QStringList{"Changed", "Paper size: Postcard", "Toner: Save"}));
 }
 
 TEST_F(Dialog, ButtonsSettleAConflictAndPrintAsksOnce)
