@@ -20,6 +20,7 @@
 #include "waiting/DeviceWait.h"
 #include "waiting/InputGate.h"
 #include "waiting/JobSending.h"
+#include "widgets/ClickGuard.h"
 #include "widgets/DocumentList.h"
 #include "widgets/MessageBar.h"
 #include "widgets/Mnemonics.h"
@@ -85,6 +86,7 @@ PrintDialog::PrintDialog(std::shared_ptr<const QueueSource> source, std::shared_
     m_listFailures = std::make_unique<ListFailures>(m_loader, m_parts->message);
     m_watch = std::make_unique<PrinterWatch>(m_source);
     new WheelGuard(this);
+    new ClickGuard(this);
     new Mnemonics(this);
     connectParts();
     resize(startSize(m_start.remembersSize));
@@ -611,7 +613,7 @@ void PrintDialog::settle(const QString &keyword, const QString &choice)
     m_current->choose(keyword, choice);
     refreshSummary();
     const QList<QWidget *> &further = m_parts->conflicts->buttons();
-    (m_parts->conflicts->isHidden() || further.isEmpty() ? m_parts->print : further.front())->setFocus();
+    (further.isEmpty() ? m_parts->print : further.front())->setFocus();
 }
 
 void PrintDialog::stopSending()

@@ -24,19 +24,18 @@ QString conflictSentences(const std::vector<Conflict> &conflicts)
     return sentences.join(u'\n');
 }
 
-ConflictBar::ConflictBar(QWidget *parent) : QFrame(parent), m_text(new QLabel(this)), m_buttons(new QHBoxLayout)
+ConflictBar::ConflictBar(QWidget *parent)
+    : QFrame(parent), m_icon(new QLabel(this)), m_text(new QLabel(this)), m_buttons(new QHBoxLayout)
 {
     setObjectName(QStringLiteral("conflictBar"));
     setFrameShape(QFrame::StyledPanel);
     m_text->setObjectName(QStringLiteral("conflictText"));
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
-    auto *icon = new QLabel(this);
-    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size, size));
-    icon->setAlignment(Qt::AlignTop);
+    m_text->setAlignment(Qt::AlignTop | Qt::AlignLeading);
+    m_icon->setAlignment(Qt::AlignTop);
     auto *row = new QHBoxLayout;
-    row->addWidget(icon);
+    row->addWidget(m_icon);
     row->addWidget(m_text, 1);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(8, 4, 8, 4);
@@ -48,9 +47,15 @@ ConflictBar::ConflictBar(QWidget *parent) : QFrame(parent), m_text(new QLabel(th
 
 void ConflictBar::showConflicts(const std::vector<Conflict> &conflicts)
 {
-    const QString sentences = conflictSentences(conflicts);
+    m_sentences = conflictSentences(conflicts);
+    const bool isSettled = conflicts.empty();
+    const QString sentences = isSettled ? tr("Settled.", "conflicts") : m_sentences;
     m_text->setText(sentences);
     m_text->setAccessibleName(sentences);
+    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    m_icon->setPixmap(style()
+                          ->standardIcon(isSettled ? QStyle::SP_DialogApplyButton : QStyle::SP_MessageBoxWarning)
+                          .pixmap(size, size));
     QString shown;
     for (const Conflict::Way &way : conflicts.empty() ? std::vector<Conflict::Way>() : conflicts.front().ways)
         shown += way.words + u'\n';
@@ -69,19 +74,31 @@ void ConflictBar::showConflicts(const std::vector<Conflict> &conflicts)
             button->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
             setPlainTip(button, way.words);
             button->setAccessibleDescription(conflicts.front().sentence);
-            connect(button, &QPushButton::clicked, this, [this, way] { emit settled(way.keyword, way.choice); });
+            connect(button, &QPushButton::clicked, this, [this, way] { settle(way); });
             m_buttons->addWidget(button);
             button->show(); // at once, so that it can take the focus
             m_ways << button;
         }
         emit buttonsChanged();
     }
-    setVisible(!conflicts.empty());
+    setVisible(!isSettled || m_keepsPlace);
 }
 
-QString ConflictBar::text() const
+void ConflictBar::settle(const Conflict::Way &way)
 {
-    return m_text->text();
+    if (underMouse()) {
+        m_keepsPlace = true;
+        setMinimumHeight(height());
+    }
+    emit settled(way.keyword, way.choice);
+}
+
+void ConflictBar::leaveEvent(QEvent *event)
+{
+    QFrame::leaveEvent(event);
+    m_keepsPlace = false;
+    setMinimumHeight(0);
+    setVisible(!m_sentences.isEmpty());
 }
 
 } // namespace bv

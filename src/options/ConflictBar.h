@@ -18,10 +18,11 @@ class ConflictBar final : public QFrame
 public:
     explicit ConflictBar(QWidget *parent);
 
-    // Shows them, the buttons for the first one. Hides the bar when there are none.
+    // Shows them, the buttons for the first one. Hides the bar when there are none; but after one of its buttons it
+    // keeps its place until the pointer leaves it, so that nothing moves under the pointer.
     void showConflicts(const std::vector<Conflict> &conflicts);
-    // The sentences shown, or empty.
-    QString text() const;
+    // The sentences about the conflicts; empty when there is none, whether the bar is still there or not.
+    QString text() const { return m_sentences; }
     // In the order of the layout.
     const QList<QWidget *> &buttons() const { return m_ways; }
 
@@ -31,8 +32,16 @@ signals:
     // There are other buttons, at the end of the tab order.
     void buttonsChanged();
 
+protected:
+    void leaveEvent(QEvent *event) override;
+
 private:
+    void settle(const Conflict::Way &way);
+
+    QLabel *m_icon;
     QLabel *m_text;
+    QString m_sentences;
+    bool m_keepsPlace = false;
     QHBoxLayout *m_buttons;
     QList<QWidget *> m_ways; // the buttons
     QString m_shown;         // what the buttons stand for

@@ -2,11 +2,11 @@
 // The pop-up's items and notes.
 #include "options/OptionMenu.h"
 
+#include "options/ConflictMark.h"
 #include "options/PpdWords.h"
 #include "platform/PlainTip.h"
 
 #include <QSignalBlocker>
-#include <QStyle>
 #include <algorithm>
 
 namespace bv {
@@ -67,15 +67,7 @@ void OptionMenu::showNotes()
     notes.removeAll(QString());
     setAccessibleDescription(m_conflict);
     setPlainTip(this, notes.join(u'\n'));
-    const int marked = m_conflict.isEmpty() ? -1 : currentIndex();
-    if (marked == m_marked)
-        return;
-    const QSignalBlocker quiet(this);
-    if (m_marked >= 0)
-        setItemIcon(m_marked, QIcon());
-    if (marked >= 0)
-        setItemIcon(marked, style()->standardIcon(QStyle::SP_MessageBoxWarning));
-    m_marked = marked;
+    markConflict(*this, !m_conflict.isEmpty());
 }
 
 } // namespace bv

@@ -47,7 +47,6 @@ private:
     QString m_name;
     QString m_conflict;
     QString m_origin;
-    int m_marked = -1; // the item with the icon
 };
 
 // A text by keyword, or an empty one.

@@ -2,6 +2,7 @@
 // Reads and writes properties of a panel's controls.
 #include "options/PaneOptions.h"
 
+#include "options/ConflictMark.h"
 #include "options/OptionMenu.h"
 #include "platform/HostProtocol.h"
 #include "platform/PlainTip.h"
@@ -43,6 +44,7 @@ void explainControl(QWidget &control, const QString &conflict, const QString &or
     const QString description = lines({own, conflict});
     if (description != control.accessibleDescription())
         control.setAccessibleDescription(description);
+    markConflict(control, !conflict.isEmpty());
     control.setProperty(kOwnDescription, own);
     control.setProperty(kWholeDescription, description);
 }

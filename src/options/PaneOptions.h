@@ -18,7 +18,8 @@ std::map<QString, QString> overrulingChoices(const QWidget *view);
 bool showsOverruledControls(const QWidget *view);
 
 // Adds what is said about an option to the tool tip of its control, behind the panel's own words, and replaces what was
-// added before. Conflicts are added to the accessible description as well. Both maps hold sentences by keyword.
+// added before. Conflicts are added to the accessible description as well, and the control is marked. Both maps hold
+// sentences by keyword.
 void explainPane(const QWidget *view, const std::map<QString, QString> &conflicts,
                  const std::map<QString, QString> &origins);
 

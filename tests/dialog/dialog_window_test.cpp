@@ -18,6 +18,7 @@
 #include <QSpinBox>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 using namespace bv;
 
@@ -388,6 +389,47 @@ TEST_F(Dialog, SumsUpItsOwnRowsLikeThePanels)
     visibleControl<QPushButton>("moreOptions")->click();
     visibleControl<QComboBox>("row_XXToner")->setCurrentIndex(1);
     EXPECT_EQ(summary->lines().mid(0, 3), (QStringList{"Changed", "Paper size: Postcard", "Toner: Save"}));
+}
+
+TEST_F(Dialog, KeepsItsPlaceUnderThePointerOnceAConflictIsSettled)
+{
+    open();
+    visibleControl<QComboBox>("row_PageSize")->setCurrentIndex(1);
+    visibleControl<QComboBox>("row_Duplex")->setCurrentIndex(1);
+    QTest::keyClick(toner(), Qt::Key_Down);
+    auto *bar = find<QWidget>("conflictBar");
+    const auto sentences = [&] { return find<QLabel>("conflictText")->text().count(u'\n') + 1; };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return bar->isVisible() && sentences() == 2; }));
+    const auto *way = bar->findChild<QPushButton *>("settle_Duplex");
+    ASSERT_NE(way, nullptr);
+    QWindow *window = dialog->windowHandle();
+    const auto at = [this](const QWidget *button) { return button->mapTo(dialog.get(), button->rect().center()); };
+    const auto pointTo = [this](const QPoint &place) {
+        QCursor::setPos(dialog->mapToGlobal(place));
+        QCoreApplication::processEvents();
+    };
+    // The first click brings up the buttons for the other conflict, the second one of a double click presses none.
+    pointTo(at(way));
+    QTest::mouseDClick(window, Qt::LeftButton, {}, at(way));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ASSERT_EQ(sentences(), 1);
+    EXPECT_TRUE(find<QLabel>("conflictText")->text().contains("do not go together"));
+    const QRect place = bar->geometry();
+    // Far from the last click, so that the next one is none of a double click.
+    QTest::mouseClick(window, Qt::LeftButton, {}, at(find<QLabel>("conflictText")));
+    way = bar->findChild<QPushButton *>();
+    ASSERT_NE(way, nullptr);
+    pointTo(at(way));
+    QTest::mouseDClick(window, Qt::LeftButton, {}, at(way));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(find<QLabel>("conflictText")->text(), "Settled.");
+    EXPECT_EQ(bar->geometry(), place);
+    EXPECT_TRUE(bar->isVisible());
+    EXPECT_EQ(dialog->focusWidget(), find<QPushButton>("print"));
+    pointTo(at(bar));
+    EXPECT_TRUE(bar->isVisible());
+    pointTo(QPoint(5, 5));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !bar->isVisible(); }));
 }
 
 TEST_F(Dialog, ButtonsSettleAConflictAndPrintAsksOnce)

@@ -261,6 +261,7 @@ TEST_F(Options, TipsOfAPanelKeepItsOwnWords)
     explainPane(&view, {{"Pane", "Conflict."}}, {{"Pane", "Origin."}});
     EXPECT_EQ(control->toolTip(), "Own.\nConflict.\nOrigin.");
     EXPECT_EQ(control->accessibleDescription(), "Conflict.");
+    EXPECT_FALSE(control->icon().isNull());
     control->setToolTip("Greyed.");
     control->setAccessibleDescription("Greyed.");
     explainPane(&view, {{"Pane", "Conflict."}}, {});
@@ -268,6 +269,7 @@ TEST_F(Options, TipsOfAPanelKeepItsOwnWords)
     explainPane(&view, {}, {});
     EXPECT_EQ(control->toolTip(), "Greyed.");
     EXPECT_EQ(control->accessibleDescription(), "Greyed.");
+    EXPECT_TRUE(control->icon().isNull());
 }
 
 } // namespace
