@@ -428,7 +428,7 @@ void PrintDialog::offerPresets()
 {
     m_parts->presets->setTarget({m_current->queue().name, queueTitle(m_current->queue()),
                                  QString::fromUtf8(m_current->ppd()->nickname), m_current->started(),
-                                 [room = m_current] { return room->presetChoices(); },
+                                 m_current->usualChoices(), [room = m_current] { return room->presetChoices(); },
                                  [room = m_current](const PrintDictionary &options, const QString &origin) {
                                      return room->use(options, origin);
                                  },
@@ -564,6 +564,7 @@ void PrintDialog::restoreDefaults()
     if (!m_current)
         return;
     m_current->restoreDefaults();
+    m_parts->presets->showDefaults();
     refreshSummary();
 }
 

@@ -15,7 +15,6 @@ namespace bv {
 namespace {
 
 constexpr int kVersion = 1;
-constexpr qsizetype kLongestName = 60;         // characters
 constexpr qint64 kLargestFile = 1024LL * 1024; // bytes; real ones have some thousand
 const QString kVersionKey = QStringLiteral("bvprintPreset");
 const QString kNameKey = QStringLiteral("name");
@@ -43,8 +42,8 @@ QString presetNameProblem(const QString &name)
 {
     if (name.isEmpty())
         return tr("A preset needs a name.");
-    if (name.size() > kLongestName)
-        return tr("The name of a preset has at most %1 characters.").arg(kLongestName);
+    if (name.size() > kLongestPresetName)
+        return tr("The name of a preset has at most %1 characters.").arg(kLongestPresetName);
     if (std::any_of(name.begin(), name.end(), [](QChar one) { return one.category() == QChar::Other_Control; }))
         return tr("The name of a preset is one line of text.");
     return {};
@@ -66,13 +65,13 @@ Result<Preset> presetFromJson(const QByteArray &json, const QString &called)
     };
     const Result<PrintDictionary> read = ticketFromJson(json);
     if (!read)
-        return failure(read.error());
+        return failure(tr("It is no JSON object, as presets are."));
     const PrintDictionary &entries = read.value();
     const PrintValue version = entries.value(kVersionKey);
     if (!version.integer())
         return failure(tr("It is no preset of this dialog."));
     if (*version.integer() != kVersion)
-        return failure(tr("It was made by a newer version of this dialog."));
+        return failure(tr("It was made by a newer version of this dialog. Have that installed to use it."));
     const PrintValue name = entries.value(kNameKey);
     const PrintValue printer = entries.value(kPrinterKey);
     const PrintDictionaryRef options = entries.value(kOptionsKey).dictionary();

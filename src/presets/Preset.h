@@ -16,6 +16,8 @@ struct Preset
     PrintDictionary options; // texts and whole numbers only, none that belongs to one job
 };
 
+inline constexpr qsizetype kLongestPresetName = 60; // characters
+
 // The entries of a ticket that a preset keeps: texts and whole numbers, without copies and page range.
 PrintDictionary presetOptions(const PrintDictionary &ticket);
 

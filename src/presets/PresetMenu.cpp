@@ -3,24 +3,44 @@
 #include "presets/PresetMenu.h"
 
 #include "platform/PlainTip.h"
+#include "presets/PresetQuestions.h"
 #include "queues/StateFolder.h"
 #include "queues/TicketJson.h"
 
 #include <QDir>
 #include <QFileDialog>
-#include <QInputDialog>
+#include <QFileInfo>
+#include <QJsonObject>
 #include <QMenu>
-#include <QMessageBox>
+#include <utility>
 
 namespace bv {
 
 namespace {
 
 constexpr qsizetype kMostMisfits = 6; // that are listed; a preset of another printer may have dozens
+constexpr int kButtonCharacters = 32; // of a name on the button; the tip has all of it
+
+const QString kFileSuffix = QStringLiteral("json");
 
 QString inMenu(QString text)
 {
     return text.replace(u'&', QStringLiteral("&&"));
+}
+
+QString usualWords()
+{
+    return PresetMenu::tr("Printer's defaults");
+}
+
+QString fileKinds()
+{
+    return PresetMenu::tr("Presets (*.json)");
+}
+
+QString fromPreset(const QString &name)
+{
+    return PresetMenu::tr("From the preset “%1”.").arg(name);
 }
 
 QString quoted(const QString &name)
@@ -34,7 +54,6 @@ PresetMenu::PresetMenu(QWidget *parent) : QPushButton(parent), m_menu(new QMenu(
 {
     setObjectName(QStringLiteral("presets"));
     setAutoDefault(false);
-    setPlainTip(this, tr("Start from the printer's defaults, from the last job or from choices that you saved"));
     connect(m_menu, &QMenu::aboutToShow, this, &PresetMenu::fill);
     setMenu(m_menu);
     showName();
@@ -51,7 +70,7 @@ void PresetMenu::setTarget(Target target)
 
 void PresetMenu::setState(const QString &preset, const QString &what)
 {
-    state() = {preset, what, std::nullopt, false};
+    state() = {preset, what, std::nullopt, Look::AsChosen};
     showName();
 }
 
@@ -63,6 +82,9 @@ void PresetMenu::refill()
 
 void PresetMenu::fill()
 {
+    // Submenus are no actions of the menu's own; clearing it leaves them.
+    for (QMenu *each : m_menu->findChildren<QMenu *>(Qt::FindDirectChildrenOnly))
+        each->deleteLater();
     m_menu->clear();
     const auto add = [this](const QString &text, const QString &name, auto &&slot) {
         QAction *action = m_menu->addAction(text);
@@ -70,23 +92,35 @@ void PresetMenu::fill()
         connect(action, &QAction::triggered, this, slot);
         return action;
     };
-    add(tr("The Printer's &Defaults"), QStringLiteral("presetDefaults"), [this] { useDefaults(); });
+    const bool isUsual = state().look == Look::AsUsual || state().what == usualWords();
+    const auto mark = [](QAction *action, bool isInUse) {
+        action->setCheckable(true);
+        action->setChecked(isInUse);
+    };
+    mark(add(tr("The Printer's &Defaults"), QStringLiteral("presetDefaults"), [this] { useDefaults(); }), isUsual);
     add(tr("As &Last Time"), QStringLiteral("presetLastTime"), [this] {
         useLastTime();
     })->setEnabled(m_target.lastTime && m_target.lastTime());
     m_menu->addSeparator();
-    for (const QString &name : m_store.names(m_target.queue)) {
-        QAction *action = add(inMenu(name), QStringLiteral("preset_") + name, [this, name] { use(name); });
-        action->setCheckable(true);
-        action->setChecked(name == state().preset);
-    }
+    const QStringList names = m_store.names(m_target.queue);
+    for (const QString &name : names)
+        mark(add(inMenu(name), QStringLiteral("preset_") + name, [this, name] { use(name); }), name == inUse());
     m_menu->addSeparator();
-    const bool hasOne = !state().preset.isEmpty();
-    const QString one = hasOne ? quoted(inMenu(state().preset)) : tr("Preset");
     add(tr("&Save as Preset…"), QStringLiteral("presetSave"), [this] { save(); });
-    add(tr("&Rename %1…").arg(one), QStringLiteral("presetRename"), [this] { rename(); })->setEnabled(hasOne);
-    add(tr("D&elete %1").arg(one), QStringLiteral("presetDelete"), [this] { remove(); })->setEnabled(hasOne);
-    add(tr("E&xport %1…").arg(one), QStringLiteral("presetExport"), [this] { exportFile(); })->setEnabled(hasOne);
+    // Each preset can be chosen here, because using it first would change what the window shows.
+    const auto addFor = [this, &names](const QString &text, const QString &name, auto slot) {
+        QMenu *each = m_menu->addMenu(text);
+        each->menuAction()->setObjectName(name);
+        each->setEnabled(!names.isEmpty());
+        for (const QString &preset : names) {
+            QAction *action = each->addAction(tr("%1…", "a preset").arg(inMenu(preset)));
+            action->setObjectName(name + u'_' + preset);
+            connect(action, &QAction::triggered, this, [this, preset, slot] { (this->*slot)(preset); });
+        }
+    };
+    addFor(tr("&Rename"), QStringLiteral("presetRename"), &PresetMenu::rename);
+    addFor(tr("D&elete"), QStringLiteral("presetDelete"), &PresetMenu::remove);
+    addFor(tr("E&xport"), QStringLiteral("presetExport"), &PresetMenu::exportFile);
     add(tr("&Import…"), QStringLiteral("presetImport"), [this] { importFile(); });
 }
 
@@ -94,33 +128,38 @@ void PresetMenu::use(const QString &name)
 {
     const Result<Preset> preset = m_store.load(m_target.queue, name);
     if (preset)
-        apply(preset.value().options, quoted(preset.value().name), preset.value().name,
-              tr("From the preset “%1”.").arg(preset.value().name));
+        apply(preset.value().options, quoted(preset.value().name), quoted(preset.value().name), preset.value().name,
+              fromPreset(preset.value().name));
     else
         emit failed(preset.error());
 }
 
 void PresetMenu::useDefaults()
 {
-    apply({}, tr("Printer's defaults"), {}, {});
+    apply({}, usualWords(), usualWords(), {}, {});
 }
 
 void PresetMenu::useLastTime()
 {
     if (const std::optional<PrintDictionary> ticket = m_target.lastTime())
-        apply(presetOptions(*ticket), tr("As last time"), {}, tr("As in your last job."));
+        apply(presetOptions(*ticket), tr("As last time"), tr("As last time"), {}, tr("As in your last job."));
 }
 
-void PresetMenu::apply(const PrintDictionary &options, const QString &what, const QString &preset,
+void PresetMenu::showDefaults()
+{
+    setState({}, usualWords());
+}
+
+void PresetMenu::apply(const PrintDictionary &options, const QString &what, const QString &said, const QString &preset,
                        const QString &origin)
 {
     const PresetOutcome outcome = m_target.use(options, origin);
     setState(preset, what);
     emit used();
-    QString sentences = outcome.changed == 0 ? tr("%1: all settings were so already.").arg(what)
+    QString sentences = outcome.changed == 0 ? tr("%1: all settings were so already.").arg(said)
                         : outcome.changed == 1
-                            ? tr("%1: one setting changed.").arg(what)
-                            : tr("%1: %2 settings changed.").arg(what, QString::number(outcome.changed));
+                            ? tr("%1: one setting changed.").arg(said)
+                            : tr("%1: %2 settings changed.").arg(said, QString::number(outcome.changed));
     if (!outcome.misfits.isEmpty()) {
         sentences += u'\n' + tr("Not used:") + u'\n' + outcome.misfits.mid(0, kMostMisfits).join(u'\n');
         if (const qsizetype more = outcome.misfits.size() - kMostMisfits; more > 0)
@@ -134,24 +173,38 @@ void PresetMenu::follow(const PrintDictionary &choices)
     State &now = state();
     if (!now.chosen)
         now.chosen = choices;
-    const bool isChanged = toJson(*now.chosen) != toJson(choices);
-    if (isChanged == now.isChanged)
+    const QJsonObject present = toJson(choices);
+    const Look look = present == toJson(*now.chosen)      ? Look::AsChosen
+                      : present == toJson(m_target.usual) ? Look::AsUsual
+                                                          : Look::Changed;
+    if (look == now.look)
         return;
-    now.isChanged = isChanged;
+    now.look = look;
     showName();
 }
 
 void PresetMenu::showName()
 {
-    const QString what = state().what.isEmpty() ? tr("Printer's defaults") : state().what;
-    setText(state().isChanged ? tr("Pre&set: %1, changed").arg(inMenu(what)) : tr("Pre&set: %1").arg(inMenu(what)));
+    const State &now = state();
+    const QString what = now.look == Look::AsUsual || now.what.isEmpty() ? usualWords() : now.what;
+    const QString text = now.look == Look::Changed ? tr("Pre&set: %1, changed") : tr("Pre&set: %1");
+    const QString fitting =
+        fontMetrics().elidedText(what, Qt::ElideMiddle, fontMetrics().averageCharWidth() * kButtonCharacters);
+    setText(text.arg(inMenu(fitting)));
+    setPlainTip(this, (fitting == what ? QString() : what + u'\n') +
+                          tr("Start from the printer's defaults, from the last job or from choices that you saved"));
 }
 
 void PresetMenu::save()
 {
-    const QString name = askName(tr("Save as Preset"), state().preset);
-    if (name.isEmpty() || !mayReplace(name))
-        return;
+    QString name = inUse();
+    do {
+        name = askPresetName(this, tr("Save as Preset"), name, presetNameProblem);
+        if (name.isEmpty())
+            return;
+    } while (m_store.contains(m_target.queue, name) &&
+             !askBefore(this, tr("Save as Preset"), tr("There is a preset “%1” already. Replace it?").arg(name),
+                        tr("&Replace")));
     const Result<PrintDictionary> choices = m_target.choices();
     if (!choices) {
         emit failed(choices.error());
@@ -165,66 +218,91 @@ void PresetMenu::save()
                   .arg(name, m_target.title));
 }
 
-void PresetMenu::rename()
+void PresetMenu::rename(const QString &from)
 {
-    const QString name = askName(tr("Rename Preset"), state().preset);
-    if (name.isEmpty() || name == state().preset || !isDone(m_store.rename(m_target.queue, state().preset, name)))
+    const QString to = askPresetName(this, tr("Rename Preset"), from, [this, &from](const QString &name) {
+        return m_store.renameProblem(m_target.queue, from, name);
+    });
+    if (to.isEmpty() || to == from || !isDone(m_store.rename(m_target.queue, from, to)))
         return;
-    state().preset = name;
-    state().what = quoted(name);
-    showName();
+    if (state().preset == from) {
+        state().preset = to;
+        state().what = quoted(to);
+        showName();
+    }
     refill();
+    emit done(tr("The preset “%1” is called “%2” now.").arg(from, to));
 }
 
-void PresetMenu::remove()
+void PresetMenu::remove(const QString &name)
 {
-    const QString name = state().preset;
-    if (!isAgreed(tr("Delete Preset"),
-                  tr("Delete the preset “%1” of “%2”? The present choices stay.").arg(name, m_target.title)) ||
+    if (!askBefore(this, tr("Delete Preset"),
+                   tr("Delete the preset “%1” of “%2”? What is chosen now stays.").arg(name, m_target.title),
+                   tr("&Delete")) ||
         !isDone(m_store.remove(m_target.queue, name)))
         return;
-    state().preset.clear();
-    state().what = tr("Choices of “%1”").arg(name);
-    showName();
+    if (state().preset == name) {
+        state().preset.clear();
+        state().what = tr("Choices of “%1”").arg(name);
+        showName();
+    }
     refill();
     emit done(tr("The preset “%1” is deleted.").arg(name));
 }
 
-void PresetMenu::exportFile()
+void PresetMenu::exportFile(const QString &name)
 {
-    const Result<Preset> preset = m_store.load(m_target.queue, state().preset);
+    const Result<Preset> preset = m_store.load(m_target.queue, name);
     if (!preset) {
         emit failed(preset.error());
         return;
     }
-    const QString path = QFileDialog::getSaveFileName(
-        this, tr("Export Preset"), QDir::homePath() + u'/' + safeFileName(state().preset) + QStringLiteral(".json"),
-        tr("Presets (*.json)"));
-    if (path.isEmpty())
+    QFileDialog where(this, tr("Export Preset"), folder(), fileKinds());
+    where.setObjectName(QStringLiteral("presetFile"));
+    where.setAcceptMode(QFileDialog::AcceptSave);
+    where.setDefaultSuffix(kFileSuffix); // before it asks whether to replace a file
+    where.selectFile(safeFileName(name) + u'.' + kFileSuffix);
+    if (where.exec() != QDialog::Accepted)
         return;
+    const QString path = where.selectedFiles().value(0);
     QString error;
-    if (storeFile(path, presetToJson(preset.value()), &error))
-        emit done(tr("The preset “%1” is exported to %2.").arg(state().preset, path));
-    else
-        emit failed(tr("The preset “%1” could not be exported: %2: %3.").arg(state().preset, path, error));
+    if (storeFile(path, presetToJson(preset.value()), &error)) {
+        m_folder = QFileInfo(path).path();
+        emit done(tr("The preset “%1” is exported to %2.").arg(name, path));
+    } else
+        emit failed(tr("The preset “%1” could not be exported: %2: %3. Export it to a folder that you may write.")
+                        .arg(name, path, error));
 }
 
 void PresetMenu::importFile()
 {
-    const QString path = QFileDialog::getOpenFileName(this, tr("Import Preset"), QDir::homePath(),
-                                                      tr("Presets (*.json);;All files (*)"));
-    if (path.isEmpty())
+    QFileDialog which(this, tr("Import Preset"), folder(), fileKinds() + tr(";;All files (*)"));
+    which.setObjectName(QStringLiteral("presetFile"));
+    which.setFileMode(QFileDialog::ExistingFile);
+    if (which.exec() != QDialog::Accepted)
         return;
-    Result<Preset> preset = presetFromFile(path);
-    if (!preset) {
-        emit failed(preset.error());
+    const QString path = which.selectedFiles().value(0);
+    m_folder = QFileInfo(path).path();
+    Result<Preset> read = presetFromFile(path);
+    if (!read) {
+        emit failed(read.error() + u' ' + tr("Choose a file that was exported as a preset."));
         return;
     }
-    preset.value().name = m_store.freeName(m_target.queue, preset.value().name);
-    if (!isDone(m_store.store(m_target.queue, preset.value())))
+    Preset &preset = read.value();
+    const QString called = std::exchange(preset.name, m_store.freeName(m_target.queue, preset.name));
+    if (!isDone(m_store.store(m_target.queue, preset)))
         return;
     refill();
-    use(preset.value().name);
+    apply(preset.options, quoted(preset.name),
+          called == preset.name ? tr("%1 is imported and used", "a preset").arg(quoted(called))
+                                : tr("%1 is imported and used as %2, since there is one of that name")
+                                      .arg(quoted(called), quoted(preset.name)),
+          preset.name, fromPreset(preset.name));
+}
+
+QString PresetMenu::folder() const
+{
+    return m_folder.isEmpty() ? QDir::homePath() : m_folder;
 }
 
 bool PresetMenu::isDone(const QString &problem)
@@ -232,30 +310,6 @@ bool PresetMenu::isDone(const QString &problem)
     if (!problem.isEmpty())
         emit failed(problem);
     return problem.isEmpty();
-}
-
-QString PresetMenu::askName(const QString &title, const QString &proposed)
-{
-    bool isAccepted = false;
-    QString name = QInputDialog::getText(this, title, tr("&Name:"), QLineEdit::Normal, proposed, &isAccepted).trimmed();
-    if (!isAccepted || !isDone(presetNameProblem(name)))
-        return {};
-    return name;
-}
-
-bool PresetMenu::mayReplace(const QString &name)
-{
-    return !m_store.contains(m_target.queue, name) ||
-           isAgreed(tr("Save as Preset"), tr("There is a preset “%1” already. Replace it?").arg(name));
-}
-
-bool PresetMenu::isAgreed(const QString &title, const QString &question)
-{
-    QMessageBox box(QMessageBox::Question, title, QString(), QMessageBox::Yes | QMessageBox::No, this);
-    box.setTextFormat(Qt::PlainText);
-    box.setText(question);
-    box.setDefaultButton(QMessageBox::No);
-    return box.exec() == QMessageBox::Yes;
 }
 
 } // namespace bv

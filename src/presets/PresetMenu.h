@@ -27,6 +27,7 @@ public:
         QString title;                                    // on screen
         QString model;                                    // of the printer, for the files
         QString started;                                  // what the choices come from at first
+        PrintDictionary usual;                            // the printer's defaults
         std::function<Result<PrintDictionary>()> choices; // the present ones; a failure is a sentence for the user
         // Makes these the choices. The sentence says where they come from, for the tips of values; it may be empty.
         std::function<PresetOutcome(const PrintDictionary &options, const QString &origin)> use;
@@ -38,7 +39,10 @@ public:
     void setTarget(Target target);
     // Uses a preset of the target. A failure is reported by a signal.
     void use(const QString &name);
-    // Compares the present choices with those that were chosen here, and says on the button when they differ.
+    // Says that the choices are the printer's defaults now. follow() hears of them next.
+    void showDefaults();
+    // Compares the present choices with those that were chosen here and with the printer's defaults, and says on the
+    // button which they are, or that they are neither.
     void follow(const PrintDictionary &choices);
 
 signals:
@@ -53,34 +57,39 @@ private:
     void refill();
     void useDefaults();
     void useLastTime();
-    void apply(const PrintDictionary &options, const QString &what, const QString &preset, const QString &origin);
+    // `said` begins the message, like `what` or with more.
+    void apply(const PrintDictionary &options, const QString &what, const QString &said, const QString &preset,
+               const QString &origin);
     void save();
-    void rename();
-    void remove();
-    void exportFile();
+    void rename(const QString &from);
+    void remove(const QString &name);
+    void exportFile(const QString &name);
     void importFile();
+    // Where files are looked for.
+    QString folder() const;
     // Reports a failure. True if there is none.
     bool isDone(const QString &problem);
     void showName();
-    QString askName(const QString &title, const QString &proposed);
-    bool mayReplace(const QString &name);
-    // Names come from other people's files and from the print server, so they are shown letter by letter.
-    bool isAgreed(const QString &title, const QString &question);
 
+    // What the choices are, compared with what was chosen here.
+    enum class Look { AsChosen, AsUsual, Changed };
     // What is in use for a printer.
     struct State
     {
         QString preset;                        // its name; empty: none
         QString what;                          // what the choices come from, on the button
         std::optional<PrintDictionary> chosen; // the choices right after that
-        bool isChanged = false;
+        Look look = Look::AsChosen;
     };
     State &state() { return m_states[m_target.queue]; }
+    // The preset in use; empty: none.
+    QString inUse() { return state().look == Look::AsUsual ? QString() : state().preset; }
     void setState(const QString &preset, const QString &what);
 
     PresetStore m_store;
     QMenu *m_menu;
     Target m_target;
+    QString m_folder;                  // of the last file that was written or read
     std::map<QString, State> m_states; // by queue
 };
 

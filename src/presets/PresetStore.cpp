@@ -19,6 +19,11 @@ QString tr(const char *text)
     return QCoreApplication::translate("PresetStore", text);
 }
 
+QString remedy()
+{
+    return tr("Check that its folder can be written and that the disk has room.");
+}
+
 bool isSameName(const QString &one, const QString &other)
 {
     return one.compare(other, Qt::CaseInsensitive) == 0;
@@ -90,7 +95,14 @@ QString PresetStore::store(const QString &queue, const Preset &preset) const
     QString error;
     if (storeFile(path, presetToJson(preset), &error))
         return {};
-    return tr("The preset “%1” could not be saved: %2: %3.").arg(preset.name, path, error);
+    return tr("The preset “%1” could not be saved: %2: %3. %4").arg(preset.name, path, error, remedy());
+}
+
+QString PresetStore::renameProblem(const QString &queue, const QString &from, const QString &to) const
+{
+    if (!isSameName(from, to) && contains(queue, to))
+        return tr("There is a preset “%1” already. Choose another name, or delete it first.").arg(to);
+    return presetNameProblem(to);
 }
 
 QString PresetStore::rename(const QString &queue, const QString &from, const QString &to) const
@@ -98,16 +110,14 @@ QString PresetStore::rename(const QString &queue, const QString &from, const QSt
     std::optional<Stored> found = find(queue, from);
     if (!found)
         return load(queue, from).error();
-    if (!isSameName(from, to) && contains(queue, to))
-        return tr("There is a preset “%1” already. Choose another name, or delete it first.").arg(to);
-    if (QString problem = presetNameProblem(to); !problem.isEmpty())
+    if (QString problem = renameProblem(queue, from, to); !problem.isEmpty())
         return problem;
     // The file keeps its name: the name that counts stands in it, and one write is all or nothing.
     found->preset.name = to;
     QString error;
     if (storeFile(found->path, presetToJson(found->preset), &error))
         return {};
-    return tr("The preset “%1” could not be renamed: %2: %3.").arg(from, found->path, error);
+    return tr("The preset “%1” could not be renamed: %2: %3. %4").arg(from, found->path, error, remedy());
 }
 
 QString PresetStore::remove(const QString &queue, const QString &name) const
@@ -116,16 +126,18 @@ QString PresetStore::remove(const QString &queue, const QString &name) const
     if (!found)
         return load(queue, name).error();
     QFile file(found->path);
-    return file.remove()
-               ? QString()
-               : tr("The preset “%1” could not be deleted: %2: %3.").arg(name, found->path, file.errorString());
+    return file.remove() ? QString()
+                         : tr("The preset “%1” could not be deleted: %2: %3. %4")
+                               .arg(name, found->path, file.errorString(), remedy());
 }
 
 QString PresetStore::freeName(const QString &queue, const QString &name) const
 {
     QString free = name;
-    for (int number = 2; contains(queue, free); ++number)
-        free = QStringLiteral("%1 %2").arg(name, QString::number(number));
+    for (int number = 2; contains(queue, free); ++number) {
+        const QString behind = QStringLiteral(" %1").arg(number);
+        free = name.left(kLongestPresetName - behind.size()).trimmed() + behind;
+    }
     return free;
 }
 

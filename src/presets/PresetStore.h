@@ -26,11 +26,12 @@ public:
 
     // Replaces a preset of that name.
     QString store(const QString &queue, const Preset &preset) const;
-    // There must be no other preset of the new name.
+    // There must be no other preset of the new name. The first one only says whether that holds.
+    QString renameProblem(const QString &queue, const QString &from, const QString &to) const;
     QString rename(const QString &queue, const QString &from, const QString &to) const;
     QString remove(const QString &queue, const QString &name) const;
 
-    // The name itself, or with a number behind it if there is a preset of that name.
+    // The name itself, or with a number behind it, and shortened for that, if there is a preset of that name.
     QString freeName(const QString &queue, const QString &name) const;
 
 private:

@@ -57,9 +57,9 @@ bool writeWhole(QFileDevice &file, std::span<const char> bytes)
 bool storeFile(const QString &path, const QByteArray &bytes, QString *error)
 {
     QSaveFile file(path);
+    QDir().mkpath(QFileInfo(path).path()); // says not why it fails; opening the file does
     // Unbuffered, since commit() does not see that a write of its own fails.
-    const bool isStored = QDir().mkpath(QFileInfo(path).path()) &&
-                          file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+    const bool isStored = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
                           writeWhole(file, {bytes.constData(), size_t(bytes.size())}) && file.commit();
     if (!isStored)
         *error = file.errorString();

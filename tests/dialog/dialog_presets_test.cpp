@@ -6,8 +6,10 @@
 #include "support/MarkupProbe.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
-#include <QInputDialog>
+#include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
@@ -15,6 +17,7 @@
 #include <QSpinBox>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 
 using namespace bv;
 
@@ -43,27 +46,76 @@ protected:
     }
     QString message() { return dialog->messageText(); }
 
-    // An entry of the menu, as it is when the menu opens. A menu that is really open would block the test.
+    // An entry of the menu or of one below it, as it is when the menu opens. A menu that is really open would block the
+    // test.
     QAction *entry(const QString &name)
     {
         auto *menu = find<PresetMenu>("presets")->menu();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         emit menu->aboutToShow();
-        for (QAction *action : menu->actions())
+        QList<QAction *> actions = menu->actions();
+        for (const QAction *action : menu->actions())
+            if (action->menu())
+                actions += action->menu()->actions();
+        for (QAction *action : actions)
             if (action->objectName() == name)
                 return action;
         ADD_FAILURE() << name.toStdString();
         return nullptr;
     }
-    // Chooses an entry that asks for a name, and answers.
-    void answer(const QString &name, const QString &text)
+    // Chooses an entry that asks things, and answers each question in its turn.
+    using Answer = std::function<void(QWidget *question)>;
+    void answer(const QString &name, std::vector<Answer> answers)
     {
-        QTimer::singleShot(0, this->dialog.get(), [this, text] {
-            auto *question = dialog->findChild<QInputDialog *>();
+        std::function<void()> next = [&] {
+            QWidget *question = QApplication::activeModalWidget();
             ASSERT_NE(question, nullptr);
-            question->setTextValue(text);
-            question->accept();
-        });
+            ASSERT_FALSE(answers.empty());
+            const Answer one = answers.front();
+            answers.erase(answers.begin());
+            if (!answers.empty())
+                QTimer::singleShot(0, dialog.get(), next);
+            one(question);
+        };
+        QTimer::singleShot(0, dialog.get(), next);
         entry(name)->trigger();
+        EXPECT_TRUE(answers.empty()) << "not asked";
+    }
+    static Answer text(const QString &text)
+    {
+        return [text](QWidget *question) {
+            question->findChild<QLineEdit *>()->setText(text);
+            QTest::keyClick(question->findChild<QLineEdit *>(), Qt::Key_Return);
+        };
+    }
+    // Checks what is asked or said, then goes on with another answer.
+    static Answer after(const QString &words, const Answer &then)
+    {
+        return [words, then](QWidget *question) {
+            const auto labels = question->findChildren<QLabel *>();
+            EXPECT_TRUE(std::any_of(labels.begin(), labels.end(), [&](const QLabel *label) {
+                return label->text().contains(words) && label->textFormat() == Qt::PlainText;
+            })) << words.toStdString();
+            then(question);
+        };
+    }
+    static Answer press(const QString &button)
+    {
+        return [button](QWidget *question) {
+            for (QAbstractButton *one : question->findChildren<QAbstractButton *>())
+                if (QString(one->text()).remove('&') == button)
+                    return one->click();
+            ADD_FAILURE() << button.toStdString();
+        };
+    }
+    static Answer file(const QString &path)
+    {
+        return [path](QWidget *question) {
+            auto *files = qobject_cast<QFileDialog *>(question);
+            ASSERT_NE(files, nullptr);
+            files->findChild<QLineEdit *>("fileNameEdit")->setText(path);
+            QTest::keyClick(files->findChild<QLineEdit *>("fileNameEdit"), Qt::Key_Return);
+        };
     }
 };
 
@@ -77,7 +129,7 @@ TEST_F(Presets, AreSavedAndUsedAgain)
     find<QComboBox>("row_Duplex")->setCurrentIndex(1);
     find<QSpinBox>("copies")->setValue(3);
     EXPECT_TRUE(QTest::qWaitFor([this] { return shown().endsWith(", changed"); })) << qPrintable(shown());
-    answer("presetSave", " Draft & co ");
+    answer("presetSave", {text(" Draft & co ")});
     EXPECT_EQ(shown(), "Preset: “Draft & co”");
 
     entry("presetDefaults")->trigger();
@@ -91,7 +143,7 @@ TEST_F(Presets, AreSavedAndUsedAgain)
     QCoreApplication::processEvents();
     EXPECT_EQ(shown(), "Preset: “Draft & co”") << "nothing has changed since";
     EXPECT_TRUE(entry("preset_Draft & co")->isChecked());
-    answer("presetRename", "Draft");
+    answer("presetRename_Draft & co", {text("Draft")});
     EXPECT_EQ(shown(), "Preset: “Draft”");
 
     // The other printer has presets of its own.
@@ -104,6 +156,64 @@ TEST_F(Presets, AreSavedAndUsedAgain)
         EXPECT_FALSE(action->objectName().startsWith("preset_"));
     printers->setCurrentIndex(printers->findData("Paper"));
     EXPECT_EQ(shown(), "Preset: “Draft”");
+}
+
+TEST_F(Presets, TheButtonKnowsThePrintersDefaults)
+{
+    PrintDictionary last;
+    last.setValue("Duplex", "DuplexNoTumble");
+    remembered->store("Paper", last);
+    open();
+    EXPECT_EQ(shown(), "Preset: As last time");
+    find<QPushButton>("restoreDefaults")->click();
+    EXPECT_EQ(shown(), "Preset: Printer's defaults");
+    EXPECT_TRUE(entry("presetDefaults")->isChecked());
+    entry("presetLastTime")->trigger();
+    // The same, setting by setting.
+    QTest::keyClick(toner(), Qt::Key_Down);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return shown() == "Preset: As last time, changed"; })) << qPrintable(shown());
+    find<QComboBox>("row_Duplex")->setCurrentIndex(0);
+    QTest::keyClick(toner(), Qt::Key_Up);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return shown() == "Preset: Printer's defaults"; })) << qPrintable(shown());
+    find<QComboBox>("row_Duplex")->setCurrentIndex(1);
+    EXPECT_EQ(shown(), "Preset: As last time");
+}
+
+TEST_F(Presets, AreManagedWithoutBeingUsed)
+{
+    open();
+    find<QComboBox>("row_Duplex")->setCurrentIndex(1);
+    const QString bold = "<b>Draft";
+    answer("presetSave", {text(bold)});
+    answer("presetSave", {text("Other")});
+    // A name that cannot be taken is asked for again, with what was typed.
+    answer("presetRename_" + bold, {text("other"), after("There is a preset “other” already", text(" ")),
+                                    after("A preset needs a name", press("Cancel"))});
+    // Another one of that name is replaced only on demand.
+    answer("presetSave", {text(bold), after("“<b>Draft” already. Replace it?", press("Cancel")), press("Cancel")});
+    EXPECT_EQ(shown(), "Preset: “Other”");
+
+    const QString path = folder.filePath("my file");
+    answer("presetExport_" + bold, {file(path)});
+    EXPECT_EQ(message(), "The preset “<b>Draft” is exported to " + path + ".json.");
+    answer("presetExport_" + bold, {file(document + "/x.json")});
+    EXPECT_TRUE(message().contains("could not be exported: " + document + "/x.json: ")) << qPrintable(message());
+    answer("presetDelete_" + bold, {after("Delete the preset “<b>Draft” of “Paper”?", press("Cancel"))});
+    answer("presetImport", {file(path + ".json")});
+    EXPECT_EQ(message(), "“<b>Draft” is imported and used as “<b>Draft 2”, since there is one of that name: all "
+                         "settings were so already.");
+    EXPECT_EQ(shown(), "Preset: “<b>Draft 2”");
+    answer("presetDelete_" + bold, {press("Delete")});
+    EXPECT_EQ(message(), "The preset “<b>Draft” is deleted.");
+    EXPECT_EQ(shown(), "Preset: “<b>Draft 2”");
+    EXPECT_EQ(PresetStore().names("Paper"), (QStringList{"<b>Draft 2", "Other"}));
+
+    answer("presetImport", {file(document)});
+    EXPECT_TRUE(message().startsWith("The preset " + document + " cannot be used: ")) << qPrintable(message());
+    EXPECT_TRUE(message().endsWith("Choose a file that was exported as a preset.")) << qPrintable(message());
+    answer("presetSave", {text(QString(60, 'W'))});
+    EXPECT_LT(shown().size(), 60) << "a long name leaves room for the printer";
+    EXPECT_TRUE(find<QPushButton>("presets")->toolTip().contains(QString(60, 'W')));
 }
 
 TEST_F(Presets, FromTheCommandLineAreUsedOrReported)
@@ -147,20 +257,15 @@ TEST_F(Presets, NamesOfOthersAreNeitherMarkupNorPlaceHolders)
     open();
     entry("preset_" + name)->trigger();
     EXPECT_EQ(message(), "“" + name + "”: 2 settings changed.");
-    int questions = 0;
-    const auto refuse = [&] {
-        auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        ASSERT_NE(question, nullptr);
-        ++questions;
-        EXPECT_TRUE(question->text().contains(name));
-        EXPECT_EQ(bvtest::imagesShown(question), QStringList());
-        question->reject();
+    const Answer refuse = [&name](QWidget *question) {
+        auto *box = qobject_cast<QMessageBox *>(question);
+        ASSERT_NE(box, nullptr);
+        EXPECT_TRUE(box->text().contains(name));
+        EXPECT_EQ(bvtest::imagesShown(box), QStringList());
+        box->reject();
     };
-    QTimer::singleShot(0, dialog.get(), refuse);
-    entry("presetDelete")->trigger();
-    QTimer::singleShot(0, dialog.get(), [&] { QTimer::singleShot(0, dialog.get(), refuse); });
-    answer("presetSave", name);
-    EXPECT_EQ(questions, 2);
+    answer("presetDelete_" + name, {refuse});
+    answer("presetSave", {text(name), refuse, press("Cancel")});
     EXPECT_TRUE(PresetStore().contains("Paper", name));
 }
 

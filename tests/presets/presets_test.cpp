@@ -84,6 +84,9 @@ TEST_F(Presets, AreStoredRenamedAndDeletedForEachPrinter)
     EXPECT_EQ(m_store.names("Office").size(), 4);
     EXPECT_EQ(*m_store.load("Office", "draft").value().options.value("a").string(), "3");
     EXPECT_EQ(m_store.freeName("Office", "draft"), "draft 2");
+    EXPECT_EQ(m_store.store("Office", {QString(60, 'x'), "m", {}}), "");
+    EXPECT_EQ(m_store.freeName("Office", QString(60, 'x')), QString(58, 'x') + " 2");
+    EXPECT_EQ(m_store.remove("Office", QString(60, 'x')), "");
     EXPECT_THAT(m_store.rename("Office", "b", "Draft").toStdString(), HasSubstr("already"));
     EXPECT_NE(m_store.rename("Office", "b", ""), "");
     EXPECT_EQ(m_store.rename("Office", "b", "B"), "");
@@ -101,7 +104,9 @@ TEST_F(Presets, ThatCannotBeStoredSaySo)
 {
     QFile file(m_folder.filePath("presets"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    EXPECT_THAT(m_store.store("Office", {"Draft", {}, {}}).toStdString(), HasSubstr("could not be saved"));
+    EXPECT_THAT(m_store.store("Office", {"Draft", {}, {}}).toStdString(),
+                ::testing::AllOf(HasSubstr("could not be saved"), HasSubstr("Draft.json: Not a directory."),
+                                 HasSubstr("Check that")));
 }
 
 // A session with a panel that is not ours.
