@@ -114,6 +114,7 @@ QWidget *PrintDialogLayout::makeSide()
     m_settings = new PaneArea(side);
     auto *content = new QWidget;
     documents = new DocumentList(content);
+    connect(documents, &DocumentList::documentsChanged, this, &PrintDialogLayout::placePreview);
     job = new JobRows(content);
     m_rows = new QStackedWidget(content);
     m_noRows = new QWidget;
@@ -331,21 +332,33 @@ void PrintDialogLayout::unfoldPreview()
     placePreview();
 }
 
-// Where neither summary nor preview needs the height, the list of documents takes it.
+int PrintDialogLayout::previewRoom() const
+{
+    const int list = std::min(documents->listHeight(), documents->list()->maximumHeight());
+    const int settings = m_settings->sizeHint().height() - list + documents->leastListHeight();
+    const int others = settings + (m_summaryAside ? 0 : m_summaryBox->minimumSizeHint().height());
+    return m_side->height() - others - 2 * m_sideColumn->spacing();
+}
+
+int PrintDialogLayout::previewNeed() const
+{
+    return preview->heightForSheet(fontMetrics().height() * kPreviewLines);
+}
+
+// Where neither summary nor preview needs the height, the list of documents takes it. Many documents scroll rather than
+// take the preview's room.
 void PrintDialogLayout::placeDocuments()
 {
+    const bool hasPreview = m_previewPlaced && !preview->isFolded();
+    documents->limitList(hasPreview ? documents->leastListHeight() + std::max(0, previewRoom() - previewNeed())
+                                    : QWIDGETSIZE_MAX);
     m_sideColumn->setStretchFactor(m_settings, m_previewPlaced && preview->isFolded() && m_summaryAside ? 1 : 0);
 }
 
 void PrintDialogLayout::placePreview()
 {
-    placeDocuments();
-    if (!m_previewPlaced || m_previewFoldedByUser || m_previewUnfoldedByUser)
-        return;
-    const int others =
-        m_settings->sizeHint().height() + (m_summaryAside ? 0 : m_summaryBox->minimumSizeHint().height());
-    const int room = m_side->height() - others - 2 * m_sideColumn->spacing();
-    preview->setFolded(room < preview->heightForSheet(fontMetrics().height() * kPreviewLines));
+    if (m_previewPlaced && !m_previewFoldedByUser && !m_previewUnfoldedByUser)
+        preview->setFolded(previewRoom() < previewNeed());
     placeDocuments();
 }
 

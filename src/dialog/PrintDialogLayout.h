@@ -83,6 +83,9 @@ private:
     void widenSide();
     void placePreview();
     void placeDocuments();
+    // The height at the side that is left for the preview while the list of documents shows its first rows only.
+    int previewRoom() const;
+    int previewNeed() const;
     void setTabOrders();
     QWidget *lastControl(const QWidget *owner, QWidget *otherwise) const;
     void alignLabels(PpdOptionRows *rows);

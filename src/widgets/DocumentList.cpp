@@ -24,6 +24,14 @@ namespace bv {
 
 namespace {
 
+constexpr int kLeastRows = 3;
+constexpr int kMostRows = 10;
+
+int heightOf(const QListWidget &list, int rows)
+{
+    return rows * std::max(list.sizeHintForRow(0), list.fontMetrics().height()) + list.fontMetrics().height();
+}
+
 // A list that shows a hint while it is empty.
 class HintedList : public QListWidget
 {
@@ -45,11 +53,7 @@ protected:
     // The default size hint is far too tall for the few files of a job.
     QSize sizeHint() const override
     {
-        constexpr int kLeastRows = 3;
-        constexpr int kMostRows = 10;
-        const int row = std::max(sizeHintForRow(0), fontMetrics().height());
-        return {fontMetrics().averageCharWidth() * 30,
-                std::clamp(count(), kLeastRows, kMostRows) * row + fontMetrics().height()};
+        return {fontMetrics().averageCharWidth() * 30, heightOf(*this, std::clamp(count(), kLeastRows, kMostRows))};
     }
     QSize minimumSizeHint() const override
     {
@@ -187,6 +191,21 @@ QStringList DocumentList::documents() const
     for (int row = 0; row < m_list->count(); ++row)
         paths << m_list->item(row)->data(kPathRole).toString();
     return paths;
+}
+
+int DocumentList::listHeight() const
+{
+    return m_list->sizeHint().height();
+}
+
+int DocumentList::leastListHeight() const
+{
+    return heightOf(*m_list, kLeastRows);
+}
+
+void DocumentList::limitList(int height)
+{
+    m_list->setMaximumHeight(height);
 }
 
 void DocumentList::chooseFiles()

@@ -32,6 +32,12 @@ public:
     // Absolute paths, in printing order.
     QStringList documents() const;
 
+    // The height that the list wants, and that of the few rows that it shows at least before it scrolls, in pixels.
+    int listHeight() const;
+    int leastListHeight() const;
+    // Has the list scroll from this height on.
+    void limitList(int height);
+
     // For the tab order and the default focus.
     QListWidget *list() const { return m_list; }
     QPushButton *addButton() const { return m_add; }

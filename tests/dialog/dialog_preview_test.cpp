@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
 #include <QToolButton>
 
@@ -105,6 +106,27 @@ TEST_F(DialogPreview, StaysFoldedOnceItWasFolded)
     QCoreApplication::processEvents();
     const auto *summary = find<QWidget>("summaryView");
     EXPECT_GT(summary->visibleRegion().boundingRect().height(), 2 * summary->fontMetrics().height());
+}
+
+TEST_F(DialogPreview, KeepsItsRoomHoweverManyDocumentsThereAre)
+{
+    openLarge();
+    ASSERT_FALSE(preview().isFolded());
+    dialog->resize(1200, 760);
+    QCoreApplication::processEvents();
+    ASSERT_FALSE(preview().isFolded());
+    QStringList more;
+    for (int i = 0; i < 12; ++i)
+        more << write(QStringLiteral("%1.txt").arg(i), "text");
+    dialog->parts().documents->addDocuments(more);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(preview().isFolded());
+    const auto *list = find<QListWidget>("documentList");
+    EXPECT_GE(list->viewport()->height(), 3 * list->sizeHintForRow(0));
+    EXPECT_TRUE(list->verticalScrollBar()->isVisible());
+    find<QToolButton>("previewToggle")->click();
+    QCoreApplication::processEvents();
+    EXPECT_GE(list->viewport()->height(), 10 * list->sizeHintForRow(0)) << "nothing else needs the room";
 }
 
 TEST_F(DialogPreview, KnowsPaperAndGrayFromTheJobsOptions)
