@@ -17,6 +17,7 @@ namespace {
 
 constexpr int kLeastLines = 3; // of text, however small the window is
 constexpr int kShare = 4;      // of the window's height: one part in so many
+constexpr int kWholeShare = 2; // the same while the user reads all of a long list
 
 } // namespace
 
@@ -49,6 +50,12 @@ void MessageBar::say(Kind kind, const QString &text, const QString &actionName, 
     if (!actionName.isEmpty())
         row->addAction(actionName);
     connect(row, &MessageRow::dismissed, this, [this, row] { remove(row); });
+    connect(row, &MessageRow::unfolded, this, [this, row] {
+        updateGeometry();
+        // From its first line on, once it has found its height.
+        QMetaObject::invokeMethod(
+            row, [this, row] { verticalScrollBar()->setValue(row->y()); }, Qt::QueuedConnection);
+    });
     connect(row, &MessageRow::acted, this, [this, row, action = std::move(action)] {
         const std::function<void()> act = action; // it goes together with the row
         remove(row);
@@ -115,7 +122,10 @@ int MessageBar::contentHeight() const
 
 QSize MessageBar::sizeHint() const
 {
-    const int most = std::max(window()->height() / kShare, fontMetrics().height() * kLeastLines);
+    const bool isReading =
+        std::any_of(m_rows.begin(), m_rows.end(), [](const MessageRow *row) { return row->isUnfolded(); });
+    const int most =
+        std::max(window()->height() / (isReading ? kWholeShare : kShare), fontMetrics().height() * kLeastLines);
     return {m_content->minimumSizeHint().width(), std::min(contentHeight(), most)};
 }
 

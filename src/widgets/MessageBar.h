@@ -11,7 +11,8 @@ namespace bv {
 
 class MessageRow;
 
-// Hidden while it has no message. Takes at most a share of the window's height, and scrolls then.
+// Hidden while it has no message. Takes at most a share of the window's height, more of it while the user has a long
+// list shown as a whole, and scrolls then.
 class MessageBar : public QScrollArea
 {
     Q_OBJECT

@@ -61,7 +61,9 @@ MessageRow::MessageRow(MessageBar::Kind kind, QString text, QString topic, QWidg
 
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(8, 4, 4, 4);
-    row->addWidget(icon);
+    // Everything beside the text stays at its top, however long it is.
+    icon->setFixedHeight(m_close->sizeHint().height());
+    row->addWidget(icon, 0, Qt::AlignTop);
     row->addWidget(m_label, 1);
     row->addWidget(m_close, 0, Qt::AlignTop);
     if (m_text.count(u'\n') > kFirstLines) {
@@ -69,8 +71,11 @@ MessageRow::MessageRow(MessageBar::Kind kind, QString text, QString topic, QWidg
         m_more->setObjectName(QStringLiteral("messageMore"));
         m_more->setAutoDefault(false);
         m_more->setCheckable(true);
-        connect(m_more, &QPushButton::toggled, this, &MessageRow::showText);
-        row->insertWidget(2, m_more);
+        connect(m_more, &QPushButton::toggled, this, [this](bool whole) {
+            showText(whole);
+            emit unfolded();
+        });
+        row->insertWidget(2, m_more, 0, Qt::AlignTop);
     }
     showText(false);
     tint();
@@ -83,7 +88,7 @@ void MessageRow::addAction(const QString &name)
     m_act->setAutoDefault(false);
     connect(m_act, &QPushButton::clicked, this, &MessageRow::acted);
     auto *row = static_cast<QHBoxLayout *>(layout());
-    row->insertWidget(row->count() - 1, m_act);
+    row->insertWidget(row->count() - 1, m_act, 0, Qt::AlignTop);
 }
 
 QList<QWidget *> MessageRow::buttons() const
@@ -95,8 +100,15 @@ QList<QWidget *> MessageRow::buttons() const
     return buttons;
 }
 
+bool MessageRow::isUnfolded() const
+{
+    return m_more && m_more->isChecked();
+}
+
 void MessageRow::showText(bool whole)
 {
+    if (m_more)
+        m_more->setText(whole ? tr("Show Less") : tr("Show All"));
     if (!m_more || whole) {
         m_label->setText(m_text);
         return;

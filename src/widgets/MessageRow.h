@@ -29,10 +29,14 @@ public:
     const QString &topic() const { return m_topic; }
     // In tab order.
     QList<QWidget *> buttons() const;
+    // Whether a long list is shown as a whole.
+    bool isUnfolded() const;
 
 signals:
     void acted();
     void dismissed();
+    // The user had a long list shown as a whole, or its first lines again.
+    void unfolded();
 
 protected:
     void changeEvent(QEvent *event) override;

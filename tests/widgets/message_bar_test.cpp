@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QLabel>
+#include <QScrollBar>
 #include <QTest>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
@@ -78,6 +79,15 @@ TEST_F(Messages, OfALongListTheFirstLinesShowAndTheRestOnDemand)
     EXPECT_TRUE(shown->text().endsWith("4.pdf” was not found.\nand 57 more")) << qPrintable(shown->text());
     QTest::keyClick(button("messageMore"), Qt::Key_Space);
     EXPECT_EQ(shown->text(), failures.join('\n'));
+    // It is read from its first line on, by keys as well, and can be closed or folded without scrolling back.
+    EXPECT_TRUE(QTest::qWaitFor([this] { return bar->verticalScrollBar()->maximum() > 0; }));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(bar->verticalScrollBar()->value(), 0);
+    EXPECT_LE(bar->height(), window.height() / 2);
+    for (const char *name : {"messageMore", "messageClose"})
+        EXPECT_TRUE(bar->rect().contains(button(name)->mapTo(bar, button(name)->rect().bottomRight()))) << name;
+    QTest::keyClick(button("messageMore"), Qt::Key_PageDown);
+    EXPECT_GT(bar->verticalScrollBar()->value(), 0);
     QTest::keyClick(button("messageMore"), Qt::Key_Space);
     EXPECT_TRUE(shown->text().endsWith("and 57 more"));
 }
