@@ -2,14 +2,17 @@
 // take_picture KIND FILE: opens the window as one kind of user has it and takes its picture (PNG). Without arguments,
 // lists the kinds. Needs no display, print server or printer.
 #include "support/ListRoot.h"
+#include "support/SampleLists.h"
 
 #include "dialog/PrintDialog.h"
 #include "dialog/PrintDialogLayout.h"
 #include "jobs/FolderSink.h"
 #include "jobs/PdfPages.h"
+#include "presets/PresetMenu.h"
 #include "preview/PagePreview.h"
 #include "printers/PrinterMenu.h"
 #include "printers/QueueList.h"
+#include "profiles/ProfileListFile.h"
 #include "queues/PanelLoader.h"
 #include "queues/QueueSource.h"
 #include "widgets/DocumentList.h"
@@ -19,6 +22,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QListView>
+#include <QMenu>
 #include <QPdfWriter>
 #include <QPainter>
 #include <QPushButton>
@@ -44,6 +48,9 @@ struct Kind
     void (*use)(PrintDialog &dialog) = nullptr;           // once it is ready
     bool isWaiting = false;                               // taken while the printer is silent
     int pages = 0;                                        // of the document; 0: the sample
+    bool opensWindow = false;                             // a modal one, which closes after the picture
+    const char *options = "";                             // lines of the PPD besides ours
+    int documents = 1;                                    // the sample and others
 };
 
 template <typename Widget> Widget *find(PrintDialog &dialog, const char *name)
@@ -107,6 +114,54 @@ void openMenu(PrintDialog &dialog)
     dialog.parts().queues->popUp()->showPopup();
 }
 
+void chooseInRows(PrintDialog &dialog)
+{
+    chooseInConflict(dialog);
+    const std::pair<const char *, const char *> choices[] = {
+        {"row_PageSize", "A3"}, {"row_MediaType", "Thick"}, {"row_Duplex", "DuplexNoTumble"}};
+    for (const auto &[row, choice] : choices) {
+        auto *menu = find<QComboBox>(dialog, row);
+        menu->setCurrentIndex(std::max(1, menu->findData(QLatin1String(choice))));
+    }
+    find<QPushButton>(dialog, "moreOptions")->click();
+    QWidget *more = QApplication::activeModalWidget();
+    auto *staple = more->findChild<QComboBox *>(QStringLiteral("row_BVStaple"));
+    staple->setCurrentIndex(1);
+    more->close();
+}
+
+void choosePhoto(PrintDialog &dialog)
+{
+    QTest::keyClick(find<QComboBox>(dialog, "menu_QuickColor"), Qt::Key_Down);
+}
+
+void openPresets(PrintDialog &dialog)
+{
+    for (const char *name : {"Draft for reading", "Letterhead & envelopes", "Photos on thick paper, both sides"})
+        bv::PresetStore().store(QStringLiteral("QL70"), {QString::fromLatin1(name), {}, {}});
+    auto *presets = dialog.parts().presets;
+    presets->use(QStringLiteral("Letterhead & envelopes"));
+    presets->menu()->popup(presets->mapToGlobal(QPoint(0, presets->height())));
+}
+
+void openMoreOptions(PrintDialog &dialog)
+{
+    find<QPushButton>(dialog, "moreOptions")->click();
+}
+
+void manageProfiles(PrintDialog &dialog)
+{
+    const auto lists = bvtest::makeLists();
+    const std::pair<const char *, const char *> profiles[] = {{"MONITOR1.ICC", "Monitors of the studio"},
+                                                              {"CAMERA.ICC", "Camera, daylight"},
+                                                              {"SCAN-A3.ICC", "Scanner in the hall"}};
+    for (const auto &[file, name] : profiles)
+        bvtest::add(lists->rgb, bvtest::makeRecord(3, file, 4, 1, name));
+    bvtest::TestRoot::writeList(*bv::profileListXml(lists->rgb, lists->sim, lists->dst));
+    chooseManual(dialog);
+    find<QPushButton>(dialog, "button_ManageProfile")->click();
+}
+
 void failThrice(PrintDialog &dialog)
 {
     QStringList missing;
@@ -114,6 +169,42 @@ void failThrice(PrintDialog &dialog)
         missing << QStringLiteral("/net/scans/page-%1-%2.pdf").arg(i).arg(QString(90, u'x'));
     dialog.parts().documents->addDocuments(missing);
 }
+
+void showAll(PrintDialog &dialog)
+{
+    failThrice(dialog);
+    find<QPushButton>(dialog, "messageMore")->click();
+}
+
+constexpr char kFinishing[] = R"ppd(
+*OpenGroup: Finishing/Finishing
+*OpenUI *BVStaple/Staple: PickOne
+*DefaultBVStaple: None
+*BVStaple None/Off: ""
+*BVStaple UpperLeft/Upper left corner: ""
+*BVStaple Booklet/Two staples in the fold: ""
+*CloseUI: *BVStaple
+*OpenUI *BVPunch/Punch Holes: PickOne
+*DefaultBVPunch: None
+*BVPunch None/Off: ""
+*BVPunch Two/Two holes: ""
+*CloseUI: *BVPunch
+*OpenUI *BVOutputTray/Output Tray: PickOne
+*DefaultBVOutputTray: Upper
+*BVOutputTray Upper/Upper: ""
+*BVOutputTray Lower/Lower, face up: ""
+*CloseUI: *BVOutputTray
+*CloseGroup: Finishing
+*OpenGroup: Quality/Print Quality
+*OpenUI *BVTonerDensity/Toner Density for Envelopes: PickOne
+*DefaultBVTonerDensity: Usual
+*BVTonerDensity Usual/Usual: ""
+*BVTonerDensity Less/Less: ""
+*CloseUI: *BVTonerDensity
+*CloseGroup: Quality
+*UIConstraints: *BVStaple Booklet *BVPunch Two
+*UIConstraints: *BVPunch Two *BVStaple Booklet
+)ppd";
 
 // clang-format off
 const std::vector<Kind> kKinds = {
@@ -123,7 +214,16 @@ const std::vector<Kind> kKinds = {
     {.name = "conflict",      .use = chooseInConflict},
     {.name = "waiting",       .isWaiting = true},
     {.name = "hundred-pages", .pages = 100},
+    {.name = "five-documents", .documents = 5},
+    {.name = "changed",       .use = chooseInRows, .options = kFinishing},
+    {.name = "changed-9",     .font = 9, .use = chooseInRows, .options = kFinishing},
+    {.name = "changed-18",    .size = {1920, 1000}, .font = 18, .use = chooseInRows, .options = kFinishing},
+    {.name = "photo",         .use = choosePhoto},
+    {.name = "presets",       .use = openPresets},
+    {.name = "more-options",  .use = openMoreOptions, .opensWindow = true, .options = kFinishing},
+    {.name = "profiles",      .use = manageProfiles, .opensWindow = true},
     {.name = "messages",      .use = failThrice},
+    {.name = "messages-all",  .use = showAll},
     {.name = "printers",      .use = openMenu},
     {.name = "small-150",     .size = {682, 400}, .scale = 1.5}, // a screen of 1024 by 600 pixels
     {.name = "scale-200",     .scale = 2},
@@ -139,7 +239,7 @@ const std::vector<Kind> kKinds = {
 class Printers final : public bv::QueueSource
 {
 public:
-    explicit Printers(QString deviceUri)
+    Printers(QString deviceUri, const char *options) : m_options(options)
     {
         const auto add = [&](const char *name, const char *description, const char *place) -> bv::PrintQueue & {
             bv::PrintQueue queue;
@@ -160,10 +260,14 @@ public:
     bv::Result<std::vector<bv::PrintQueue>> queues(bv::CallControl &) const override { return m_queues; }
     bv::Result<bv::PpdText> ppd(const QString &, bv::CallControl &) const override
     {
-        return bv::PpdText::read(QStringLiteral(BV_SOURCE_DIR "/resources/QL70.ppd"));
+        const QString path = QStringLiteral(BV_SOURCE_DIR "/resources/QL70.ppd");
+        bv::Result<bv::PpdText> text = bv::PpdText::read(path);
+        return m_options.isEmpty() || !text ? std::move(text)
+                                            : bv::PpdText::from(text.value().text.replace("\n*End", m_options), path);
     }
 
 private:
+    QByteArray m_options;
     std::vector<bv::PrintQueue> m_queues;
 };
 
@@ -201,9 +305,14 @@ bool save(PrintDialog &dialog, const QString &path)
     QCoreApplication::processEvents();
     QPixmap picture = dialog.grab();
     // A pop-up is a window of its own, over this one.
-    if (QWidget *over = QApplication::activePopupWidget()) {
+    QWidget *over = QApplication::activePopupWidget();
+    if (!over)
+        over = QApplication::activeModalWidget();
+    if (over && over != &dialog) {
         QPainter painter(&picture);
-        painter.drawPixmap(dialog.mapFromGlobal(over->mapToGlobal(QPoint(0, 0))), over->grab());
+        const QPoint corner = dialog.mapFromGlobal(over->mapToGlobal(QPoint(0, 0)));
+        painter.drawPixmap(corner, over->grab());
+        painter.drawRect(QRect(corner, over->size()).adjusted(-1, -1, 0, 0)); // its frame is not ours to draw
     }
     return picture.save(path, "PNG");
 }
@@ -211,7 +320,8 @@ bool save(PrintDialog &dialog, const QString &path)
 int take(const Kind &kind, const QString &path, QApplication &application)
 {
     const QTemporaryDir home;
-    qputenv("XDG_STATE_HOME", home.path().toLocal8Bit());
+    for (const char *variable : {"XDG_STATE_HOME", "XDG_CONFIG_HOME"})
+        qputenv(variable, home.path().toLocal8Bit());
     const bvtest::ListRoot root;
     if (kind.isWaiting) {
         root.write("snmp/snmp.conf", "mibs :\ndefaultPort " + std::to_string(silentPort()) + "\n");
@@ -227,10 +337,14 @@ int take(const Kind &kind, const QString &path, QApplication &application)
     bv::RememberedTickets remembered(home.filePath("tickets"));
     const QString sample = kind.pages > 0 ? pdfOf(kind.pages, home.filePath("report.pdf"))
                                           : QStringLiteral(BV_SOURCE_DIR "/resources/demo/sample.pdf");
+    QStringList documents = {sample};
+    for (int i = 2; i <= kind.documents; ++i)
+        documents << pdfOf(1, home.filePath(QStringLiteral("report %1.pdf").arg(i)));
     PrintDialog dialog(std::make_shared<Printers>(kind.isWaiting ? QStringLiteral("lpd://127.0.0.1/queue")
-                                                                 : QStringLiteral("socket://127.0.0.1")),
+                                                                 : QStringLiteral("socket://127.0.0.1"),
+                                                  kind.options),
                        std::make_shared<bv::FolderSink>(home.filePath("jobs")), loader, remembered,
-                       {QStringLiteral("QL70"), std::nullopt, {sample}, bv::pdfPages()});
+                       {QStringLiteral("QL70"), std::nullopt, documents, bv::pdfPages()});
     dialog.resize(kind.size);
     int status = 1;
     if (kind.isWaiting) {
@@ -251,11 +365,28 @@ int take(const Kind &kind, const QString &path, QApplication &application)
     dialog.show();
     if (!ready.wait(30000))
         return 1;
+    constexpr int kSettled = 200; // milliseconds: scroll bars and columns find their places
+    if (kind.opensWindow) {
+        if (shown.isEmpty())
+            shown.wait(10000);
+        auto *look = new QTimer(&dialog);
+        QObject::connect(look, &QTimer::timeout, &dialog, [&] {
+            QWidget *over = QApplication::activeModalWidget();
+            if (!over)
+                return;
+            status = save(dialog, path) ? 0 : 1;
+            look->stop();
+            over->close();
+        });
+        look->start(kSettled);
+        kind.use(dialog); // may return only when the window is closed
+        const bool isTaken = QTest::qWaitFor([&status] { return status == 0; }, 10000);
+        return isTaken ? 0 : 1;
+    }
     if (kind.use)
         kind.use(dialog);
     if (!dialog.parts().preview->isFolded() && shown.isEmpty())
         shown.wait(10000);
-    constexpr int kSettled = 200; // milliseconds: scroll bars and columns find their places
     QTest::qWait(kSettled);
     return save(dialog, path) ? 0 : 1;
 }
