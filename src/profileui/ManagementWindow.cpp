@@ -3,6 +3,7 @@
 #include "profileui/ManagementWindow.h"
 
 #include "platform/Bundle.h"
+#include "platform/FocusInSight.h"
 #include "profileui/ProfileTableModel.h"
 #include "profileui/WindowHints.h"
 
@@ -21,6 +22,7 @@ ManagementWindow::ManagementWindow(QWidget *parent) : QDialog(parent), model(new
     // What is typed looks as it will look in the table.
     for (QWidget *field : std::initializer_list<QWidget *>{controls._fileNameEdit, controls._profileNameEdit})
         field->setFont(model->font());
+    keepFocusInSight(controls.windowArea);
     hints = new WindowHints(this);
     setReturnConfirmsEntry(false);
     fitIntoScreen();

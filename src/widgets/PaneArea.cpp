@@ -2,6 +2,8 @@
 // The sizes of the scroll area.
 #include "widgets/PaneArea.h"
 
+#include "platform/FocusInSight.h"
+
 #include <QResizeEvent>
 #include <QScrollBar>
 #include <algorithm>
@@ -13,6 +15,7 @@ PaneArea::PaneArea(QWidget *parent) : QScrollArea(parent)
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
+    keepFocusInSight(this);
 }
 
 QSize PaneArea::sizeHint() const

@@ -6,7 +6,7 @@
 
 namespace bv {
 
-// Takes no keyboard focus itself. Scrolls to a control that gets the focus.
+// Takes no keyboard focus itself. Scrolls to a control that gets the focus by the keyboard or by a call.
 class PaneArea : public QScrollArea
 {
     Q_OBJECT

@@ -215,10 +215,11 @@ TEST_F(ProfileWindow, TheProfileNamesGetTheSpareWidthAndASmallWindowScrolls)
         EXPECT_EQ(window->height(), 340);
         for (QWidget *control : std::initializer_list<QWidget *>{c()._windowOK, c()._windowCancel})
             EXPECT_TRUE(window->rect().contains(control->geometry()));
+        const auto inSight = [&] {
+            return c()._fileNameEdit->visibleRegion().boundingRect() == c()._fileNameEdit->rect();
+        };
         press(c()._addButton);
-        QTest::qWait(0);
-        const QPoint field = c()._fileNameEdit->mapTo(window, c()._fileNameEdit->rect().center());
-        EXPECT_TRUE(window->rect().contains(field)) << "the focus scrolled into view";
+        EXPECT_TRUE(QTest::qWaitFor(inSight)) << "the focus scrolled into view";
     });
 }
 
