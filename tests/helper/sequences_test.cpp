@@ -47,7 +47,7 @@ TEST_F(Sequences, AProcessIsIdentifiedByStartTimeWhateverItsName)
         [parent = bv::identifyProcess(getppid())->startTime, own = bv::identifyProcess(getpid())->startTime] {
             prctl(PR_SET_NAME, "a) b (c 1 2 3");
             const uint64_t child = bv::identifyProcess(getpid())->startTime;
-            return parent <= own && own < child && child - own < 100 * 3600;
+            return parent <= own && own < child && child - own < uint64_t{100} * 3600;
         }));
     EXPECT_FALSE(bv::identifyProcess(0));
 }

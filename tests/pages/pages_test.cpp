@@ -92,7 +92,8 @@ protected:
             bytes.append(some.data(), size_t(got));
         }
         return QImage(reinterpret_cast<const uchar *>(bytes.data()), pixels.width(), pixels.height(),
-                      pixels.width() * (gray ? 1 : 4), gray ? QImage::Format_Grayscale8 : QImage::Format_RGB32)
+                      qsizetype(pixels.width()) * (gray ? 1 : 4),
+                      gray ? QImage::Format_Grayscale8 : QImage::Format_RGB32)
             .copy();
     }
 

@@ -83,7 +83,7 @@ TEST_P(Presets, MeanWhatTheirNameSaysAndConflictWithNothing)
         SCOPED_TRACE(kMeanings[i].option);
         const ppd_option_t *option = ppdFindOption(ppd.get(), kMeanings[i].option);
         ASSERT_TRUE(option);
-        const int index = indexes[i].index[preset];
+        const auto index = indexes[i].index[preset];
         ASSERT_LT(index, option->num_choices);
         EXPECT_STREQ(option->choices[index].choice, kMeanings[i].choice[preset]) << indexes[i].menu;
         ppdMarkOption(ppd.get(), kMeanings[i].option, option->choices[index].choice);

@@ -211,10 +211,10 @@ void PrivateCupsd::listenOnPort()
     any.sin_family = AF_INET;
     any.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     socklen_t length = sizeof(any);
-    bind(probe, reinterpret_cast<const sockaddr *>(&any), length);
-    getsockname(probe, reinterpret_cast<sockaddr *>(&any), &length);
+    if (bind(probe, reinterpret_cast<const sockaddr *>(&any), length) == 0 &&
+        getsockname(probe, reinterpret_cast<sockaddr *>(&any), &length) == 0)
+        m_port = ntohs(any.sin_port);
     close(probe);
-    m_port = ntohs(any.sin_port);
 }
 
 void PrivateCupsd::useHere(const QString &home) const
