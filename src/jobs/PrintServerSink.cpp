@@ -149,10 +149,11 @@ Sending sendDocument(ServerConnection &server, CallControl &control, const JobRe
     });
     if (!error.isEmpty())
         return {End::Failed, error};
-    const ServerAnswer answer = server.endDocument();
+    const bool isWhole = sent == document.value().size();
+    const ServerAnswer answer = server.endDocument(isWhole);
     if (answer.isRefusal())
         return {End::Failed, problemOf(answer, job.queue, name)};
-    if (sent != document.value().size())
+    if (!isWhole)
         return {End::Lost, {}};
     return {answer.isGood() ? End::Confirmed : End::Unconfirmed, {}};
 }

@@ -242,11 +242,11 @@ bool ServerConnection::sendBytes(std::span<const char> bytes)
     return cupsWriteRequestData(m_http.get(), bytes.data(), bytes.size()) == HTTP_STATUS_CONTINUE;
 }
 
-ServerAnswer ServerConnection::endDocument()
+ServerAnswer ServerConnection::endDocument(bool whole)
 {
     m_limits->beginStep();
     http_status_t status = httpGetStatus(m_http.get());
-    if (status == HTTP_STATUS_CONTINUE) {
+    if (status == HTTP_STATUS_CONTINUE && whole && !m_limits->isOver()) {
         httpWrite2(m_http.get(), "", 0);
         status = awaitStatus();
     }

@@ -60,9 +60,10 @@ public:
 
     // The same for a request that is followed by a document. beginDocument() returns a sentence for the user on a
     // failure. sendBytes() returns false when the server takes no more; then endDocument() tells why, if it said so.
+    // A document that is not `whole` is never ended, or the server would print a part of it.
     QString beginDocument(const IppMessage &request);
     bool sendBytes(std::span<const char> bytes);
-    ServerAnswer endDocument();
+    ServerAnswer endDocument(bool whole);
 
     // The same for a request whose answer is followed by a document: writes that to a descriptor. A document above
     // `maximum` bytes is a problem, and so is one that is cut off; what was written of it is then of no use.

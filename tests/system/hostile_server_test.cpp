@@ -23,6 +23,7 @@
 #include <QTimer>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <thread>
 
 namespace {
 
@@ -261,6 +262,21 @@ TEST_F(StoppedServer, TheWindowOpensOnceItGoesOnAgain)
     m_server.goOn();
     EXPECT_TRUE(waitFor([&] { return m_dialog->printReason().isEmpty(); }));
     heart.report("stopped cupsd");
+}
+
+TEST_F(StoppedServer, NoPartOfADocumentThatRanOutOfTimeIsPrinted)
+{
+    const bv::JobRequest job = {"QL70", "large", {largeDocument()}, {}};
+    bv::CallControl control;
+    std::thread clock([&control] {
+        while (control.done() == 0)
+            std::this_thread::yield();
+        control.allow(std::chrono::milliseconds(0));
+    });
+    const auto sent = bv::PrintServerSink().submit(job, control);
+    clock.join();
+    EXPECT_FALSE(sent);
+    expectNothingInTheQueue();
 }
 
 TEST_F(StoppedServer, AJobCanceledOnItsWayLeavesNothingInTheQueue)
