@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // ql70sim: the simulated printer. Serves its table of color profiles over SNMP version 1.
+#include "platform/TerminalText.h"
 #include "simulator/Agent.h"
 
 #include <array>
@@ -48,9 +49,15 @@ void printHelp()
         std::printf("  %-18s %s\n", fault.name, fault.description);
 }
 
+// Arguments and names of files may hold anything.
+void complain(const std::string &problem)
+{
+    std::fprintf(stderr, "ql70sim: %s\n", bv::printableText(problem).c_str());
+}
+
 [[noreturn]] void refuse(const std::string &problem)
 {
-    std::fprintf(stderr, "ql70sim: %s (--help tells more)\n", problem.c_str());
+    complain(problem + " (--help tells more)");
     std::exit(kExitUsage);
 }
 
@@ -65,42 +72,50 @@ int portNumber(std::string_view text)
 
 Options parseArguments(int argc, char **argv)
 {
+    // No letters: optopt is then a letter only for a word like "-x".
+    enum { Port = 1, Address, Profiles, Fault, Count, Help };
     // clang-format off
     constexpr std::array<option, 7> kLongOptions = {{
-        {"port",     required_argument, nullptr, 'p'},
-        {"address",  required_argument, nullptr, 'a'},
-        {"profiles", required_argument, nullptr, 'l'},
-        {"fault",    required_argument, nullptr, 'f'},
-        {"count",    no_argument,       nullptr, 'c'},
-        {"help",     no_argument,       nullptr, 'h'},
-        {nullptr,    0,                 nullptr, 0  },
+        {"port",     required_argument, nullptr, Port},
+        {"address",  required_argument, nullptr, Address},
+        {"profiles", required_argument, nullptr, Profiles},
+        {"fault",    required_argument, nullptr, Fault},
+        {"count",    no_argument,       nullptr, Count},
+        {"help",     no_argument,       nullptr, Help},
+        {nullptr,    0,                 nullptr, 0},
     }};
     // clang-format on
     Options options;
-    for (int letter; (letter = getopt_long(argc, argv, "", kLongOptions.data(), nullptr)) != -1;) {
-        switch (letter) {
-        case 'p':
+    opterr = 0;
+    for (int name; (name = getopt_long(argc, argv, ":", kLongOptions.data(), nullptr)) != -1;) {
+        switch (name) {
+        case Port:
             options.port = portNumber(optarg);
             break;
-        case 'a':
+        case Address:
             options.address = optarg;
             break;
-        case 'l':
+        case Profiles:
             options.profiles = optarg;
             break;
-        case 'f':
+        case Fault:
             options.fault = sim::findFault(optarg);
             if (!options.fault)
                 refuse("there is no fault \"" + std::string(optarg) + "\"");
             break;
-        case 'c':
+        case Count:
             options.count = true;
             break;
-        case 'h':
+        case Help:
             printHelp();
             std::exit(0);
+        case ':':
+            refuse("the option \"" + std::string(argv[optind - 1]) + "\" needs a value");
         default:
-            std::exit(kExitUsage); // getopt_long(3) has printed a message
+            if (optopt > 0 && optopt <= Help)
+                refuse("\"" + std::string(argv[optind - 1]) + "\" has a value that it does not take");
+            refuse("\"" + (optopt == 0 ? std::string(argv[optind - 1]) : std::string{'-', char(optopt)}) +
+                   "\" is an unrecognized option");
         }
     }
     if (optind < argc)
@@ -142,7 +157,7 @@ void reload(const Options &options, sim::Agent *agent)
 {
     const sim::ProfileFile file = profilesFor(options);
     if (!file.error.empty()) {
-        std::fprintf(stderr, "ql70sim: %s: %s\n", options.profiles.c_str(), file.error.c_str());
+        complain(options.profiles + ": " + file.error);
         return;
     }
     agent->serve(file.rows);
@@ -175,7 +190,7 @@ int main(int argc, char **argv)
     agent.serve(file.rows);
     std::string problem;
     if (!agent.listen(options.address, options.port, &problem)) {
-        std::fprintf(stderr, "ql70sim: %s\n", problem.c_str());
+        complain(problem);
         return kExitPort;
     }
     agent.watch(signalPipe[0], [&options, &agent] { takeSignals(options, &agent); });

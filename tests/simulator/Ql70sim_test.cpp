@@ -65,7 +65,8 @@ TEST_F(Ql70sim, RefusesBadArgumentsAndLists)
         {{"--port", "0", "--fault", "nonsense"}, "there is no fault \"nonsense\""},
         {{"--port", "0", "--profiles", bad}, "bad: line 1: a row has six fields"},
         {{"--port", "0", "--profiles", "/nowhere"}, "/nowhere: it cannot be read"},
-        {{"--nonsense"}, "unrecognized option"},
+        {{"--nonsense\x1b[2J"}, "\"--nonsense\\x1b[2J\" is an unrecognized option"},
+        {{"--port", "0", "--fault"}, "\"--fault\" needs a value"},
     };
     for (const auto &[words, problem] : cases) {
         std::vector<std::string> command = {kSimulator};
@@ -73,6 +74,7 @@ TEST_F(Ql70sim, RefusesBadArgumentsAndLists)
         const Ended ended = run(command);
         EXPECT_EQ(ended.status, 2) << problem;
         EXPECT_THAT(ended.output, HasSubstr(problem));
+        EXPECT_EQ(ended.output.find('\x1b'), std::string::npos) << problem;
     }
 }
 
