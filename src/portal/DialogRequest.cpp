@@ -6,6 +6,7 @@
 #include <QJsonObject>
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace bv {
 
@@ -42,12 +43,13 @@ std::optional<QJsonObject> object(const QByteArray &line)
     return document.isObject() ? std::optional<QJsonObject>(document.object()) : std::nullopt;
 }
 
+// The line has no others than finite ones.
 bool isNumber(const QVariant &value)
 {
     constexpr std::array<QMetaType::Type, 6> kNumbers = {QMetaType::Double, QMetaType::Float,    QMetaType::Int,
                                                          QMetaType::UInt,   QMetaType::LongLong, QMetaType::ULongLong};
-    return std::any_of(kNumbers.begin(), kNumbers.end(),
-                       [&value](QMetaType::Type type) { return value.typeId() == type; });
+    return std::isfinite(value.toDouble()) &&
+           std::any_of(kNumbers.begin(), kNumbers.end(), [&value](auto type) { return value.typeId() == type; });
 }
 
 } // namespace

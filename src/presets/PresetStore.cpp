@@ -29,6 +29,16 @@ bool isSameName(const QString &one, const QString &other)
     return one.compare(other, Qt::CaseInsensitive) == 0;
 }
 
+// A file of the preset's name may hold another preset, which was renamed, or what this version cannot read.
+QString freePath(const QString &folder, const QString &name)
+{
+    const QString base = folder + u'/' + safeFileName(name);
+    QString path = base + QStringLiteral(".json");
+    for (int number = 2; QFileInfo::exists(path) || QFileInfo(path).isSymLink(); ++number)
+        path = QStringLiteral("%1+%2.json").arg(base, QString::number(number));
+    return path;
+}
+
 } // namespace
 
 PresetStore::PresetStore(QString folder) : m_folder(std::move(folder)) {}
@@ -89,9 +99,7 @@ QString PresetStore::store(const QString &queue, const Preset &preset) const
     if (QString problem = presetNameProblem(preset.name); !problem.isEmpty())
         return problem;
     const std::optional<Stored> old = find(queue, preset.name);
-    QString path = m_folder + u'/' + safeFileName(queue) + u'/' + safeFileName(preset.name) + QStringLiteral(".json");
-    if (old)
-        path = old->path;
+    const QString path = old ? old->path : freePath(m_folder + u'/' + safeFileName(queue), preset.name);
     QString error;
     if (storeFile(path, presetToJson(preset), &error))
         return {};
@@ -135,8 +143,11 @@ QString PresetStore::freeName(const QString &queue, const QString &name) const
 {
     QString free = name;
     for (int number = 2; contains(queue, free); ++number) {
-        const QString behind = QStringLiteral(" %1").arg(number);
-        free = name.left(kLongestPresetName - behind.size()).trimmed() + behind;
+        const QString suffix = u' ' + QString::number(number);
+        free = name.left(kLongestPresetName - suffix.size());
+        if (!free.isEmpty() && free.back().isHighSurrogate())
+            free.chop(1);
+        free = free.trimmed() + suffix;
     }
     return free;
 }

@@ -100,6 +100,27 @@ TEST_F(Presets, AreStoredRenamedAndDeletedForEachPrinter)
     EXPECT_EQ(m_store.names("Office").size(), 3);
 }
 
+// The file of a preset keeps its name when the preset gets another.
+TEST_F(Presets, ReplaceNoPresetThatWasRenamedAndNoFileThatCannotBeRead)
+{
+    const QString longest(60, u'n');
+    for (const QString &name : {QStringLiteral("Draft"), longest})
+        EXPECT_EQ(m_store.store("Office", {name, "m", ticket(R"({"a":"1"})")}), "");
+    EXPECT_EQ(m_store.rename("Office", "Draft", "Proof"), "");
+    QFile newer(m_folder.filePath("presets/Office/Later.json"));
+    ASSERT_TRUE(newer.open(QIODevice::WriteOnly) && newer.write(R"({"bvprintPreset":2})") > 0);
+    newer.close();
+    for (const char *name : {"Draft", "Later"})
+        EXPECT_EQ(m_store.store("Office", {name, "m", ticket(R"({"a":"2"})")}), "");
+    EXPECT_EQ(m_store.store("Office", {m_store.freeName("Office", longest), "m", {}}), "");
+    for (const QString &name : {QStringLiteral("Draft"), QStringLiteral("Later"), longest, longest.left(58) + " 2"})
+        EXPECT_TRUE(m_store.contains("Office", name)) << name.toStdString();
+    EXPECT_EQ(m_store.names("Office").size(), 5);
+    EXPECT_EQ(*m_store.load("Office", "Proof").value().options.value("a").string(), "1");
+    ASSERT_TRUE(newer.open(QIODevice::ReadOnly));
+    EXPECT_EQ(newer.readAll(), R"({"bvprintPreset":2})");
+}
+
 TEST_F(Presets, ThatCannotBeStoredSaySo)
 {
     QFile file(m_folder.filePath("presets"));
