@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// Compares the walk with the standard snmpwalk command: a table of 500 rows and 7 columns from the same simulated
-// printer, in paired runs. Prints medians of wall and CPU time, their ratios, and the number of requests. QL70Helper
-// also reads, reconciles and writes the stored lists.
-// Usage: walk_bench [PAIRS]
+// Compares the walk with the same walk outside its fence, and with the standard snmpwalk command: a table of 500 rows
+// and 7 columns from the same simulated printer, in paired runs. Prints medians of wall and CPU time, their ratios to
+// snmpwalk, and the number of requests; then the ratios of the walk to the one outside. QL70Helper also reads,
+// reconciles and writes the stored lists. Usage: walk_bench [PAIRS]
 #include "support/ListRoot.h"
 #include "support/ProgramUnderTest.h"
 
 #include "discovery/ProfileWalk.h"
+#include "discovery/Reconciliation.h"
+#include "discovery/SnmpEnvironment.h"
 #include "platform/UserName.h"
 #include "profiles/HelperRequest.h"
 
@@ -40,8 +42,8 @@ public:
     }
 };
 
-// Only the walk, in this process and without the stored list.
-int walkHere(const char *host)
+// Only the walk, without the stored list: as always in a process of its own behind the fence, or in this one.
+int walkHere(const char *host, bool isFenced)
 {
     const bvtest::TestRoot empty;
     NoHelper noHelper;
@@ -51,7 +53,13 @@ int walkHere(const char *host)
     for (std::string &word : words)
         vector.push_back(word.data());
     vector.push_back(nullptr);
-    return mib_walk(static_cast<int32_t>(words.size()), vector.data());
+    const auto count = static_cast<int32_t>(words.size());
+    if (isFenced)
+        return mib_walk(count, vector.data());
+    bv::prepareSnmpEnvironment();
+    const int32_t status = bv::walkPrinter(count, vector.data(), {}, nullptr);
+    vRestructPlistSpool2Current(status);
+    return status;
 }
 
 struct Sample
@@ -148,7 +156,9 @@ long requestsOf(const bvtest::ListRoot &root, const std::vector<std::string> &co
 int main(int argc, char **argv)
 {
     if (argc == 3 && std::strcmp(argv[1], "--walk") == 0)
-        return walkHere(argv[2]);
+        return walkHere(argv[2], true);
+    if (argc == 3 && std::strcmp(argv[1], "--unfenced") == 0)
+        return walkHere(argv[2], false);
     const int pairs = argc > 1 ? std::max(1, std::atoi(argv[1])) : 21;
 
     const bvtest::ListRoot root;
@@ -156,6 +166,7 @@ int main(int argc, char **argv)
     const std::string host = "127.0.0.1";
     Contender contenders[] = {
         {"snmpwalk", {"snmpwalk", "-Os", "-c", "mirror", "-v", "1", host, kRoot}},
+        {"unfenced", {argv[0], "--unfenced", host}},
         {"mib_walk", {argv[0], "--walk", host}},
         {"QL70Helper",
          {root.folder().string() + kHelperPath, "mibwalk_XPC", "QL70", bv::loginName(), "snmpwalk", "-Os", "-c",
@@ -183,5 +194,8 @@ int main(int argc, char **argv)
                     medianOf(contender, &Sample::cpu), medianRatio(contender, contenders[0], &Sample::wall),
                     medianRatio(contender, contenders[0], &Sample::cpu), requestsOf(root, contender.command));
     }
+    std::printf("%s to %s: wall %.3f, CPU %.3f\n", contenders[2].name, contenders[1].name,
+                medianRatio(contenders[2], contenders[1], &Sample::wall),
+                medianRatio(contenders[2], contenders[1], &Sample::cpu));
     return 0;
 }
