@@ -16,7 +16,15 @@ set(BV_ICONS ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 set(BV_FILTERS lib/cups/filter)
 set(BV_PORTALS ${CMAKE_INSTALL_DATADIR}/xdg-desktop-portal/portals)
 set(BV_SERVICES ${CMAKE_INSTALL_DATADIR}/dbus-1/services)
+set(BV_SERVICE_MENUS ${CMAKE_INSTALL_DATADIR}/kio/servicemenus)
+set(BV_NEMO_ACTIONS ${CMAKE_INSTALL_DATADIR}/nemo/actions)
+set(BV_METAINFO ${CMAKE_INSTALL_DATADIR}/metainfo)
+set(BV_MAN_PLACES "")
+if(TARGET bvmanual)
+  set(BV_MAN_PLACES ${CMAKE_INSTALL_MANDIR}/man1 ${CMAKE_INSTALL_MANDIR}/man8)
+endif()
 set(BV_PLACES ${CMAKE_INSTALL_BINDIR} lib/bvco ${BV_FILTERS} ${BV_PPD_FOLDER} ${BV_APPLICATIONS} ${BV_ICONS} ${BV_PORTALS} ${BV_SERVICES}
+  ${BV_SERVICE_MENUS} ${BV_NEMO_ACTIONS} ${BV_METAINFO} ${BV_MAN_PLACES}
   "${BV_HELPERS}" "${BV_SHARED}/Icons" "${BV_SHARED}/Profiles" "${BV_LIBRARY}/Printers/BREVANE/Preferences")
 
 # Runs first, so that an installation is never left half done. Also creates the folders.
@@ -35,7 +43,7 @@ install(TARGETS QL70Helper QL70Walk RUNTIME DESTINATION "${BV_HELPERS}")
 install(TARGETS bvql70 RUNTIME DESTINATION ${BV_FILTERS})
 
 install(FILES ${CMAKE_SOURCE_DIR}/resources/QL70.ppd DESTINATION ${BV_PPD_FOLDER})
-install(FILES ${CMAKE_SOURCE_DIR}/resources/bvprint.desktop DESTINATION ${BV_APPLICATIONS})
+install(FILES ${CMAKE_SOURCE_DIR}/resources/desktop/vnd.brevane.bvprint.desktop DESTINATION ${BV_APPLICATIONS})
 # The service file holds the path of bvportal, and the prefix is known at installation only.
 set(BV_SERVICE org.freedesktop.impl.portal.desktop.bvprint.service)
 install(FILES ${CMAKE_SOURCE_DIR}/resources/portal/vnd.brevane.bvprint.portal DESTINATION ${BV_PORTALS})
@@ -44,7 +52,18 @@ install(CODE "
   configure_file([==[${CMAKE_SOURCE_DIR}/resources/portal/${BV_SERVICE}.in]==]
     [==[${CMAKE_BINARY_DIR}/${BV_SERVICE}]==] @ONLY)")
 install(FILES ${CMAKE_BINARY_DIR}/${BV_SERVICE} DESTINATION ${BV_SERVICES})
-install(FILES ${CMAKE_SOURCE_DIR}/resources/icons/bvprint.svg DESTINATION ${BV_ICONS})
+# File managers offer printing by these, and no desktop takes bvprint for the opener of a type.
+install(FILES ${CMAKE_SOURCE_DIR}/resources/desktop/vnd.brevane.bvprint.servicemenu.desktop DESTINATION ${BV_SERVICE_MENUS}
+  RENAME vnd.brevane.bvprint.desktop)
+install(FILES ${CMAKE_SOURCE_DIR}/resources/desktop/vnd.brevane.bvprint.nemo_action DESTINATION ${BV_NEMO_ACTIONS})
+install(FILES ${CMAKE_SOURCE_DIR}/resources/desktop/vnd.brevane.bvprint.metainfo.xml DESTINATION ${BV_METAINFO})
+if(TARGET bvmanual) # the simulated printer is not installed, and neither is its page
+  install(FILES ${CMAKE_BINARY_DIR}/share/man/bvprint.1 ${CMAKE_BINARY_DIR}/share/man/bvportal.1
+          DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+  install(FILES ${CMAKE_BINARY_DIR}/share/man/bvql70.8 ${CMAKE_SOURCE_DIR}/resources/manual/QL70Helper.8
+          DESTINATION ${CMAKE_INSTALL_MANDIR}/man8)
+endif()
+install(FILES ${CMAKE_SOURCE_DIR}/resources/icons/vnd.brevane.bvprint.svg DESTINATION ${BV_ICONS})
 install(FILES ${CMAKE_SOURCE_DIR}/resources/icons/fileExistqnQL70.icns DESTINATION "${BV_SHARED}/Icons")
 
 # Set-group-id and sticky; CMake has no keyword for sticky. The administrator or the package sets the group (chgrp

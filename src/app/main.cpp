@@ -92,9 +92,9 @@ int runProgram(const bv::CommandLine &line)
         return refuse(loaded.error());
     if (!isBatch) {
         // The desktop's theme may have its own.
-        QGuiApplication::setDesktopFileName(QStringLiteral("bvprint"));
+        QGuiApplication::setDesktopFileName(QStringLiteral("vnd.brevane.bvprint"));
         QGuiApplication::setWindowIcon(
-            QIcon::fromTheme(QStringLiteral("bvprint"), QIcon(QStringLiteral(":/bvprint/bvprint.svg"))));
+            QIcon::fromTheme(QStringLiteral("vnd.brevane.bvprint"), QIcon(QStringLiteral(":/bvprint/bvprint.svg"))));
         if (!line.job.isEmpty())
             return bv::runHeldJobDialog(line.session, line.job, line.screenshot, loader);
         return bv::runPrintDialog({line.session, line.documents, line.preset, line.screenshot}, loader);

@@ -48,10 +48,26 @@ bv::JobSettings readSettings(const char *options)
     return none;
 }
 
+const char kHelp[] =
+    R"(Usage: bvql70 job-id user title copies options [file]
+Writes the document, standard input or the file, to standard output, with the setup that the color options of the job
+mean. CUPS runs it for each document of a queue whose PPD names it.
+
+  --help  print this and end
+
+What the job says of Quick Color, of grayscale and of the printer's profiles is worked out here, whichever program sent
+the job. Problems go to the job's log, and the document is then printed with the choices of the PPD. Exit status: 0, or
+1 when the document cannot be read or written.
+)";
+
 } // namespace
 
 int main(int argc, char **argv)
 {
+    if (argc == 2 && std::strcmp(argv[1], "--help") == 0) {
+        std::fputs(kHelp, stdout);
+        return 0;
+    }
     if (argc != 6 && argc != 7) {
         say("ERROR", "usage: bvql70 job-id user title copies options [file]");
         return 1;

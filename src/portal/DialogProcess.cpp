@@ -268,7 +268,7 @@ int runDialogProcess(char *program)
         return fail(QStringLiteral("there is no display for the dialog. %1").arg(note));
     const QApplication application(wordCount, words.data());
     QCoreApplication::setApplicationName(QStringLiteral("bvprint"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("bvprint"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("vnd.brevane.bvprint"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
     ClosingWatch watch;
     return DialogRun(*request, document, watch).run(note);
