@@ -20,6 +20,7 @@
 #include "queues/Locale.h"
 #include "queues/PanelLoader.h"
 #include "queues/SessionStart.h"
+#include "texts/WindowTexts.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -28,6 +29,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
+#include <optional>
 
 namespace {
 
@@ -81,11 +83,15 @@ int runBatch(const bv::CommandLine &line, bv::PanelLoader &loader)
 
 int runProgram(const bv::CommandLine &line)
 {
+    // In the locale C a batch shows the keys of texts. A window always shows words. What a batch says of errors is for
+    // scripts, and English.
+    const bool isBatch = line.mode == bv::CommandLine::Mode::Batch;
+    std::optional<bv::WindowTexts> texts;
+    if (!isBatch)
+        texts.emplace(bv::messageLocale());
     if (line.mode == bv::CommandLine::Mode::Agent)
         return bv::runAgent();
     bv::endInOrderBySignals();
-    // In the locale C a batch shows the keys of texts. A window always shows words.
-    const bool isBatch = line.mode == bv::CommandLine::Mode::Batch;
     const QString language = isBatch && bv::isLocaleC() ? QString() : bv::messageLocale();
     bv::PanelLoader loader;
     if (const auto loaded = loader.load(line.plugin, language); !loaded)

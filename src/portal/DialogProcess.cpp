@@ -18,6 +18,7 @@
 #include "queues/Locale.h"
 #include "queues/PanelLoader.h"
 #include "queues/QueueSession.h"
+#include "texts/WindowTexts.h"
 
 #include <QApplication>
 #include <algorithm>
@@ -268,6 +269,7 @@ int runDialogProcess(char *program)
         return fail(QStringLiteral("there is no display for the dialog. %1").arg(note));
     const QApplication application(wordCount, words.data());
     QCoreApplication::setApplicationName(QStringLiteral("bvprint"));
+    const WindowTexts texts(messageLocale());
     QGuiApplication::setDesktopFileName(QStringLiteral("vnd.brevane.bvprint"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
     ClosingWatch watch;
