@@ -47,11 +47,19 @@ QString originalOf(const Title &title)
     return isOurs ? title.owner->property(propertyOf(kOriginal, title.place)).toString() : title.text;
 }
 
-// Without the mark. A doubled "&" stays doubled, since it stands for itself.
+// Without the mark. A doubled "&" stays doubled, since it stands for itself. A letter that stands in brackets only for
+// its mark, "(&X)", goes with it.
 QString withoutMark(const QString &text)
 {
     QString plain;
     for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] == u'(' && i + 3 < text.size() && text[i + 1] == u'&' && text[i + 2] != u'&' &&
+            text[i + 3] == u')') {
+            if (plain.endsWith(u' '))
+                plain.chop(1);
+            i += 3;
+            continue;
+        }
         if (text[i] == u'&' && i + 1 < text.size()) {
             if (text[i + 1] == u'&')
                 plain += u'&';
@@ -60,6 +68,22 @@ QString withoutMark(const QString &text)
         plain += text[i];
     }
     return plain;
+}
+
+// Whether one key types the letter. Chinese, Japanese and Korean need several; their texts get a Latin letter behind
+// them.
+bool isOneKey(QChar letter)
+{
+    switch (letter.script()) {
+    case QChar::Script_Han:
+    case QChar::Script_Hiragana:
+    case QChar::Script_Katakana:
+    case QChar::Script_Hangul:
+    case QChar::Script_Bopomofo:
+        return false;
+    default:
+        return letter.isLetterOrNumber() && letter != u'ー';
+    }
 }
 
 QString withMark(const QString &plain, QChar letter)
@@ -73,8 +97,10 @@ QString withMark(const QString &plain, QChar letter)
     if (at >= 0)
         return plain.left(at) + u'&' + plain.mid(at);
     // In front of what ends a label.
-    const qsizetype end = plain.endsWith(u':') || plain.endsWith(u'…') ? plain.size() - 1 : plain.size();
-    return plain.left(end) + QStringLiteral(" (&%1)").arg(letter) + plain.mid(end);
+    const qsizetype end = plain.size() - (!plain.isEmpty() && QStringLiteral(":…?？").contains(plain.back()) ? 1 : 0);
+    const bool isSpaced = end > 0 && isOneKey(plain[end - 1]);
+    return plain.left(end) + QString(isSpaced ? QStringLiteral(" (&%1)") : QStringLiteral("(&%1)")).arg(letter) +
+           plain.mid(end);
 }
 
 // The letters of a text, the best ones first: beginnings of words, then all others.
@@ -83,7 +109,7 @@ QString lettersOf(const QString &plain)
     QString first;
     QString others;
     for (qsizetype i = 0; i < plain.size(); ++i) {
-        if (plain[i].isLetterOrNumber())
+        if (isOneKey(plain[i]))
             (i == 0 || !plain[i - 1].isLetterOrNumber() ? first : others) += plain[i].toUpper();
     }
     return first + others;
