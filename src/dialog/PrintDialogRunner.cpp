@@ -49,7 +49,9 @@ void takePicture(PrintDialog &dialog, const QString &path, int &status)
                 // Unbuffered, because errors in a last buffered write would go unnoticed.
                 QFile file(path);
                 if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !dialog.grab().save(&file, "PNG"))
-                    status = badStart(QStringLiteral("The picture %1 cannot be written.").arg(path));
+                    status =
+                        badStart(QCoreApplication::translate("PrintDialogRunner", "The picture %1 cannot be written.")
+                                     .arg(path));
                 dialog.reject();
             });
             // Waits at least one more turn of the event loop for the layout.

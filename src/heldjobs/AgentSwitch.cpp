@@ -51,7 +51,7 @@ QByteArray autostartText(const QString &program)
                                         "Comment=Opens the print dialog for your jobs that the print server holds\n"
                                         "Exec=%1 --agent run\n"
                                         "TryExec=%2\n"
-                                        "Icon=bvprint\n"
+                                        "Icon=vnd.brevane.bvprint\n"
                                         "NoDisplay=true\n")
                              .arg(escaped(quoted(program)), escaped(program));
     return text.toUtf8();

@@ -26,12 +26,12 @@ struct StateRow
 
 // clang-format off
 constexpr std::array<StateRow, 6> kStates = {{
-    {IPP_JSTATE_PENDING,    "Job %1 is not held: it waits for its turn, and is printed as it is."},
-    {IPP_JSTATE_PROCESSING, "Job %1 is being printed already."},
-    {IPP_JSTATE_STOPPED,    "Job %1 has begun to print, and stopped. Resume it in the system's printer settings."},
-    {IPP_JSTATE_CANCELED,   "Job %1 was canceled. Print the document again."},
-    {IPP_JSTATE_ABORTED,    "Job %1 failed. Print the document again."},
-    {IPP_JSTATE_COMPLETED,  "Job %1 has been printed already."},
+    {IPP_JSTATE_PENDING,    QT_TRANSLATE_NOOP("HeldJob", "Job %1 is not held: it waits for its turn, and is printed as it is.")},
+    {IPP_JSTATE_PROCESSING, QT_TRANSLATE_NOOP("HeldJob", "Job %1 is being printed already.")},
+    {IPP_JSTATE_STOPPED,    QT_TRANSLATE_NOOP("HeldJob", "Job %1 has begun to print, and stopped. Resume it in the system's printer settings.")},
+    {IPP_JSTATE_CANCELED,   QT_TRANSLATE_NOOP("HeldJob", "Job %1 was canceled. Print the document again.")},
+    {IPP_JSTATE_ABORTED,    QT_TRANSLATE_NOOP("HeldJob", "Job %1 failed. Print the document again.")},
+    {IPP_JSTATE_COMPLETED,  QT_TRANSLATE_NOOP("HeldJob", "Job %1 has been printed already.")},
 }};
 // clang-format on
 

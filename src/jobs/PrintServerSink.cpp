@@ -37,12 +37,12 @@ struct Refusal
 
 // clang-format off
 constexpr std::array<Refusal, 6> kRefusals = {{
-    {IPP_STATUS_ERROR_NOT_FOUND,                     "The print server has no printer %1 any more; choose another one."},
-    {IPP_STATUS_ERROR_DOCUMENT_FORMAT_NOT_SUPPORTED, "The printer %1 cannot print %2: it does not take documents of that format. Save it as PDF and print that."},
-    {IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS,            "The printer %1 takes no jobs just now; choose another one, or ask who looks after it."},
-    {IPP_STATUS_ERROR_FORBIDDEN,                     "You may not print on the printer %1; ask who looks after it."},
-    {IPP_STATUS_ERROR_NOT_AUTHORIZED,                "You may not print on the printer %1; ask who looks after it."},
-    {IPP_STATUS_ERROR_NOT_AUTHENTICATED,             "You may not print on the printer %1 without logging in to the print server; ask who looks after it."},
+    {IPP_STATUS_ERROR_NOT_FOUND,                     QT_TRANSLATE_NOOP("PrintServerSink", "The print server has no printer %1 any more; choose another one.")},
+    {IPP_STATUS_ERROR_DOCUMENT_FORMAT_NOT_SUPPORTED, QT_TRANSLATE_NOOP("PrintServerSink", "The printer %1 cannot print %2: it does not take documents of that format. Save it as PDF and print that.")},
+    {IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS,            QT_TRANSLATE_NOOP("PrintServerSink", "The printer %1 takes no jobs just now; choose another one, or ask who looks after it.")},
+    {IPP_STATUS_ERROR_FORBIDDEN,                     QT_TRANSLATE_NOOP("PrintServerSink", "You may not print on the printer %1; ask who looks after it.")},
+    {IPP_STATUS_ERROR_NOT_AUTHORIZED,                QT_TRANSLATE_NOOP("PrintServerSink", "You may not print on the printer %1; ask who looks after it.")},
+    {IPP_STATUS_ERROR_NOT_AUTHENTICATED,             QT_TRANSLATE_NOOP("PrintServerSink", "You may not print on the printer %1 without logging in to the print server; ask who looks after it.")},
 }};
 // clang-format on
 

@@ -290,7 +290,7 @@ TEST(BatchOnOurPane, ALocaleChangesTheWordsOfThePaneAndOfThePpd)
 {
     // clang-format off
     const std::tuple<const char *, const char *, const char *> rows[] = {
-        {"C", "EconoMode", "Photo"}, {"de_DE.UTF-8", "Economy Print", "Foto"}, {"nl_NL", "Economy Print", "Photo"}};
+        {"C", "EconoMode", "Photo"}, {"de_DE.UTF-8", "Tonersparmodus", "Foto"}, {"nl_NL", "Economy Print", "Photo"}};
     // clang-format on
     for (const auto &[locale, title, choice] : rows) {
         SCOPED_TRACE(locale);

@@ -139,10 +139,10 @@ protected:
 
     void TearDown() override { dialog.reset(); }
 
-    void loadPlugin(const QString &path)
+    void loadPlugin(const QString &path, const QString &language = {})
     {
         loader = std::make_unique<bv::PanelLoader>();
-        const auto loaded = loader->load(path, {});
+        const auto loaded = loader->load(path, language);
         ASSERT_TRUE(loaded) << qPrintable(loaded.error());
     }
 

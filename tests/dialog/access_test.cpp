@@ -2,15 +2,13 @@
 // What a screen reader and the keyboard find in the window with our pane: names, mnemonics, and the reasons of what is
 // gray. Prints the whole tree, for people to read.
 #include "DialogWorld.h"
+#include "TextsInSight.h"
 
-#include "widgets/Mnemonics.h"
 #include "widgets/WhyGreyed.h"
 
-#include <QAbstractButton>
 #include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTabWidget>
@@ -73,37 +71,18 @@ protected:
             dump(one->child(i), depth + 1);
     }
 
-    // The texts in sight that can have a mnemonic: each must have one, and no two the same.
+    // Each text has a mnemonic of its own, and keeps it.
     void expectMnemonics()
     {
         for (int turn = 0; turn < 3; ++turn)
             QCoreApplication::processEvents();
-        std::map<QChar, QStringList> owners;
-        const auto note = [&](const QWidget *owner, const QString &text) {
+        m_clashes += bvtest::countWrongMnemonics(*dialog);
+        bvtest::eachTextInSight(*dialog, [&](const QWidget *owner, const QString &text) {
             const QChar letter = mnemonicOf(text);
-            owners[letter] << text;
             const auto [seen, isNew] =
                 m_letters.try_emplace({owner, withoutMnemonic(text).section(u'(', 0, 0)}, letter);
             EXPECT_EQ(seen->second, letter) << text.toStdString() << " changed its letter";
-        };
-        for (const QWidget *widget : dialog->findChildren<QWidget *>()) {
-            if (!widget->isVisible() || widget->window() != dialog.get())
-                continue;
-            if (const auto *label = qobject_cast<const QLabel *>(widget); label && label->buddy())
-                note(label, label->text());
-            if (const auto *button = qobject_cast<const QAbstractButton *>(widget); button && !button->text().isEmpty())
-                note(button, button->text());
-            if (const auto *tabs = qobject_cast<const QTabWidget *>(widget))
-                for (int tab = 0; tab < tabs->count(); ++tab)
-                    note(tabs, tabs->tabText(tab));
-        }
-        for (const auto &owner : owners) {
-            if (owner.first.isNull() || owner.second.size() > 1) {
-                ++m_clashes;
-                ADD_FAILURE() << (owner.first.isNull() ? "no mnemonic: " : "the same mnemonic: ")
-                              << owner.second.join(", ").toStdString();
-            }
-        }
+        });
     }
 
     // Letters that people know from other programs.
