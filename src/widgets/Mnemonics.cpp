@@ -86,9 +86,40 @@ bool isOneKey(QChar letter)
     }
 }
 
+bool joinsNext(QChar letter)
+{
+    return letter.joiningType() == QChar::Joining_Dual || letter.joiningType() == QChar::Joining_Causing;
+}
+
+bool joinsPrevious(QChar letter)
+{
+    return joinsNext(letter) || letter.joiningType() == QChar::Joining_Right;
+}
+
+// Whether a mark at text[at] would tear the letters of an Arabic word apart: Qt draws what is underlined by itself, in
+// another form, and wider than the label has room for. `before`: where the letter in front of it is; -1: there is none.
+bool tearsApart(const QString &text, qsizetype before, qsizetype at)
+{
+    return (before >= 0 && joinsNext(text[before]) && joinsPrevious(text[at])) ||
+           (at + 1 < text.size() && joinsNext(text[at]) && joinsPrevious(text[at + 1]));
+}
+
+// The letter that a text brings along; null when it has none, or when its mark would tear a word apart.
+QChar ownLetter(const QString &text)
+{
+    for (qsizetype i = 0; i + 1 < text.size(); ++i) {
+        if (text[i] != u'&')
+            continue;
+        if (text[i + 1] != u'&')
+            return tearsApart(text, i - 1, i + 1) ? QChar() : text[i + 1].toUpper();
+        ++i;
+    }
+    return {};
+}
+
 QString withMark(const QString &plain, QChar letter)
 {
-    const auto isLetter = [&](qsizetype i) { return plain[i].toUpper() == letter; };
+    const auto isLetter = [&](qsizetype i) { return plain[i].toUpper() == letter && !tearsApart(plain, i - 1, i); };
     const auto beginsWord = [&](qsizetype i) { return i == 0 || !plain[i - 1].isLetterOrNumber(); };
     qsizetype at = -1;
     for (qsizetype i = 0; i < plain.size(); ++i)
@@ -109,7 +140,7 @@ QString lettersOf(const QString &plain)
     QString first;
     QString others;
     for (qsizetype i = 0; i < plain.size(); ++i) {
-        if (isOneKey(plain[i]))
+        if (isOneKey(plain[i]) && !tearsApart(plain, i - 1, i))
             (i == 0 || !plain[i - 1].isLetterOrNumber() ? first : others) += plain[i].toUpper();
     }
     return first + others;
@@ -172,7 +203,7 @@ public:
                     act(i);
         };
         each([&](size_t i) {
-            if (const QChar own = mnemonicOf(originals[i]); !own.isNull() && !isHeld(own, i, true))
+            if (const QChar own = ownLetter(originals[i]); !own.isNull() && !isHeld(own, i, true))
                 m_given[i] = own;
         });
         yieldDoubles(originals);
@@ -224,7 +255,7 @@ private:
         for (const bool yieldsOwn : {false, true})
             for (size_t i = 0; i < m_titles.size(); ++i)
                 if (m_titles[i].isInSight && !m_given[i].isNull() &&
-                    (yieldsOwn || m_given[i] != mnemonicOf(originals[i])) && isHeld(m_given[i], i, false))
+                    (yieldsOwn || m_given[i] != ownLetter(originals[i])) && isHeld(m_given[i], i, false))
                     m_given[i] = QChar();
     }
 
@@ -257,7 +288,7 @@ QChar keptLetter(const Title &title, const QString &original)
     const QString letter = title.owner->property(propertyOf(kLetter, title.place)).toString();
     if (letter.isEmpty() || title.owner->property(propertyOf(kNamed, title.place)).toString() == original)
         return letter.isEmpty() ? QChar() : letter[0];
-    const QChar own = mnemonicOf(original);
+    const QChar own = ownLetter(original);
     const bool fits = own.isNull() ? lettersOf(withoutMark(original)).contains(letter[0]) : own == letter[0];
     return fits ? letter[0] : QChar();
 }
@@ -318,7 +349,7 @@ void Mnemonics::assign()
         if (!title.isInSight)
             continue;
         const QString plain = withoutMark(originals[i]);
-        const bool isOwn = given[i] == mnemonicOf(originals[i]);
+        const bool isOwn = given[i] == ownLetter(originals[i]);
         write(title, originals[i], isOwn ? originals[i] : given[i].isNull() ? plain : withMark(plain, given[i]));
     }
 }

@@ -70,6 +70,20 @@ TEST_F(MnemonicsOf, NoTwoTextsShareALetter)
     EXPECT_EQ(label->text(), "Pap&er:");
 }
 
+// Arabic letters change their form with their neighbours, and a marked letter is drawn by itself.
+TEST_F(MnemonicsOf, AMarkTearsNoWordApart)
+{
+    add("ال&طابعة");
+    add("س&طوع");
+    add("&ورق");
+    window.show();
+    Mnemonics mnemonics(&window);
+    mnemonics.assign();
+    EXPECT_EQ(buttons[0]->text(), "&الطابعة");
+    EXPECT_EQ(buttons[1]->text(), "سطو&ع");
+    EXPECT_EQ(buttons[2]->text(), "&ورق");
+}
+
 TEST_F(MnemonicsOf, PagesOfAStackShareLetters)
 {
     auto *stack = new QStackedWidget;
