@@ -117,7 +117,7 @@ void checkJob(const bv::DialogRequest &request, const bv::JobOptions &job, ppd_f
     for (const auto &[keyword, choice] : job) {
         const bv::PrintValue value = again.choices.value(keyword);
         if (hasChoice(ppd, keyword, choice))
-            require(value.string() && *value.string() == choice);
+            require(value.string() && value.string()->compare(choice, Qt::CaseInsensitive) == 0);
     }
 }
 

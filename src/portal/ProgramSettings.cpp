@@ -65,10 +65,11 @@ QString option(const JobOptions &options, const char *keyword)
     return found == options.end() ? QString() : found->second;
 }
 
-bool hasChoice(ppd_file_t *ppd, const QString &keyword, const QString &choice)
+// Puts a choice that the PPD has among the others, spelled as there: libcups takes any case, the dialog does not.
+void choose(PrintDictionary &choices, ppd_option_t *option, const QString &choice)
 {
-    ppd_option_t *found = ppd ? ppdFindOption(ppd, keyword.toUtf8().constData()) : nullptr;
-    return found && ppdFindChoice(found, choice.toUtf8().constData());
+    if (const ppd_choice_t *found = option ? ppdFindChoice(option, choice.toUtf8().constData()) : nullptr)
+        choices.setValue(QString::fromUtf8(option->keyword), PrintValue(QString::fromUtf8(found->choice)));
 }
 
 // Whether the keyword is an option's with something behind it: OPTIONCustom and the like.
@@ -88,8 +89,7 @@ bool isJobOption(const QString &keyword)
 
 void choose(PrintDictionary &choices, ppd_file_t *ppd, const char *keyword, const QString &choice)
 {
-    if (hasChoice(ppd, QLatin1String(keyword), choice))
-        choices.setValue(QLatin1String(keyword), PrintValue(choice));
+    choose(choices, ppd ? ppdFindOption(ppd, keyword) : nullptr, choice);
 }
 
 void chooseOptions(PrintDictionary &choices, const QVariantMap &settings, ppd_file_t *ppd)
@@ -99,8 +99,10 @@ void chooseOptions(PrintDictionary &choices, const QVariantMap &settings, ppd_fi
             continue;
         const QString keyword = setting.key().mid(kCupsPrefix.size());
         const QString value = setting.value().toString();
-        const bool isOption = ppd && ppdFindOption(ppd, keyword.toUtf8().constData());
-        if (isOption ? hasChoice(ppd, keyword, value) : isJobOption(keyword) || belongsToOption(ppd, keyword))
+        ppd_option_t *option = ppd ? ppdFindOption(ppd, keyword.toUtf8().constData()) : nullptr;
+        if (option)
+            choose(choices, option, value);
+        else if (isJobOption(keyword) || belongsToOption(ppd, keyword))
             choices.setValue(keyword, PrintValue(value));
     }
 }

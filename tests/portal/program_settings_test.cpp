@@ -41,7 +41,7 @@ TEST_F(Settings, BecomeChoicesOfThePpd)
                                      {"resolution", "600"},
                                      {"collate", "true"},
                                      {"use-color", "false"},
-                                     {"cups-BVQuickColor", "Photo"},
+                                     {"cups-bvquickcolor", "photo"}, // libcups takes any case
                                      {"cups-BVTextRGBSourceCustomFilename", "3132"},
                                      {"cups-job-priority", "70"}},
                                     {{"PPDName", "nonsense"}, {"Width", 148.0}, {"Height", 210.0}});
