@@ -25,8 +25,8 @@ struct PpdConstraint
 
 // Read from the PPD itself: libcups' search answers which options are in some conflict, not which ones belong together.
 // The rules are those of libcups: UIConstraints and cupsUIConstraints both count, keywords are compared without regard
-// to case, and PageRegion is another name of PageSize. See the CUPS PPD extensions, "cupsUIConstraints", and the Adobe
-// PPD specification 4.3, section 5.4.
+// to case, and PageRegion is another name of PageSize. See the CUPS PPD extensions, "cupsUIConstraints", and Adobe
+// Technical Note 5003, "UIConstraints".
 class PpdConstraints final
 {
 public:

@@ -8,8 +8,9 @@
 
 namespace bv {
 
-// Has AREA scroll to the control inside it that gets the focus. By itself a QScrollArea follows the Tab key only, not a
-// mnemonic and not a call of setFocus(). What is pressed with the mouse does not move away from under the pointer.
+// Has `area` scroll to the control inside it that gets the focus, as long as it lives. By itself a QScrollArea follows
+// the Tab key only, not a mnemonic and not a call of setFocus(). What is pressed with the mouse does not move away from
+// under the pointer. To be called once for each area, and only while there is a QApplication.
 inline void keepFocusInSight(QScrollArea *area)
 {
     QObject::connect(qApp, &QApplication::focusChanged, area, [area](QWidget *, QWidget *now) {

@@ -104,17 +104,24 @@ bool tearsApart(const QString &text, qsizetype before, qsizetype at)
            (at + 1 < text.size() && joinsNext(text[at]) && joinsPrevious(text[at + 1]));
 }
 
-// The letter that a text brings along; null when it has none, or when its mark would tear a word apart.
-QChar ownLetter(const QString &text)
+// Where the mark of a text is; -1: it has none.
+qsizetype markOf(const QString &text)
 {
     for (qsizetype i = 0; i + 1 < text.size(); ++i) {
         if (text[i] != u'&')
             continue;
         if (text[i + 1] != u'&')
-            return tearsApart(text, i - 1, i + 1) ? QChar() : text[i + 1].toUpper();
+            return i;
         ++i;
     }
-    return {};
+    return -1;
+}
+
+// The letter that a text brings along; null when it has none, or when its mark would tear a word apart.
+QChar ownLetter(const QString &text)
+{
+    const qsizetype mark = markOf(text);
+    return mark < 0 || tearsApart(text, mark - 1, mark + 1) ? QChar() : text[mark + 1].toUpper();
 }
 
 QString withMark(const QString &plain, QChar letter)
@@ -130,8 +137,7 @@ QString withMark(const QString &plain, QChar letter)
     // In front of what ends a label.
     const qsizetype end = plain.size() - (!plain.isEmpty() && QStringLiteral(":…?？").contains(plain.back()) ? 1 : 0);
     const bool isSpaced = end > 0 && isOneKey(plain[end - 1]);
-    return plain.left(end) + QString(isSpaced ? QStringLiteral(" (&%1)") : QStringLiteral("(&%1)")).arg(letter) +
-           plain.mid(end);
+    return plain.left(end) + QLatin1String(isSpaced ? " (&" : "(&") + letter + u')' + plain.mid(end);
 }
 
 // The letters of a text, the best ones first: beginnings of words, then all others.
@@ -306,14 +312,8 @@ void write(const Title &title, const QString &original, const QString &marked)
 
 QChar mnemonicOf(const QString &text)
 {
-    for (qsizetype i = 0; i + 1 < text.size(); ++i) {
-        if (text[i] != u'&')
-            continue;
-        if (text[i + 1] != u'&')
-            return text[i + 1].toUpper();
-        ++i;
-    }
-    return {};
+    const qsizetype mark = markOf(text);
+    return mark < 0 ? QChar() : text[mark + 1].toUpper();
 }
 
 QString withoutMnemonic(const QString &text)

@@ -115,7 +115,7 @@ TEST(Surroundings, AProgramOfThePaneGetsNoStreamNoDescriptorAndNoVariableOfOurs)
     constexpr int kForgotten = 77;
     ASSERT_EQ(dup2(STDERR_FILENO, kForgotten), kForgotten);
     BatchProcess batch;
-    const QString folder = batch.home() + "/root/Applications/Download Manager QL70/"
+    const QString folder = batch.home() + "/system/Applications/Download Manager QL70/"
                                           "BREVANE Download Manager.app/Contents/MacOS";
     ASSERT_TRUE(QDir().mkpath(folder));
     QFile program(folder + "/BREVANE Download Manager");

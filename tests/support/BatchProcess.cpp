@@ -20,7 +20,7 @@ BatchProcess::BatchProcess() : m_environment(QProcessEnvironment::systemEnvironm
           "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME", "BVCO_LOG", "LPDEST", "PRINTER"})
         m_environment.remove(QLatin1String(variable));
     m_environment.insert(QStringLiteral("HOME"), m_home.path());
-    m_environment.insert(QStringLiteral("BVCO_ROOT"), m_home.filePath(QStringLiteral("root")));
+    m_environment.insert(QStringLiteral("BVCO_ROOT"), m_home.filePath(QStringLiteral("system")));
     m_environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
     m_environment.insert(QStringLiteral("CUPS_SERVER"), m_home.filePath(QStringLiteral("no-server")));
 }

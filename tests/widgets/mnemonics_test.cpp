@@ -70,7 +70,7 @@ TEST_F(MnemonicsOf, NoTwoTextsShareALetter)
     EXPECT_EQ(label->text(), "Pap&er:");
 }
 
-// Arabic letters change their form with their neighbours, and a marked letter is drawn by itself.
+// Arabic letters change their form with their neighbors, and a marked letter is drawn by itself.
 TEST_F(MnemonicsOf, AMarkTearsNoWordApart)
 {
     add("ال&طابعة");
