@@ -139,7 +139,7 @@ Sending sendDocument(ServerConnection &server, CallControl &control, const JobRe
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr, name.toUtf8().constData());
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr, CUPS_FORMAT_AUTO);
     ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", index + 1 == job.documents.size());
-    if (const QString error = server.beginDocument(request); !error.isEmpty())
+    if (const QString error = server.beginDocument(request, document.value().size()); !error.isEmpty())
         return {End::Lost, {}};
     qint64 sent = 0;
     const QString error = document.value().readAll(control, [&](std::span<const char> bytes) {
@@ -150,7 +150,7 @@ Sending sendDocument(ServerConnection &server, CallControl &control, const JobRe
     if (!error.isEmpty())
         return {End::Failed, error};
     const bool isWhole = sent == document.value().size();
-    const ServerAnswer answer = server.endDocument(isWhole);
+    const ServerAnswer answer = server.endDocument();
     if (answer.isRefusal())
         return {End::Failed, problemOf(answer, job.queue, name)};
     if (!isWhole)

@@ -226,11 +226,15 @@ ServerAnswer ServerConnection::readDocument(http_status_t status, int requestId,
     return answer;
 }
 
-QString ServerConnection::beginDocument(const IppMessage &request)
+QString ServerConnection::beginDocument(const IppMessage &request, qint64 size)
 {
     m_limits->beginStep();
     m_documentRequest = ippGetRequestId(request.get());
-    const http_status_t status = cupsSendRequest(m_http.get(), request.get(), "/", CUPS_LENGTH_VARIABLE);
+    m_documentLeft = size;
+    // With a length, not in chunks: cupsd takes a connection that ends between the head of a chunk and its bytes for
+    // the end of the document, and prints what it has.
+    const http_status_t status =
+        cupsSendRequest(m_http.get(), request.get(), "/", ippLength(request.get()) + size_t(size));
     return status == HTTP_STATUS_CONTINUE || status == HTTP_STATUS_OK ? QString() : complaint(status);
 }
 
@@ -239,17 +243,18 @@ bool ServerConnection::sendBytes(std::span<const char> bytes)
     if (m_limits->isOver())
         return false;
     m_limits->beginStep();
-    return cupsWriteRequestData(m_http.get(), bytes.data(), bytes.size()) == HTTP_STATUS_CONTINUE;
+    m_documentLeft -= qint64(bytes.size());
+    const http_status_t status = cupsWriteRequestData(m_http.get(), bytes.data(), bytes.size());
+    // The answer may be there as soon as the last byte is.
+    return status == HTTP_STATUS_CONTINUE || (status == HTTP_STATUS_OK && m_documentLeft == 0);
 }
 
-ServerAnswer ServerConnection::endDocument(bool whole)
+ServerAnswer ServerConnection::endDocument()
 {
     m_limits->beginStep();
     http_status_t status = httpGetStatus(m_http.get());
-    if (status == HTTP_STATUS_CONTINUE && whole && !m_limits->isOver()) {
-        httpWrite2(m_http.get(), "", 0);
+    if (status == HTTP_STATUS_CONTINUE && m_documentLeft == 0)
         status = awaitStatus();
-    }
     return readAnswer(status, m_documentRequest);
 }
 

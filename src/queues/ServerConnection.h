@@ -58,12 +58,13 @@ public:
     // Sends a request and reads the answer.
     ServerAnswer ask(const IppMessage &request);
 
-    // The same for a request that is followed by a document. beginDocument() returns a sentence for the user on a
-    // failure. sendBytes() returns false when the server takes no more; then endDocument() tells why, if it said so.
-    // A document that is not `whole` is never ended, or the server would print a part of it.
-    QString beginDocument(const IppMessage &request);
+    // The same for a request that is followed by a document of `size` bytes, at least 1. beginDocument() returns a
+    // sentence for the user on a failure. sendBytes() returns false when the server takes no more; then endDocument()
+    // tells why, if it said so. A server prints no part of a document: until all its bytes are sent, it is given up
+    // whenever the connection ends.
+    QString beginDocument(const IppMessage &request, qint64 size);
     bool sendBytes(std::span<const char> bytes);
-    ServerAnswer endDocument(bool whole);
+    ServerAnswer endDocument();
 
     // The same for a request whose answer is followed by a document: writes that to a descriptor. A document above
     // `maximum` bytes is a problem, and so is one that is cut off; what was written of it is then of no use.
@@ -103,6 +104,7 @@ private:
     std::unique_ptr<Limits> m_limits; // libcups has its address
     std::unique_ptr<http_t, HttpClose> m_http;
     int m_documentRequest = 0;
+    qint64 m_documentLeft = 0;
 };
 
 // The sentence for a server that does not answer.

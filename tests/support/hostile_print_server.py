@@ -94,6 +94,7 @@ class Connection:
     def read_body(self, fields):
         if "content-length" in fields:
             return self.file.read(int(fields["content-length"]))
+        print("chunks", flush=True)
         data = b""
         while (size := int(self.file.readline() or b"0", 16)) > 0:
             data += self.file.read(size)
