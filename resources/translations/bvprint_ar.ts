@@ -14,6 +14,11 @@
             <translation>لا يمكن الجمع بين %1 و%2.</translation>
         </message>
         <message>
+            <source>, </source>
+            <comment>between options</comment>
+            <translation>، </translation>
+        </message>
+        <message>
             <source>Change %1 to %2</source>
             <translation>تغيير %1 إلى %2</translation>
         </message>

@@ -14,6 +14,11 @@
             <translation>%1 und %2 passen nicht zusammen.</translation>
         </message>
         <message>
+            <source>, </source>
+            <comment>between options</comment>
+            <translation>, </translation>
+        </message>
+        <message>
             <source>Change %1 to %2</source>
             <translation>%1 auf „%2“ ändern</translation>
         </message>

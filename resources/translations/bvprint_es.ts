@@ -14,6 +14,11 @@
             <translation>No se pueden combinar: %1, %2.</translation>
         </message>
         <message>
+            <source>, </source>
+            <comment>between options</comment>
+            <translation>, </translation>
+        </message>
+        <message>
             <source>Change %1 to %2</source>
             <translation>Cambiar %1 a %2</translation>
         </message>

@@ -14,6 +14,11 @@
             <translation>%1 et %2 sont incompatibles.</translation>
         </message>
         <message>
+            <source>, </source>
+            <comment>between options</comment>
+            <translation>, </translation>
+        </message>
+        <message>
             <source>Change %1 to %2</source>
             <translation>Régler « %1 » sur « %2 »</translation>
         </message>

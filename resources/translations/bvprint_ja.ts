@@ -14,6 +14,11 @@
             <translation>%1と%2は同時に使用できません。</translation>
         </message>
         <message>
+            <source>, </source>
+            <comment>between options</comment>
+            <translation>、</translation>
+        </message>
+        <message>
             <source>Change %1 to %2</source>
             <translation>「%1」を「%2」に変更</translation>
         </message>

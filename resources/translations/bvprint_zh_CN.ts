@@ -14,6 +14,11 @@
             <translation>%1与%2不能同时使用。</translation>
         </message>
         <message>
+            <source>, </source>
+            <comment>between options</comment>
+            <translation>、</translation>
+        </message>
+        <message>
             <source>Change %1 to %2</source>
             <translation>将“%1”改为“%2”</translation>
         </message>

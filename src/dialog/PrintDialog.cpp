@@ -35,6 +35,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QListWidget>
+#include <QLocale>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
@@ -535,7 +536,7 @@ void PrintDialog::updateTitle()
                                     .simplified()
                                     .replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"))));
     else
-        setWindowTitle(tr("Print – %1 documents").arg(documents.size()));
+        setWindowTitle(tr("Print – %1 documents").arg(QLocale().toString(documents.size())));
 }
 
 QString PrintDialog::reasonNotToPrint() const

@@ -8,6 +8,7 @@
 #include "queues/JobOnlyKeys.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 
 namespace bv {
 
@@ -63,7 +64,7 @@ Sent HeldJobSink::submit(const JobRequest &request, CallControl &control) const
     if (isRangeOverDocuments(m_job, request.options))
         return Sent::failure(
             tr("A range of pages belongs to one document, and this job has %1. Print all of their pages.")
-                .arg(m_job.documents));
+                .arg(QLocale().toString(m_job.documents)));
     Result<ServerConnection> server = ServerConnection::open(control);
     if (!server)
         return Sent::failure(server.error());

@@ -68,7 +68,7 @@ QString describe(const HeldJob &job)
     const QLocale locale;
     QString text = HeldJobWindow::tr("Job %1: %2").arg(job.id).arg(job.title);
     if (job.documents > 1)
-        text += u'\n' + HeldJobWindow::tr("%1 documents").arg(job.documents);
+        text += u'\n' + HeldJobWindow::tr("%1 documents").arg(locale.toString(job.documents));
     if (job.sent.isValid())
         text += u'\n' + HeldJobWindow::tr("Sent %1. It is held until you print or cancel it.")
                             .arg(locale.toString(job.sent, QLocale::ShortFormat));

@@ -16,10 +16,10 @@ QString tr(const char *text)
     return QCoreApplication::translate("PageRange", text);
 }
 
-// Converts digits to ASCII, dashes to "-" and separators to ",", and removes the blanks around them.
+// Converts digits to ASCII, dashes to "-" and separators to ",", and leaves out marks of direction.
 QString simplified(const QString &text)
 {
-    static const QString kDashes = QStringLiteral("\u2010\u2011\u2012\u2013\u2014\u2212");
+    static const QString kDashes = QStringLiteral("\u2010\u2011\u2012\u2013\u2014\u2212\u301c\uff5e");
     static const QString kSeparators = QStringLiteral(";\u060c\u061b\u3001\uff0c");
     QString plain;
     for (const QChar character : text) {
@@ -29,7 +29,7 @@ QString simplified(const QString &text)
             plain += u'-';
         else if (kSeparators.contains(character))
             plain += u',';
-        else
+        else if (character.category() != QChar::Other_Format)
             plain += character;
     }
     return plain;

@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 
 namespace bv {
 
@@ -79,7 +80,7 @@ QString checkRange(const JobOptions &options, const QStringList &documents, cons
     const QString name = QFileInfo(documents.first()).fileName();
     const QString wish = QString::number(farthest);
     return *pages == 1 ? tr("%1 has 1 page; there is no page %2.").arg(name, wish)
-                       : tr("%1 has %2 pages; there is no page %3.").arg(name, QString::number(*pages), wish);
+                       : tr("%1 has %2 pages; there is no page %3.").arg(name, QLocale().toString(*pages), wish);
 }
 
 Result<JobRequest> prepareJob(QueueSession &session, PrintPanel *panel, const QStringList &documents,

@@ -6,6 +6,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 #include <QStyle>
 #include <algorithm>
@@ -20,7 +21,7 @@ QString conflictSentences(const std::vector<Conflict> &conflicts)
     for (size_t i = 0; i < std::min(kMost, conflicts.size()); ++i)
         sentences << conflicts[i].sentence;
     if (conflicts.size() > kMost)
-        sentences << ConflictBar::tr("and %1 more.", "conflicts").arg(conflicts.size() - kMost);
+        sentences << ConflictBar::tr("and %1 more.", "conflicts").arg(QLocale().toString(conflicts.size() - kMost));
     return sentences.join(u'\n');
 }
 

@@ -70,7 +70,7 @@ Conflict ConflictFinder::describe(const PpdConstraint &broken, const PpdConstrai
     }
     const QString last = sides.takeLast();
     conflict.sentence =
-        tr("%1 and %2 do not go together.", "options and choices").arg(sides.join(QStringLiteral(", ")), last);
+        tr("%1 and %2 do not go together.", "options and choices").arg(sides.join(tr(", ", "between options")), last);
     return conflict;
 }
 

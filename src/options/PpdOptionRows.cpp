@@ -8,6 +8,7 @@
 #include "platform/PlainTip.h"
 
 #include <QFormLayout>
+#include <QLocale>
 #include <QPushButton>
 #include <algorithm>
 
@@ -224,7 +225,8 @@ void PpdOptionRows::showNotes()
 void PpdOptionRows::showChanged()
 {
     const int changed = m_further.changed();
-    m_more->setText(changed == 0 ? tr("M&ore Options…") : tr("M&ore Options (%1 changed)…").arg(changed));
+    m_more->setText(changed == 0 ? tr("M&ore Options…")
+                                 : tr("M&ore Options (%1 changed)…").arg(QLocale().toString(changed)));
     setPlainTip(m_more, tr("All other options of this printer"));
     if (m_window)
         showNotes();

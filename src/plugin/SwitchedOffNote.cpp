@@ -8,6 +8,7 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 
 SwitchedOffNote::SwitchedOffNote(QWidget *parent)
@@ -43,7 +44,7 @@ void SwitchedOffNote::update(PDEControlTable table)
         const QString text =
             found.settings == 1
                 ? localizedString("%1 is on: one setting is not used.").arg(name)
-                : localizedString("%1 is on: %2 settings are not used.").arg(name, QString::number(found.settings));
+                : localizedString("%1 is on: %2 settings are not used.").arg(name, QLocale().toString(found.settings));
         m_text->setText(text);
         m_turnOff->setAccessibleName(localizedString("Turn off %1").arg(name));
         m_turnOff->setAccessibleDescription(text);

@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QJsonDocument>
+#include <QLocale>
 #include <algorithm>
 
 namespace bv {
@@ -43,7 +44,7 @@ QString presetNameProblem(const QString &name)
     if (name.isEmpty())
         return tr("A preset needs a name.");
     if (name.size() > kLongestPresetName)
-        return tr("The name of a preset has at most %1 characters.").arg(kLongestPresetName);
+        return tr("The name of a preset has at most %1 characters.").arg(QLocale().toString(kLongestPresetName));
     if (std::any_of(name.begin(), name.end(), [](QChar one) { return one.category() == QChar::Other_Control; }))
         return tr("The name of a preset is one line of text.");
     return {};

@@ -11,6 +11,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QJsonObject>
+#include <QLocale>
 #include <QMenu>
 #include <utility>
 
@@ -159,11 +160,11 @@ void PresetMenu::apply(const PrintDictionary &options, const QString &what, cons
     QString sentences = outcome.changed == 0 ? tr("%1: all settings were so already.").arg(said)
                         : outcome.changed == 1
                             ? tr("%1: one setting changed.").arg(said)
-                            : tr("%1: %2 settings changed.").arg(said, QString::number(outcome.changed));
+                            : tr("%1: %2 settings changed.").arg(said, QLocale().toString(outcome.changed));
     if (!outcome.misfits.isEmpty()) {
         sentences += u'\n' + tr("Not used:") + u'\n' + outcome.misfits.mid(0, kMostMisfits).join(u'\n');
         if (const qsizetype more = outcome.misfits.size() - kMostMisfits; more > 0)
-            sentences += u'\n' + tr("and %1 more.").arg(more);
+            sentences += u'\n' + tr("and %1 more.").arg(QLocale().toString(more));
     }
     emit done(sentences);
 }

@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QToolButton>
@@ -412,7 +413,7 @@ void PagePreview::updateControls()
     m_field->setRange(known ? 1 : 0, std::max(pages, 1));
     m_field->setSpecialValueText(known ? QString() : QStringLiteral("–"));
     m_field->setValue(page);
-    m_count->setText(known ? tr("of %1", "pages of a document").arg(pages) : QString());
+    m_count->setText(known ? tr("of %1", "pages of a document").arg(QLocale().toString(pages)) : QString());
     m_toggle->setArrowType(!m_folded ? Qt::DownArrow : isRightToLeft() ? Qt::LeftArrow : Qt::RightArrow);
     const QString action = m_folded ? tr("Show the pages that will be printed") : tr("Fold the preview away");
     setPlainTip(m_toggle, action);
@@ -421,7 +422,8 @@ void PagePreview::updateControls()
     m_forward->setArrowType(isRightToLeft() ? Qt::LeftArrow : Qt::RightArrow);
     m_name->setVisible(last > 0);
     if (document && last > 0) {
-        const QString place = tr("%1 of %2", "document").arg(m_document + 1).arg(last + 1);
+        const QString place =
+            tr("%1 of %2", "document").arg(QLocale().toString(m_document + 1), QLocale().toString(last + 1));
         const int room = m_name->width() - fontMetrics().horizontalAdvance(place + QStringLiteral("  "));
         m_name->setText(fontMetrics().elidedText(QFileInfo(document->path).fileName(), Qt::ElideMiddle, room) +
                         QStringLiteral("  ") + place);
@@ -438,7 +440,7 @@ QString PagePreview::sentence() const
     const QString note = m_sheet->note();
     if (!note.isEmpty() || page() == 0)
         return note.isEmpty() ? tr("Preview of %1").arg(name) : tr("Preview of %1: %2").arg(name, note);
-    return tr("Preview, page %1 of %2 of %3").arg(page()).arg(document.pages).arg(name);
+    return tr("Preview, page %1 of %2 of %3").arg(QLocale().toString(page()), QLocale().toString(document.pages), name);
 }
 
 void PagePreview::showEvent(QShowEvent *event)

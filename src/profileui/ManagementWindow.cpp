@@ -72,7 +72,7 @@ void ManagementWindow::nameControls()
     // Accessible names are the visible labels without mnemonic and colon.
     const auto plain = [](QString text) {
         text.remove(u'&');
-        return text.endsWith(u':') ? text.chopped(1) : text;
+        return text.endsWith(u':') ? text.chopped(1).trimmed() : text;
     };
     for (const QLabel *label : findChildren<QLabel *>()) {
         if (label->buddy())

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QLocale>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -32,7 +33,7 @@ QString tooLarge(const QString &called, qint64 maximum)
 
 QString sizeInWords(qint64 bytes)
 {
-    return tr("%1 MB").arg(bytes / (1024LL * 1024));
+    return tr("%1 MB").arg(QLocale().toString(bytes / (1024LL * 1024)));
 }
 
 Result<FileDescriptor> openInputFile(const QString &path, const QString &called, qint64 maximum)

@@ -256,8 +256,7 @@ void DocumentList::countDocuments()
         size += m_list->item(row)->data(kSizeRole).toLongLong();
     const auto title = [](int count, qint64 bytes) {
         return tr("&Documents (%1, %2):", "number and size")
-            .arg(count)
-            .arg(QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeTraditionalFormat));
+            .arg(QLocale().toString(count), QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeTraditionalFormat));
     };
     m_label->setText(m_list->count() == 0 ? tr("&Documents:") : title(m_list->count(), size));
     // The column keeps its width while documents come and go.

@@ -8,6 +8,7 @@
 #include <QAccessibleWidget>
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QLocale>
 #include <QPushButton>
 #include <QStyle>
 #include <QToolButton>
@@ -114,7 +115,8 @@ void MessageRow::showText(bool whole)
         return;
     }
     const QStringList lines = m_text.split(u'\n');
-    m_label->setText(lines.mid(0, kFirstLines).join(u'\n') + u'\n' + tr("and %1 more").arg(lines.size() - kFirstLines));
+    m_label->setText(lines.mid(0, kFirstLines).join(u'\n') + u'\n' +
+                     tr("and %1 more").arg(QLocale().toString(lines.size() - kFirstLines)));
 }
 
 void MessageRow::changeEvent(QEvent *event)

@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <QTextBoundaryFinder>
 #include <algorithm>
 #include <utility>
 
@@ -220,8 +221,13 @@ int SummaryView::widestIn(int column, bool words) const
         shown.setBold(column == 1 && row.changed);
         const QFontMetrics metrics(shown);
         const QString &text = column == 0 ? row.name : row.value;
-        for (const QString &part : words ? text.split(u' ') : QStringList{text})
-            widest = std::max(widest, metrics.horizontalAdvance(part));
+        // Chinese and Japanese lines break between characters.
+        QTextBoundaryFinder breaks(QTextBoundaryFinder::Line, text);
+        for (qsizetype start = 0; start < text.size();) {
+            const qsizetype end = words ? breaks.toNextBoundary() : text.size();
+            widest = std::max(widest, metrics.horizontalAdvance(text.mid(start, end - start).trimmed()));
+            start = end;
+        }
     }
     // A character more, since styles round in their own ways.
     return widest + cellMargins(*this) + fontMetrics().averageCharWidth() + (column == 0 ? 2 * indentation() : 0);

@@ -34,7 +34,7 @@ QString nameOf(QWidget *widget, const QWidget *area)
         if (label->buddy() != widget)
             continue;
         QString name = withoutMnemonic(label->text());
-        return name.endsWith(u':') ? name.chopped(1) : name;
+        return name.endsWith(u':') ? name.chopped(1).trimmed() : name;
     }
     const QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
     return accessible ? accessible->text(QAccessible::Name) : widget->accessibleName();
