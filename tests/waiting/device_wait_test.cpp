@@ -22,7 +22,6 @@
 
 namespace {
 
-using bv::PrintDialog;
 
 class SilentPrinter : public bvtest::DialogTest
 {
