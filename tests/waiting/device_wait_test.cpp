@@ -22,7 +22,6 @@
 
 namespace {
 
-
 class SilentPrinter : public bvtest::DialogTest
 {
 protected:
