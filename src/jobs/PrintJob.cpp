@@ -78,7 +78,7 @@ QString checkRange(const JobOptions &options, const QStringList &documents, cons
     if (!pages || farthest <= *pages)
         return {};
     const QString name = QFileInfo(documents.first()).fileName();
-    const QString wish = QString::number(farthest);
+    const QString wish = QLocale().toString(farthest);
     return *pages == 1 ? tr("%1 has 1 page; there is no page %2.").arg(name, wish)
                        : tr("%1 has %2 pages; there is no page %3.").arg(name, QLocale().toString(*pages), wish);
 }

@@ -141,19 +141,14 @@ Sending sendDocument(ServerConnection &server, CallControl &control, const JobRe
     ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", index + 1 == job.documents.size());
     if (const QString error = server.beginDocument(request, document.value().size()); !error.isEmpty())
         return {End::Lost, {}};
-    qint64 sent = 0;
-    const QString error = document.value().readAll(control, [&](std::span<const char> bytes) {
-        const bool taken = server.sendBytes(bytes);
-        sent += taken ? qint64(bytes.size()) : 0;
-        return taken;
-    });
+    const QString error =
+        document.value().readAll(control, [&server](std::span<const char> bytes) { return server.sendBytes(bytes); });
     if (!error.isEmpty())
         return {End::Failed, error};
-    const bool isWhole = sent == document.value().size();
     const ServerAnswer answer = server.endDocument();
     if (answer.isRefusal())
         return {End::Failed, problemOf(answer, job.queue, name)};
-    if (!isWhole)
+    if (!server.isDocumentSent())
         return {End::Lost, {}};
     return {answer.isGood() ? End::Confirmed : End::Unconfirmed, {}};
 }

@@ -87,6 +87,7 @@ void PagePreview::build()
     m_field->setObjectName(QStringLiteral("previewPage"));
     m_field->setAccessibleName(tr("Page in the preview"));
     m_field->setButtonSymbols(QAbstractSpinBox::NoButtons);
+    m_field->setGroupSeparatorShown(true); // as in the number beside it
     m_field->setAlignment(Qt::AlignCenter);
     m_field->setKeyboardTracking(false);
     m_field->setFocusPolicy(Qt::StrongFocus);
@@ -320,6 +321,7 @@ void PagePreview::refresh()
         if (!document) {
             closeRenderer();
             m_sheet->showNote({}, tr("Add a document to see its pages."));
+            emit shown();
         } else if (document->failure != NoPage::None) {
             showNote(document->failure);
             return;
@@ -328,6 +330,7 @@ void PagePreview::refresh()
             renderer().open();
         } else if (page() == 0) {
             m_sheet->showNote({}, tr("None of the chosen pages is in this document."));
+            emit shown();
         } else if (const PageWish wanted = wish(page()); !wanted.room.isEmpty()) {
             if (const DrawnPage *known = m_cache.object(cacheKey(wanted))) {
                 m_sheet->showPage(*known);

@@ -54,7 +54,7 @@ public:
 
 signals:
     void foldedByUser(bool folded);
-    // Another page, or its picture, is shown.
+    // Another page, its picture, or a note in its place is shown.
     void shown();
 
 protected:

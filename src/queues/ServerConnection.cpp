@@ -243,17 +243,20 @@ bool ServerConnection::sendBytes(std::span<const char> bytes)
     if (m_limits->isOver())
         return false;
     m_limits->beginStep();
-    m_documentLeft -= qint64(bytes.size());
+    const qint64 left = m_documentLeft - qint64(bytes.size());
     const http_status_t status = cupsWriteRequestData(m_http.get(), bytes.data(), bytes.size());
     // The answer may be there as soon as the last byte is.
-    return status == HTTP_STATUS_CONTINUE || (status == HTTP_STATUS_OK && m_documentLeft == 0);
+    if (status != HTTP_STATUS_CONTINUE && (status != HTTP_STATUS_OK || left > 0))
+        return false;
+    m_documentLeft = left;
+    return true;
 }
 
 ServerAnswer ServerConnection::endDocument()
 {
     m_limits->beginStep();
     http_status_t status = httpGetStatus(m_http.get());
-    if (status == HTTP_STATUS_CONTINUE && m_documentLeft == 0)
+    if (status == HTTP_STATUS_CONTINUE && isDocumentSent())
         status = awaitStatus();
     return readAnswer(status, m_documentRequest);
 }

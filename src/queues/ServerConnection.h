@@ -59,11 +59,13 @@ public:
     ServerAnswer ask(const IppMessage &request);
 
     // The same for a request that is followed by a document of `size` bytes, at least 1. beginDocument() returns a
-    // sentence for the user on a failure. sendBytes() returns false when the server takes no more; then endDocument()
-    // tells why, if it said so. A server prints no part of a document: until all its bytes are sent, it is given up
-    // whenever the connection ends.
+    // sentence for the user on a failure. sendBytes() takes `size` bytes in all; it returns false when the server takes
+    // no more, or the call is over. endDocument() waits for the answer once all bytes are sent. Before that it does not
+    // wait, and tells only why the server takes no more, if it said so; the document is then given up with the
+    // connection, and no part of it is printed.
     QString beginDocument(const IppMessage &request, qint64 size);
     bool sendBytes(std::span<const char> bytes);
+    bool isDocumentSent() const { return m_documentLeft == 0; }
     ServerAnswer endDocument();
 
     // The same for a request whose answer is followed by a document: writes that to a descriptor. A document above
@@ -104,7 +106,7 @@ private:
     std::unique_ptr<Limits> m_limits; // libcups has its address
     std::unique_ptr<http_t, HttpClose> m_http;
     int m_documentRequest = 0;
-    qint64 m_documentLeft = 0;
+    qint64 m_documentLeft = 0; // bytes
 };
 
 // The sentence for a server that does not answer.
