@@ -48,7 +48,12 @@ install(FILES ${CMAKE_SOURCE_DIR}/resources/desktop/vnd.brevane.bvprint.desktop 
 set(BV_SERVICE org.freedesktop.impl.portal.desktop.bvprint.service)
 install(FILES ${CMAKE_SOURCE_DIR}/resources/portal/vnd.brevane.bvprint.portal DESTINATION ${BV_PORTALS})
 install(CODE "
-  set(CMAKE_INSTALL_BINDIR [==[${CMAKE_INSTALL_BINDIR}]==])
+  set(BV_PORTAL \"\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}/bvportal\")
+  if(BV_PORTAL MATCHES \"[^A-Za-z0-9/._+-]\")
+    # The message bus takes the line apart like a shell, after the escapes of the file.
+    string(REGEX REPLACE [==[([\"$`])]==] [==[\\\\\\\\\\1]==] BV_PORTAL \"\${BV_PORTAL}\")
+    set(BV_PORTAL \"\\\"\${BV_PORTAL}\\\"\")
+  endif()
   configure_file([==[${CMAKE_SOURCE_DIR}/resources/portal/${BV_SERVICE}.in]==]
     [==[${CMAKE_BINARY_DIR}/${BV_SERVICE}]==] @ONLY)")
 install(FILES ${CMAKE_BINARY_DIR}/${BV_SERVICE} DESTINATION ${BV_SERVICES})
