@@ -190,7 +190,7 @@ TEST_F(HeldJobs, ABatchChangesTheJobAndReleasesItWithPrint)
     EXPECT_EQ(batch.result("control menu_QuickColor").toObject().value("value").toInt(), 2);
     EXPECT_EQ(batch.result("control check_EconomyPrint").toObject().value("value").toInt(), 1);
     batch.send("set menu_QuickColor 1");
-    EXPECT_FALSE(batch.error(QStringLiteral("print %1").arg(kDocument)).isEmpty());
+    EXPECT_FALSE(batch.error(QStringLiteral("print \"%1\"").arg(kDocument)).isEmpty());
     EXPECT_EQ(batch.result("print").toObject().value("job").toInt(), job);
     EXPECT_FALSE(batch.error("print").isEmpty()); // it is held no more
     batch.finish();
@@ -205,7 +205,7 @@ TEST_F(HeldJobs, ABatchChangesTheJobAndReleasesItWithPrint)
     own.setVariable("CUPS_SERVER", m_server.address());
     own.start({"--queue", "QL70"});
     own.send("panelView");
-    const int sent = own.result(QStringLiteral("print %1").arg(kDocument)).toObject().value("job").toInt();
+    const int sent = own.result(QStringLiteral("print \"%1\"").arg(kDocument)).toObject().value("job").toInt();
     EXPECT_EQ(m_server.recorded(sent).data, contentOf(kDocument));
 }
 

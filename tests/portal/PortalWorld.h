@@ -104,8 +104,8 @@ protected:
         ASSERT_TRUE(m_server.administer("lpadmin", {"-d", "QL70"}));
 
         write("data/dbus-1/services/org.freedesktop.impl.portal.desktop.bvprint.service",
-              "[D-BUS Service]\nName=org.freedesktop.impl.portal.desktop.bvprint\nExec=" BV_BUILD_DIR
-              "/bin/bvportal --service 1\n");
+              "[D-BUS Service]\nName=org.freedesktop.impl.portal.desktop.bvprint\nExec=\"" BV_BUILD_DIR
+              "/bin/bvportal\" --service 1\n");
         write("portals/test.portal", "[portal]\nDBusName=org.freedesktop.impl.portal.desktop.test\n"
                                      "Interfaces=org.freedesktop.impl.portal.Print;\nUseIn=test\n");
         QFile::copy(QStringLiteral(BV_SOURCE_DIR "/resources/portal/vnd.brevane.bvprint.portal"),
