@@ -243,12 +243,23 @@ void QueueRoom::choose(const QString &keyword, const QString &choice)
 {
     if (m_rows->choose(keyword, choice) || !m_holder)
         return;
-    PrintPanel &panel = m_holder->panel();
-    panel.saveValuesAndReturnError(nullptr);
     PrintDictionary wanted;
     wanted.setValue(keyword, choice);
-    m_session->ticket().setValue(keyword, choice);
-    putIntoNested(m_session->ticket().entries(), wanted, m_paneKeys);
+    // Something else than a choice of the PPD would go before it.
+    if (const QString custom = keyword + QStringLiteral("Custom"); ticket().contains(custom))
+        wanted.setValue(custom, PrintValue("False"));
+    chooseInPane(wanted);
+}
+
+void QueueRoom::chooseInPane(const PrintDictionary &entries)
+{
+    if (!m_holder)
+        return;
+    PrintPanel &panel = m_holder->panel();
+    panel.saveValuesAndReturnError(nullptr);
+    for (const auto &[key, value] : entries.entries)
+        m_session->ticket().setValue(key, value);
+    putIntoNested(m_session->ticket().entries(), entries, m_paneKeys);
     panel.restoreValuesAndReturnError(nullptr);
     // What is on screen may count no more.
     if (showsOverruledControls(pane()))

@@ -96,6 +96,10 @@ public:
     std::vector<Conflict> conflicts() const { return m_rows ? m_rows->conflicts() : std::vector<Conflict>(); }
     // Makes a choice in the rows or in the panel. Both arguments are PPD keywords.
     void choose(const QString &keyword, const QString &choice);
+    // Gives entries of the ticket that belong to the panel's options to the panel. Without a panel nothing happens.
+    void chooseInPane(const PrintDictionary &entries);
+    // Sentences by keyword that say where the present choices come from. Call updateConflicts() before.
+    std::map<QString, QString> originNotes() const;
     // Call this when the user made a choice in the rows. Checks for conflicts again and tells the panel.
     void choiceMade(const QString &keyword, const QString &choice);
     // Empties the ticket and sets panel and rows to their defaults.
@@ -113,8 +117,6 @@ signals:
 private:
     void makePane(PanelLoader &loader);
     void giveChoicesToPanel();
-    // Sentences by keyword that say where the present choices come from.
-    std::map<QString, QString> originNotes() const;
 
     PrintQueue m_queue;
     PrintDictionary m_forPanel; // what the panel has to be given when it is there

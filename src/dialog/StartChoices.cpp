@@ -65,12 +65,20 @@ StartChoices choicesWithoutCaller(const PrintDialogStart &start, const Remembere
         choices.origin = ChoiceOrigin::LastJob;
     if (choices.ticket || !start.withUserDefaults)
         return choices;
-    std::optional<UserDefaults::Options> options = UserDefaults().options(wanted);
-    if (!options) {
-        choices.note =
-            PrintDialog::tr("You have no defaults called “%1”. The printer's own are shown.").arg(wanted.name());
-        return choices;
-    }
+    if (std::optional<StartChoices> own = choicesOfUser(wanted, ppd))
+        return *std::move(own);
+    choices.note = PrintDialog::tr("You have no defaults called “%1”. The printer's own are shown.").arg(wanted.name());
+    return choices;
+}
+
+} // namespace
+
+std::optional<StartChoices> choicesOfUser(const QueueInstance &of, ppd_file_t *ppd)
+{
+    const std::optional<UserDefaults::Options> options = UserDefaults().options(of);
+    if (!options)
+        return std::nullopt;
+    StartChoices choices;
     if (!options->empty()) {
         choices.ticket = ticketFromDefaults(*options, ppd);
         choices.forPanel = *choices.ticket;
@@ -78,8 +86,6 @@ StartChoices choicesWithoutCaller(const PrintDialogStart &start, const Remembere
     }
     return choices;
 }
-
-} // namespace
 
 StartChoices startChoices(const PrintDialogStart &start, const RememberedTickets &remembered, const QString &queue,
                           ppd_file_t *ppd)

@@ -24,6 +24,10 @@ struct StartChoices
     QString sentence() const;
 };
 
+// What the user's own defaults choose; they may choose nothing. Nothing when there is no such instance. Changes the
+// PPD's marks and marks its defaults.
+std::optional<StartChoices> choicesOfUser(const QueueInstance &of, ppd_file_t *ppd);
+
 // The options of a job that exists already come before all else, an instance that the start names before what is
 // remembered. Changes the PPD's marks and marks its defaults.
 StartChoices startChoices(const PrintDialogStart &start, const RememberedTickets &remembered, const QString &queue,

@@ -7,6 +7,7 @@
 #include "platform/HostProtocol.h"
 #include "platform/PlainTip.h"
 
+#include <QCoreApplication>
 #include <QTextDocumentFragment>
 
 namespace bv {
@@ -50,6 +51,26 @@ void explainControl(QWidget &control, const QString &conflict, const QString &or
 }
 
 } // namespace
+
+std::map<QString, PaneOption> paneOptions(const QWidget *view)
+{
+    std::map<QString, PaneOption> options;
+    for (QWidget *control : view ? view->findChildren<QWidget *>() : QList<QWidget *>()) {
+        const QString keyword = control->property(kOptionProperty).toString();
+        if (keyword.isEmpty())
+            continue;
+        PaneOption option{control, control->property(kOptionInsteadProperty).toString(), {}};
+        const bool isGreyed = !control->isEnabledTo(view);
+        if (!option.instead.isEmpty())
+            option.reason = control->property(kOptionInsteadReasonProperty).toString();
+        else if (isGreyed)
+            option.reason = control->property(kSummaryOffProperty).toString();
+        if (option.reason.isEmpty() && (isGreyed || !option.instead.isEmpty()))
+            option.reason = QCoreApplication::translate("PaneOptions", "Other choices decide this now.");
+        options[keyword] = option;
+    }
+    return options;
+}
 
 std::map<QString, QString> overrulingChoices(const QWidget *view)
 {

@@ -11,6 +11,17 @@ class QWidget;
 
 namespace bv {
 
+// An option that a control of the view holds.
+struct PaneOption
+{
+    QWidget *control = nullptr;
+    QString instead; // the choice that counts in place of the control's own, a keyword; empty: its own counts
+    QString reason;  // why the user cannot choose, or another choice counts: a sentence; empty: the choice is free
+};
+
+// All of them by keyword. The view may be null.
+std::map<QString, PaneOption> paneOptions(const QWidget *view);
+
 // Choices that the job will have in place of a control's own: choice by option, in keywords. The view may be null.
 std::map<QString, QString> overrulingChoices(const QWidget *view);
 

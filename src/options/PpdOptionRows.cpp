@@ -153,15 +153,15 @@ ConflictFinder::Choices PpdOptionRows::choices() const
 
 std::vector<SummaryEntry> PpdOptionRows::summary() const
 {
-    const SummaryHint general{tr("General settings"), {}};
+    const auto general = [](const QString &keyword) { return SummaryHint{tr("General settings"), {}, keyword}; };
     std::vector<SummaryEntry> entries;
     for (const OptionMenu *menu : m_menus)
-        entries.push_back({menu->name(), menu->currentText(), menu->usualText(), general});
+        entries.push_back({menu->name(), menu->currentText(), menu->usualText(), general(menu->keyword())});
     for (const FurtherOptions::Entry &entry : m_further.entries()) {
         const QString usual = defaultChoice(*entry.option);
         if (entry.choice != usual)
             entries.push_back({optionText(*entry.option), choiceText(*entry.option, entry.choice),
-                               choiceText(*entry.option, usual), general});
+                               choiceText(*entry.option, usual), general(entry.keyword())});
     }
     return entries;
 }

@@ -37,9 +37,11 @@ inline constexpr char kSummaryGroupProperty[] = "bvSummaryGroup";
 inline constexpr char kSummaryOffProperty[] = "bvSummaryOff";
 
 // The same for conflicts between options: the PPD keyword of the option that a control holds, and the keyword of the
-// choice that will be sent instead of the control's own, because another control decides (empty: the own one counts).
+// choice that will be sent instead of the control's own, because another control decides (empty: the own one counts),
+// with a sentence for the user that says why.
 inline constexpr char kOptionProperty[] = "bvOption";
 inline constexpr char kOptionInsteadProperty[] = "bvOptionInstead";
+inline constexpr char kOptionInsteadReasonProperty[] = "bvOptionInsteadReason";
 
 // Where a plug-in lies and which language its texts have.
 struct PluginBundle

@@ -3,6 +3,7 @@
 #include "plugin/SummaryProperties.h"
 
 #include "colorrules/GreyedReasons.h"
+#include "colorrules/OptionConstraints.h"
 #include "platform/Bundle.h"
 #include "platform/HostProtocol.h"
 #include "profiles/QuickColorPresets.h"
@@ -15,6 +16,9 @@
 namespace bv {
 
 namespace {
+
+// The control that leads to the options of the presets. It is greyed while a preset decides.
+constexpr char kWayToPresetOptions[] = "GoToAdvancedOptionsButton";
 
 QString groupOf(const QWidget *control, const QWidget *view)
 {
@@ -72,6 +76,8 @@ void tellOverruledOptions(PDEControlTable table, int16_t quickColor, int16_t eco
 {
     const bool isPreset = quickColor >= 0 && quickColor < kPresetCount;
     const std::span<const PresetRow> presets = quickColorPresets();
+    const PDEControlItem *way = isPreset ? findControlRow(kWayToPresetOptions, table) : nullptr;
+    const QString reason = way ? greyedReason(*way, table) : QString();
     for (const PDEControlItem *row = table; row && row->kind != kPDEControlEnd; ++row) {
         const auto preset = std::find_if(presets.begin(), presets.end(), [row](const PresetRow &one) {
             return std::string_view(one.option) == row->ppdKey;
@@ -80,6 +86,7 @@ void tellOverruledOptions(PDEControlTable table, int16_t quickColor, int16_t eco
             continue;
         const QString instead = isPreset ? choiceKeyword(*row, presetIndex(*preset, quickColor, eco)) : QString();
         row->control->setProperty(kOptionInsteadProperty, instead);
+        row->control->setProperty(kOptionInsteadReasonProperty, instead.isEmpty() ? QString() : reason);
     }
 }
 

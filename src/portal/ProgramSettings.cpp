@@ -2,9 +2,10 @@
 // The tables of settings and their translation.
 #include "portal/ProgramSettings.h"
 
+#include "jobs/JobAttributes.h"
 #include "jobs/PageRange.h"
 #include "queues/JobOnlyKeys.h"
-#include "queues/PpdFile.h"
+#include "queues/PpdChoice.h"
 #include "queues/UserDefaults.h"
 
 #include <QRegularExpression>
@@ -43,10 +44,6 @@ constexpr std::array<std::array<const char *, 2>, 3> kDuplex = {{
 }};
 // clang-format on
 
-// Job options that no PPD has and that programs may give.
-constexpr std::array<const char *, 5> kJobOptions = {"Collate", "job-billing", "job-hold-until", "job-priority",
-                                                     "job-sheets"};
-
 // Settings that a program applies to its pages, and that this dialog does not show.
 constexpr std::array<const char *, 6> kNotOffered = {"page-ranges", "page-set",         "number-up",
                                                      "scale",       "number-up-layout", "reverse"};
@@ -65,31 +62,22 @@ QString option(const JobOptions &options, const char *keyword)
     return found == options.end() ? QString() : found->second;
 }
 
-// Puts a choice that the PPD has among the others, spelled as there: libcups takes any case, the dialog does not.
+// Puts a choice that the PPD has among the others.
 void choose(PrintDictionary &choices, ppd_option_t *option, const QString &choice)
 {
-    if (const ppd_choice_t *found = option ? ppdFindChoice(option, choice.toUtf8().constData()) : nullptr)
-        choices.setValue(QString::fromUtf8(option->keyword), PrintValue(QString::fromUtf8(found->choice)));
-}
-
-// Whether the keyword is an option's with something behind it: OPTIONCustom and the like.
-bool belongsToOption(ppd_file_t *ppd, const QString &keyword)
-{
-    const std::vector<ppd_option_t *> options = ppdOptions(ppd);
-    return std::any_of(options.begin(), options.end(), [&keyword](const ppd_option_t *one) {
-        return keyword.startsWith(QString::fromUtf8(one->keyword) + QStringLiteral("Custom"));
-    });
+    if (const QString spelled = spelledChoice(option, choice); !spelled.isEmpty())
+        choices.setValue(QString::fromUtf8(option->keyword), PrintValue(spelled));
 }
 
 bool isJobOption(const QString &keyword)
 {
-    return std::any_of(kJobOptions.begin(), kJobOptions.end(),
-                       [&keyword](const char *one) { return keyword == QLatin1String(one); });
+    const JobAttribute *attribute = findJobAttribute(keyword);
+    return attribute && attribute->forPrograms;
 }
 
 void choose(PrintDictionary &choices, ppd_file_t *ppd, const char *keyword, const QString &choice)
 {
-    choose(choices, ppd ? ppdFindOption(ppd, keyword) : nullptr, choice);
+    choose(choices, findOption(ppd, QLatin1String(keyword)), choice);
 }
 
 void chooseOptions(PrintDictionary &choices, const QVariantMap &settings, ppd_file_t *ppd)
@@ -99,10 +87,9 @@ void chooseOptions(PrintDictionary &choices, const QVariantMap &settings, ppd_fi
             continue;
         const QString keyword = setting.key().mid(kCupsPrefix.size());
         const QString value = setting.value().toString();
-        ppd_option_t *option = ppd ? ppdFindOption(ppd, keyword.toUtf8().constData()) : nullptr;
-        if (option)
+        if (ppd_option_t *option = findOption(ppd, keyword))
             choose(choices, option, value);
-        else if (isJobOption(keyword) || belongsToOption(ppd, keyword))
+        else if (isJobOption(keyword) || ownerOfCustomEntry(ppd, keyword))
             choices.setValue(keyword, PrintValue(value));
     }
 }

@@ -34,9 +34,10 @@ template <typename T> using CallFunction = std::function<T(CallControl &)>;
 
 // Runs the function and waits for its result, but not much longer than the limit: then the result is `late`. The
 // function must own all that it uses, since it may outlive this call.
-template <typename T> T callWithLimit(CallFunction<T> function, T late)
+template <typename T>
+T callWithLimit(CallFunction<T> function, T late, std::chrono::milliseconds limit = CallControl::kUsualLimit)
 {
-    const auto state = std::make_shared<CallState<T>>(CallControl::kUsualLimit);
+    const auto state = std::make_shared<CallState<T>>(limit);
     const bool started = startDetached([state, function = std::move(function)] {
         T result = function(state->control);
         const std::lock_guard lock(state->mutex);

@@ -7,6 +7,7 @@
 #include "queues/InputFile.h"
 #include "queues/JobOnlyKeys.h"
 #include "queues/PpdFile.h"
+#include "queues/StandardOptions.h"
 #include "queues/StateFolder.h"
 
 #include <QCoreApplication>
@@ -27,23 +28,6 @@ QString tr(const char *text)
 
 constexpr qint64 kLargestFile = qint64{1024} * 1024;
 constexpr char kKeptOptions[] = "options"; // the entry of a kept ticket that holds a line's options
-
-// Standard options that libcups turns into PPD options (cupsMarkOptions). Kept as options of their own they would
-// contradict a later choice of the PPD option.
-constexpr const char *kMarkedByLibcups[] = {
-    "media",
-    "sides",
-    "output-bin",
-    "print-color-mode",
-    "output-mode",
-    "print-quality",
-    "print-content-optimize",
-    "resolution",
-    "printer-resolution",
-    "finishing-template",
-    "finishings",
-    "mirror",
-};
 
 // A choice of the PPD and the standard option that means the same.
 struct StandardForm
@@ -331,10 +315,7 @@ PrintDictionary ticketFromDefaults(const UserDefaults::Options &options, ppd_fil
 
     PrintDictionary ticket;
     for (const auto &[name, value] : options) {
-        const bool isMarked =
-            std::any_of(std::begin(kMarkedByLibcups), std::end(kMarkedByLibcups),
-                        [&name = name](const char *standard) { return name == QLatin1String(standard); });
-        if (!isMarked && !ppdFindOption(ppd, name.toUtf8().constData()))
+        if (!isStandardOption(name) && !ppdFindOption(ppd, name.toUtf8().constData()))
             ticket.setValue(name, PrintValue(value));
     }
     for (const ppd_option_t *option : ppdOptions(ppd)) {

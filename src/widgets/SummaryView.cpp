@@ -96,7 +96,8 @@ SummaryHints summaryHints(const QWidget *view)
         const QVariant name = control->property(kSummaryNameProperty);
         if (name.isValid())
             hints.insert(name.toString(), {control->property(kSummaryGroupProperty).toString(),
-                                           control->property(kSummaryOffProperty).toString()});
+                                           control->property(kSummaryOffProperty).toString(),
+                                           control->property(kOptionProperty).toString()});
     }
     return hints;
 }

@@ -16,8 +16,9 @@ namespace bv {
 // What a panel's controls say of the items of its summary, by the item's name.
 struct SummaryHint
 {
-    QString group; // title of the group that the item belongs to; may be empty
-    QString off;   // why the item has no effect just now; empty when it has one
+    QString group;       // title of the group that the item belongs to; may be empty
+    QString off;         // why the item has no effect just now; empty when it has one
+    QString option = {}; // the PPD keyword of its option; may be empty
 };
 using SummaryHints = QHash<QString, SummaryHint>;
 
