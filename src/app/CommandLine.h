@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/ShareProfiles.h"
+#include "commandline/DirectRequest.h"
 #include "platform/Result.h"
 #include "queues/SessionRequest.h"
 
@@ -13,7 +14,7 @@ namespace bv {
 // One parsed command line. Strings are empty where the option was not given.
 struct CommandLine
 {
-    enum class Mode { Dialog, Batch, Share, Agent, Help, Version };
+    enum class Mode { Dialog, Batch, Direct, Complete, Share, Agent, Help, Version };
 
     Mode mode = Mode::Dialog;
     SessionRequest session; // --queue, --ppd, --device-uri, --ticket, --no-printer
@@ -25,11 +26,16 @@ struct CommandLine
     QString agent;          // --agent: "on", "off" or "run"
     QStringList documents;  // the files to print
     ShareRequest share;     // --share-profiles, --from, --replace
+    DirectRequest direct;   // --print, --summary, --list, and what goes with them
+    QString complete;       // --complete: which words
 };
 
 // Reads the arguments, without the program's name. The sentence of a failure names the wrong argument; the program then
 // ends with status 2.
 Result<CommandLine> parseCommandLine(const QStringList &arguments);
+
+// The names of all options with their dashes.
+QStringList commandLineOptions();
 
 // What --help prints.
 QString commandLineHelp();

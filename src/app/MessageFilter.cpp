@@ -56,7 +56,7 @@ QStringList &complaints()
     QString text = QStringLiteral("No window can be opened: %1.").arg(reasons.join(QStringLiteral("; ")).simplified());
     if (text.contains(u"Could not find the Qt platform plugin \"wayland"))
         text += QStringLiteral(" A Wayland session needs Qt's plug-in for it (the package qt6-wayland).");
-    complain(text + QStringLiteral(" Without a display, use bvprint --batch."));
+    complain(text + QStringLiteral(" Without a display, use bvprint --print or --batch."));
     std::_Exit(2);
 }
 

@@ -10,6 +10,9 @@ Result<QByteArray> windowSystem(const CommandLine &line)
 {
     const bool isWayland = !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
     const bool isX11 = !qEnvironmentVariableIsEmpty("DISPLAY");
+    // Printing without a window looks at no display.
+    if (line.mode == CommandLine::Mode::Direct)
+        return QByteArray("offscreen");
     const bool isBatch = line.mode == CommandLine::Mode::Batch;
     if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || (!isBatch && (isWayland || isX11)))
         return QByteArray();
@@ -20,7 +23,7 @@ Result<QByteArray> windowSystem(const CommandLine &line)
         return QByteArray("offscreen");
     return Result<QByteArray>::failure(
         QStringLiteral("There is no display for the window (neither DISPLAY nor WAYLAND_DISPLAY is set). "
-                       "Without one, use bvprint --batch; see bvprint --help."));
+                       "Without one, use bvprint --print or --batch; see bvprint --help."));
 }
 
 } // namespace bv

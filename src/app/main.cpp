@@ -6,6 +6,8 @@
 #include "app/ShareProfiles.h"
 #include "app/WindowSystem.h"
 #include "batch/BatchRunner.h"
+#include "commandline/Completion.h"
+#include "commandline/DirectRun.h"
 #include "dialog/PrintDialogRunner.h"
 #include "heldjobs/AgentCommand.h"
 #include "heldjobs/HeldJobBatch.h"
@@ -83,19 +85,22 @@ int runBatch(const bv::CommandLine &line, bv::PanelLoader &loader)
 
 int runProgram(const bv::CommandLine &line)
 {
-    // In the locale C a batch shows the keys of texts. A window always shows words. What a batch says of errors is for
-    // scripts, and English.
+    // In the locale C the pane's texts are keys without a window. A window always shows words. What a batch says of
+    // errors is for scripts, and English.
     const bool isBatch = line.mode == bv::CommandLine::Mode::Batch;
+    const bool isDirect = line.mode == bv::CommandLine::Mode::Direct;
     std::optional<bv::WindowTexts> texts;
     if (!isBatch)
         texts.emplace(bv::messageLocale());
     if (line.mode == bv::CommandLine::Mode::Agent)
         return bv::runAgent();
     bv::endInOrderBySignals();
-    const QString language = isBatch && bv::isLocaleC() ? QString() : bv::messageLocale();
+    const QString language = (isBatch || isDirect) && bv::isLocaleC() ? QString() : bv::messageLocale();
     bv::PanelLoader loader;
     if (const auto loaded = loader.load(line.plugin, language); !loaded)
         return refuse(loaded.error());
+    if (isDirect)
+        return bv::runDirect(line.direct, loader);
     if (!isBatch) {
         // The desktop's theme may have its own.
         QGuiApplication::setDesktopFileName(QStringLiteral("vnd.brevane.bvprint"));
@@ -108,6 +113,16 @@ int runProgram(const bv::CommandLine &line)
     // A batch cannot operate the desktop's own file panel.
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     return runBatch(line, loader);
+}
+
+// A call to a print server that hangs must not hold up the end.
+int endedWith(int status)
+{
+    if (!bv::detachedThreadsEnded()) {
+        std::fflush(nullptr);
+        std::_Exit(status);
+    }
+    return status;
 }
 
 } // namespace
@@ -134,6 +149,13 @@ int main(int argc, char **argv)
         const QCoreApplication withoutWindow(argc, argv);
         return bv::switchAgent(line.agent);
     }
+    if (line.mode == Mode::Complete) {
+        if (line.complete == u"options")
+            return say(bv::commandLineOptions().join(u'\n') + u'\n');
+        const QCoreApplication withoutWindow(argc, argv);
+        const int status = bv::complete(line.complete, line.session);
+        return endedWith(status);
+    }
     const bv::Result<QByteArray> platform = bv::windowSystem(line);
     if (!platform)
         return refuse(platform.error());
@@ -148,11 +170,5 @@ int main(int argc, char **argv)
     const QApplication application(wordCount, words.data());
     QCoreApplication::setApplicationName(QStringLiteral("bvprint"));
 
-    const int status = runProgram(line);
-    // A call to a print server that hangs must not hold up the end.
-    if (!bv::detachedThreadsEnded()) {
-        std::fflush(nullptr);
-        std::_Exit(status);
-    }
-    return status;
+    return endedWith(runProgram(line));
 }
