@@ -19,12 +19,17 @@ set(BV_SERVICES ${CMAKE_INSTALL_DATADIR}/dbus-1/services)
 set(BV_SERVICE_MENUS ${CMAKE_INSTALL_DATADIR}/kio/servicemenus)
 set(BV_NEMO_ACTIONS ${CMAKE_INSTALL_DATADIR}/nemo/actions)
 set(BV_METAINFO ${CMAKE_INSTALL_DATADIR}/metainfo)
+# Where the shells look for completions of programs that are not their own.
+set(BV_BASH_COMPLETIONS ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+set(BV_ZSH_COMPLETIONS ${CMAKE_INSTALL_DATADIR}/zsh/site-functions CACHE STRING "Folder of zsh's completions")
+set(BV_FISH_COMPLETIONS ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
 set(BV_MAN_PLACES "")
 if(TARGET bvmanual)
   set(BV_MAN_PLACES ${CMAKE_INSTALL_MANDIR}/man1 ${CMAKE_INSTALL_MANDIR}/man8)
 endif()
 set(BV_PLACES ${CMAKE_INSTALL_BINDIR} lib/bvco ${BV_FILTERS} ${BV_PPD_FOLDER} ${BV_APPLICATIONS} ${BV_ICONS} ${BV_PORTALS} ${BV_SERVICES}
   ${BV_SERVICE_MENUS} ${BV_NEMO_ACTIONS} ${BV_METAINFO} ${BV_MAN_PLACES}
+  ${BV_BASH_COMPLETIONS} ${BV_ZSH_COMPLETIONS} ${BV_FISH_COMPLETIONS}
   "${BV_HELPERS}" "${BV_SHARED}/Icons" "${BV_SHARED}/Profiles" "${BV_LIBRARY}/Printers/BREVANE/Preferences")
 
 # Runs first, so that an installation is never left half done. Also creates the folders.
@@ -68,6 +73,10 @@ if(TARGET bvmanual) # the simulated printer is not installed, and neither is its
   install(FILES ${CMAKE_BINARY_DIR}/share/man/bvql70.8 ${CMAKE_SOURCE_DIR}/resources/manual/QL70Helper.8
           DESTINATION ${CMAKE_INSTALL_MANDIR}/man8)
 endif()
+set(completion ${CMAKE_SOURCE_DIR}/resources/completion)
+install(FILES ${completion}/bvprint.bash DESTINATION ${BV_BASH_COMPLETIONS} RENAME bvprint)
+install(FILES ${completion}/_bvprint DESTINATION ${BV_ZSH_COMPLETIONS})
+install(FILES ${completion}/bvprint.fish DESTINATION ${BV_FISH_COMPLETIONS})
 install(FILES ${CMAKE_SOURCE_DIR}/resources/icons/vnd.brevane.bvprint.svg DESTINATION ${BV_ICONS})
 install(FILES ${CMAKE_SOURCE_DIR}/resources/icons/fileExistqnQL70.icns DESTINATION "${BV_SHARED}/Icons")
 
