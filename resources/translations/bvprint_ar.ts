@@ -67,6 +67,10 @@
             <translation>طُبعت المهمة %1 من قبل.</translation>
         </message>
         <message>
+            <source>Other choices decide this now.</source>
+            <translation>تحدده خيارات أخرى حاليًا.</translation>
+        </message>
+        <message>
             <source>The picture %1 cannot be written.</source>
             <translation>تعذّرت كتابة الصورة %1.</translation>
         </message>
@@ -201,6 +205,74 @@
         <message>
             <source>The print server does not tell its jobs: %1.</source>
             <translation>تعذّر الحصول على قائمة المهام من خادم الطباعة: %1.</translation>
+        </message>
+        <message>
+            <source>%1: there is no such profile in your list.</source>
+            <translation>%1: لا يوجد ملف تعريف كهذا في قائمتك.</translation>
+        </message>
+        <message>
+            <source>Standard output cannot be written.</source>
+            <translation>تتعذر الكتابة إلى الخرج القياسي.</translation>
+        </message>
+        <message>
+            <source>The choices are not complete yet.</source>
+            <translation>الاختيارات غير مكتملة بعد.</translation>
+        </message>
+        <message>
+            <source>request id is %1-%2 (%3 file(s))</source>
+            <translation>معرف الطلب هو %1-%2 (عدد الملفات: %3)</translation>
+        </message>
+        <message>
+            <source>Nothing is sent without a print server. These would be the options of the job:</source>
+            <translation>لا يُرسل شيء من دون خادم طباعة. ستكون خيارات المهمة كما يلي:</translation>
+        </message>
+        <message>
+            <source>The printer's default.</source>
+            <translation>الإعداد الافتراضي للطابعة.</translation>
+        </message>
+        <message>
+            <source>Follows from another choice.</source>
+            <translation>ناتج عن خيار آخر.</translation>
+        </message>
+        <message>
+            <source>Given on the command line.</source>
+            <translation>محدد في سطر الأوامر.</translation>
+        </message>
+        <message>
+            <source>Changed</source>
+            <translation>تغيّرت</translation>
+        </message>
+        <message>
+            <source>Unchanged</source>
+            <translation>لم تتغير</translation>
+        </message>
+        <message>
+            <source>%1 (default)</source>
+            <translation>%1 (افتراضي)</translation>
+        </message>
+        <message>
+            <source>This job</source>
+            <translation>هذه المهمة</translation>
+        </message>
+        <message>
+            <source>Copies</source>
+            <translation>النسخ</translation>
+        </message>
+        <message>
+            <source>Pages to print</source>
+            <translation>الصفحات المطلوب طباعتها</translation>
+        </message>
+        <message>
+            <source>You have no defaults called “%1”; lpoptions stores some.</source>
+            <translation>ليست لديك إعدادات افتراضية باسم «%1»؛ يمكن حفظها بالأمر lpoptions.</translation>
+        </message>
+        <message>
+            <source>From the preset “%1”.</source>
+            <translation>من الإعداد المسبق «⁨%1⁩».</translation>
+        </message>
+        <message>
+            <source>“%1” is no option. Write KEYWORD=CHOICE.</source>
+            <translation>«%1» ليس خيارًا. اكتب KEYWORD=CHOICE.</translation>
         </message>
         <message>
             <source>The print dialog no longer opens by itself for your waiting jobs.
@@ -586,6 +658,30 @@
             <translation>نسخ</translation>
         </message>
         <message>
+            <source>%1 tells what is built into the printer; no job can choose it.</source>
+            <translation>يذكر %1 ما هو مركب في الطابعة؛ ولا يمكن لأي مهمة أن تختاره.</translation>
+        </message>
+        <message>
+            <source>%1 cannot be “%2”; it takes %3.</source>
+            <translation>لا يمكن أن يكون %1 «%2»؛ القيم المقبولة: %3.</translation>
+        </message>
+        <message>
+            <source>This printer has no option “%1”. bvprint --list shows all.</source>
+            <translation>ليس لهذه الطابعة خيار «%1». يعرض bvprint --list جميع الخيارات.</translation>
+        </message>
+        <message>
+            <source>This printer has no option “%1”. Did you mean %2? bvprint --list shows all.</source>
+            <translation>ليس لهذه الطابعة خيار «%1». هل تقصد %2؟ يعرض bvprint --list جميع الخيارات.</translation>
+        </message>
+        <message>
+            <source>bvprint --list shows all choices.</source>
+            <translation>يعرض bvprint --list جميع الاختيارات.</translation>
+        </message>
+        <message>
+            <source>Choose one of: %1</source>
+            <translation>اختر واحدًا من: %1</translation>
+        </message>
+        <message>
             <source>and %1 more.</source>
             <comment>conflicts</comment>
             <translation>وعدد البقية: %1.</translation>
@@ -819,14 +915,6 @@
             <translation>ال&amp;صفحات:</translation>
         </message>
         <message>
-            <source>Copies</source>
-            <translation>النسخ</translation>
-        </message>
-        <message>
-            <source>Pages to print</source>
-            <translation>الصفحات المطلوب طباعتها</translation>
-        </message>
-        <message>
             <source>1-3, 8</source>
             <translation>‎1-3، 8</translation>
         </message>
@@ -853,6 +941,10 @@
         <message>
             <source>What the printer says of its profiles was not saved: their list could not be written. The profiles are shown as they were. %1; then open this window again.</source>
             <translation>لم يُحفظ ما أبلغت به الطابعة عن ملفات التعريف فيها لتعذّر كتابة قائمتها. ملفات التعريف معروضة كما كانت. %1؛ ثم أعد فتح هذه النافذة.</translation>
+        </message>
+        <message>
+            <source>Another choice does not let it stand.</source>
+            <translation>لا يسمح به خيار آخر.</translation>
         </message>
         <message>
             <source>Close this message</source>
@@ -1076,10 +1168,6 @@ org.freedesktop.impl.portal.Print=vnd.brevane.bvprint</translation>
             <translation>إعدادات مسبقة (*.json)</translation>
         </message>
         <message>
-            <source>From the preset “%1”.</source>
-            <translation>من الإعداد المسبق «⁨%1⁩».</translation>
-        </message>
-        <message>
             <source>“%1”</source>
             <comment>a preset</comment>
             <translation>«⁨%1⁩»</translation>
@@ -1271,10 +1359,6 @@ org.freedesktop.impl.portal.Print=vnd.brevane.bvprint</translation>
             <translation>لا توجد طابعة باسم «⁨%1⁩». اختر طابعة من القائمة.</translation>
         </message>
         <message>
-            <source>The choices are not complete yet.</source>
-            <translation>الاختيارات غير مكتملة بعد.</translation>
-        </message>
-        <message>
             <source>The options of “%1” are being prepared…</source>
             <translation>جارٍ تجهيز خيارات «%1»…</translation>
         </message>
@@ -1451,10 +1535,6 @@ Cancel, and settle it by the buttons above Print, or print all the same.</source
             <translation>تعذّر حفظ اختيارات «%1».</translation>
         </message>
         <message>
-            <source>The printer's default.</source>
-            <translation>الإعداد الافتراضي للطابعة.</translation>
-        </message>
-        <message>
             <source>Cancel &amp;Job</source>
             <translation>إلغاء الم&amp;همة</translation>
         </message>
@@ -1521,14 +1601,6 @@ Cancel, and settle it by the buttons above Print, or print all the same.</source
         <message>
             <source>There is nothing to sum up.</source>
             <translation>لا يوجد ما يُعرض في الملخص.</translation>
-        </message>
-        <message>
-            <source>Changed</source>
-            <translation>تغيّرت</translation>
-        </message>
-        <message>
-            <source>Unchanged</source>
-            <translation>لم تتغير</translation>
         </message>
         <message>
             <source>All as the printer proposes.</source>

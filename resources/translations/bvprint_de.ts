@@ -67,6 +67,10 @@
             <translation>Der Auftrag %1 wurde bereits gedruckt.</translation>
         </message>
         <message>
+            <source>Other choices decide this now.</source>
+            <translation>Andere Einstellungen bestimmen dies gerade.</translation>
+        </message>
+        <message>
             <source>The picture %1 cannot be written.</source>
             <translation>Das Bild %1 kann nicht geschrieben werden.</translation>
         </message>
@@ -201,6 +205,74 @@
         <message>
             <source>The print server does not tell its jobs: %1.</source>
             <translation>Die Aufträge auf dem Druckserver konnten nicht abgefragt werden: %1.</translation>
+        </message>
+        <message>
+            <source>%1: there is no such profile in your list.</source>
+            <translation>%1: In Ihrer Liste gibt es kein solches Profil.</translation>
+        </message>
+        <message>
+            <source>Standard output cannot be written.</source>
+            <translation>Die Standardausgabe kann nicht geschrieben werden.</translation>
+        </message>
+        <message>
+            <source>The choices are not complete yet.</source>
+            <translation>Die Auswahl ist noch nicht vollständig.</translation>
+        </message>
+        <message>
+            <source>request id is %1-%2 (%3 file(s))</source>
+            <translation>Auftragsnummer ist %1-%2 (%3 Datei(en))</translation>
+        </message>
+        <message>
+            <source>Nothing is sent without a print server. These would be the options of the job:</source>
+            <translation>Ohne Druckserver wird nichts gesendet. Der Auftrag hätte diese Optionen:</translation>
+        </message>
+        <message>
+            <source>The printer's default.</source>
+            <translation>Standard des Druckers.</translation>
+        </message>
+        <message>
+            <source>Follows from another choice.</source>
+            <translation>Ergibt sich aus einer anderen Einstellung.</translation>
+        </message>
+        <message>
+            <source>Given on the command line.</source>
+            <translation>Auf der Befehlszeile angegeben.</translation>
+        </message>
+        <message>
+            <source>Changed</source>
+            <translation>Geändert</translation>
+        </message>
+        <message>
+            <source>Unchanged</source>
+            <translation>Unverändert</translation>
+        </message>
+        <message>
+            <source>%1 (default)</source>
+            <translation>%1 (Standard)</translation>
+        </message>
+        <message>
+            <source>This job</source>
+            <translation>Dieser Auftrag</translation>
+        </message>
+        <message>
+            <source>Copies</source>
+            <translation>Kopien</translation>
+        </message>
+        <message>
+            <source>Pages to print</source>
+            <translation>Zu druckende Seiten</translation>
+        </message>
+        <message>
+            <source>You have no defaults called “%1”; lpoptions stores some.</source>
+            <translation>Sie haben keine Standardwerte namens „%1“; mit lpoptions legen Sie welche an.</translation>
+        </message>
+        <message>
+            <source>From the preset “%1”.</source>
+            <translation>Aus der Voreinstellung „%1“.</translation>
+        </message>
+        <message>
+            <source>“%1” is no option. Write KEYWORD=CHOICE.</source>
+            <translation>„%1“ ist keine Option. Schreiben Sie KEYWORD=CHOICE.</translation>
         </message>
         <message>
             <source>The print dialog no longer opens by itself for your waiting jobs.
@@ -586,6 +658,30 @@
             <translation>Kopieren</translation>
         </message>
         <message>
+            <source>%1 tells what is built into the printer; no job can choose it.</source>
+            <translation>%1 sagt, was im Drucker eingebaut ist; kein Auftrag kann das wählen.</translation>
+        </message>
+        <message>
+            <source>%1 cannot be “%2”; it takes %3.</source>
+            <translation>%1 kann nicht „%2“ sein; möglich ist %3.</translation>
+        </message>
+        <message>
+            <source>This printer has no option “%1”. bvprint --list shows all.</source>
+            <translation>Dieser Drucker hat keine Option „%1“. bvprint --list zeigt alle.</translation>
+        </message>
+        <message>
+            <source>This printer has no option “%1”. Did you mean %2? bvprint --list shows all.</source>
+            <translation>Dieser Drucker hat keine Option „%1“. Meinten Sie %2? bvprint --list zeigt alle.</translation>
+        </message>
+        <message>
+            <source>bvprint --list shows all choices.</source>
+            <translation>bvprint --list zeigt alle Werte.</translation>
+        </message>
+        <message>
+            <source>Choose one of: %1</source>
+            <translation>Wählen Sie eines von: %1</translation>
+        </message>
+        <message>
             <source>and %1 more.</source>
             <comment>conflicts</comment>
             <translation>und %1 weitere.</translation>
@@ -819,14 +915,6 @@
             <translation>&amp;Seiten:</translation>
         </message>
         <message>
-            <source>Copies</source>
-            <translation>Kopien</translation>
-        </message>
-        <message>
-            <source>Pages to print</source>
-            <translation>Zu druckende Seiten</translation>
-        </message>
-        <message>
             <source>1-3, 8</source>
             <translation>1-3, 8</translation>
         </message>
@@ -853,6 +941,10 @@
         <message>
             <source>What the printer says of its profiles was not saved: their list could not be written. The profiles are shown as they were. %1; then open this window again.</source>
             <translation>Die Angaben des Druckers zu seinen Profilen wurden nicht gespeichert, weil die Profilliste nicht geschrieben werden konnte. Die Profile werden im bisherigen Stand angezeigt. %1. Öffnen Sie dieses Fenster danach noch einmal.</translation>
+        </message>
+        <message>
+            <source>Another choice does not let it stand.</source>
+            <translation>Eine andere Einstellung lässt das nicht zu.</translation>
         </message>
         <message>
             <source>Close this message</source>
@@ -1076,10 +1168,6 @@ org.freedesktop.impl.portal.Print=vnd.brevane.bvprint</translation>
             <translation>Voreinstellungen (*.json)</translation>
         </message>
         <message>
-            <source>From the preset “%1”.</source>
-            <translation>Aus der Voreinstellung „%1“.</translation>
-        </message>
-        <message>
             <source>“%1”</source>
             <comment>a preset</comment>
             <translation>„%1“</translation>
@@ -1271,10 +1359,6 @@ org.freedesktop.impl.portal.Print=vnd.brevane.bvprint</translation>
             <translation>Es gibt keinen Drucker „%1“. Wählen Sie einen aus der Liste.</translation>
         </message>
         <message>
-            <source>The choices are not complete yet.</source>
-            <translation>Die Auswahl ist noch nicht vollständig.</translation>
-        </message>
-        <message>
             <source>The options of “%1” are being prepared…</source>
             <translation>Die Optionen von „%1“ werden vorbereitet…</translation>
         </message>
@@ -1451,10 +1535,6 @@ Brechen Sie ab und beheben Sie das mit den Schaltflächen über „Drucken“, o
             <translation>Die Auswahl für „%1“ konnte nicht gespeichert werden.</translation>
         </message>
         <message>
-            <source>The printer's default.</source>
-            <translation>Standard des Druckers.</translation>
-        </message>
-        <message>
             <source>Cancel &amp;Job</source>
             <translation>&amp;Auftrag abbrechen</translation>
         </message>
@@ -1521,14 +1601,6 @@ Brechen Sie ab und beheben Sie das mit den Schaltflächen über „Drucken“, o
         <message>
             <source>There is nothing to sum up.</source>
             <translation>Es gibt nichts zusammenzufassen.</translation>
-        </message>
-        <message>
-            <source>Changed</source>
-            <translation>Geändert</translation>
-        </message>
-        <message>
-            <source>Unchanged</source>
-            <translation>Unverändert</translation>
         </message>
         <message>
             <source>All as the printer proposes.</source>

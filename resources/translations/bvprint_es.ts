@@ -67,6 +67,10 @@
             <translation>El trabajo %1 ya se ha impreso.</translation>
         </message>
         <message>
+            <source>Other choices decide this now.</source>
+            <translation>Ahora lo deciden otras opciones.</translation>
+        </message>
+        <message>
             <source>The picture %1 cannot be written.</source>
             <translation>No se puede escribir la imagen %1.</translation>
         </message>
@@ -201,6 +205,74 @@
         <message>
             <source>The print server does not tell its jobs: %1.</source>
             <translation>El servidor de impresión no informa de sus trabajos: %1.</translation>
+        </message>
+        <message>
+            <source>%1: there is no such profile in your list.</source>
+            <translation>%1: no hay ningún perfil así en su lista.</translation>
+        </message>
+        <message>
+            <source>Standard output cannot be written.</source>
+            <translation>No se puede escribir en la salida estándar.</translation>
+        </message>
+        <message>
+            <source>The choices are not complete yet.</source>
+            <translation>Aún falta completar los ajustes.</translation>
+        </message>
+        <message>
+            <source>request id is %1-%2 (%3 file(s))</source>
+            <translation>el identificador de la petición es %1-%2 (%3 archivo(s))</translation>
+        </message>
+        <message>
+            <source>Nothing is sent without a print server. These would be the options of the job:</source>
+            <translation>No se envía nada sin un servidor de impresión. Estas serían las opciones del trabajo:</translation>
+        </message>
+        <message>
+            <source>The printer's default.</source>
+            <translation>Valor predeterminado de la impresora.</translation>
+        </message>
+        <message>
+            <source>Follows from another choice.</source>
+            <translation>Se deriva de otra opción.</translation>
+        </message>
+        <message>
+            <source>Given on the command line.</source>
+            <translation>Indicado en la línea de órdenes.</translation>
+        </message>
+        <message>
+            <source>Changed</source>
+            <translation>Con cambios</translation>
+        </message>
+        <message>
+            <source>Unchanged</source>
+            <translation>Sin cambios</translation>
+        </message>
+        <message>
+            <source>%1 (default)</source>
+            <translation>%1 (predeterminado)</translation>
+        </message>
+        <message>
+            <source>This job</source>
+            <translation>Este trabajo</translation>
+        </message>
+        <message>
+            <source>Copies</source>
+            <translation>Copias</translation>
+        </message>
+        <message>
+            <source>Pages to print</source>
+            <translation>Páginas para imprimir</translation>
+        </message>
+        <message>
+            <source>You have no defaults called “%1”; lpoptions stores some.</source>
+            <translation>No tiene valores predeterminados llamados «%1»; lpoptions los guarda.</translation>
+        </message>
+        <message>
+            <source>From the preset “%1”.</source>
+            <translation>Del preajuste «%1».</translation>
+        </message>
+        <message>
+            <source>“%1” is no option. Write KEYWORD=CHOICE.</source>
+            <translation>«%1» no es una opción. Escriba KEYWORD=CHOICE.</translation>
         </message>
         <message>
             <source>The print dialog no longer opens by itself for your waiting jobs.
@@ -586,6 +658,30 @@
             <translation>Copiar</translation>
         </message>
         <message>
+            <source>%1 tells what is built into the printer; no job can choose it.</source>
+            <translation>%1 indica qué tiene instalado la impresora; ningún trabajo puede elegirlo.</translation>
+        </message>
+        <message>
+            <source>%1 cannot be “%2”; it takes %3.</source>
+            <translation>%1 no puede ser «%2»; admite %3.</translation>
+        </message>
+        <message>
+            <source>This printer has no option “%1”. bvprint --list shows all.</source>
+            <translation>Esta impresora no tiene la opción «%1». bvprint --list las muestra todas.</translation>
+        </message>
+        <message>
+            <source>This printer has no option “%1”. Did you mean %2? bvprint --list shows all.</source>
+            <translation>Esta impresora no tiene la opción «%1». ¿Quería decir %2? bvprint --list las muestra todas.</translation>
+        </message>
+        <message>
+            <source>bvprint --list shows all choices.</source>
+            <translation>bvprint --list muestra todas las opciones.</translation>
+        </message>
+        <message>
+            <source>Choose one of: %1</source>
+            <translation>Elija entre: %1</translation>
+        </message>
+        <message>
             <source>and %1 more.</source>
             <comment>conflicts</comment>
             <translation>y %1 más.</translation>
@@ -819,14 +915,6 @@
             <translation>Pá&amp;ginas:</translation>
         </message>
         <message>
-            <source>Copies</source>
-            <translation>Copias</translation>
-        </message>
-        <message>
-            <source>Pages to print</source>
-            <translation>Páginas para imprimir</translation>
-        </message>
-        <message>
             <source>1-3, 8</source>
             <translation>1-3, 8</translation>
         </message>
@@ -853,6 +941,10 @@
         <message>
             <source>What the printer says of its profiles was not saved: their list could not be written. The profiles are shown as they were. %1; then open this window again.</source>
             <translation>Lo que la impresora indica sobre sus perfiles no se guardó: no se pudo escribir la lista. Los perfiles se muestran como estaban. %1; después, vuelva a abrir esta ventana.</translation>
+        </message>
+        <message>
+            <source>Another choice does not let it stand.</source>
+            <translation>Otra opción no lo permite.</translation>
         </message>
         <message>
             <source>Close this message</source>
@@ -1076,10 +1168,6 @@ org.freedesktop.impl.portal.Print=vnd.brevane.bvprint</translation>
             <translation>Preajustes (*.json)</translation>
         </message>
         <message>
-            <source>From the preset “%1”.</source>
-            <translation>Del preajuste «%1».</translation>
-        </message>
-        <message>
             <source>“%1”</source>
             <comment>a preset</comment>
             <translation>«%1»</translation>
@@ -1271,10 +1359,6 @@ org.freedesktop.impl.portal.Print=vnd.brevane.bvprint</translation>
             <translation>No existe la impresora «%1». Elija una de la lista.</translation>
         </message>
         <message>
-            <source>The choices are not complete yet.</source>
-            <translation>Aún falta completar los ajustes.</translation>
-        </message>
-        <message>
             <source>The options of “%1” are being prepared…</source>
             <translation>Se están preparando las opciones de «%1»…</translation>
         </message>
@@ -1451,10 +1535,6 @@ Cancele y resuélvalo con los botones situados sobre «Imprimir», o imprima de 
             <translation>No se pudieron conservar los ajustes de «%1».</translation>
         </message>
         <message>
-            <source>The printer's default.</source>
-            <translation>Valor predeterminado de la impresora.</translation>
-        </message>
-        <message>
             <source>Cancel &amp;Job</source>
             <translation>Cancelar &amp;trabajo</translation>
         </message>
@@ -1521,14 +1601,6 @@ Cancele y resuélvalo con los botones situados sobre «Imprimir», o imprima de 
         <message>
             <source>There is nothing to sum up.</source>
             <translation>No hay nada que resumir.</translation>
-        </message>
-        <message>
-            <source>Changed</source>
-            <translation>Con cambios</translation>
-        </message>
-        <message>
-            <source>Unchanged</source>
-            <translation>Sin cambios</translation>
         </message>
         <message>
             <source>All as the printer proposes.</source>

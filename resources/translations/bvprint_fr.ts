@@ -67,6 +67,10 @@
             <translation>La tâche %1 a déjà été imprimée.</translation>
         </message>
         <message>
+            <source>Other choices decide this now.</source>
+            <translation>D’autres choix en décident actuellement.</translation>
+        </message>
+        <message>
             <source>The picture %1 cannot be written.</source>
             <translation>Impossible d’écrire l’image %1.</translation>
         </message>
@@ -201,6 +205,74 @@
         <message>
             <source>The print server does not tell its jobs: %1.</source>
             <translation>Le serveur d’impression ne communique pas ses tâches : %1.</translation>
+        </message>
+        <message>
+            <source>%1: there is no such profile in your list.</source>
+            <translation>%1 : il n’y a pas de tel profil dans votre liste.</translation>
+        </message>
+        <message>
+            <source>Standard output cannot be written.</source>
+            <translation>Impossible d’écrire sur la sortie standard.</translation>
+        </message>
+        <message>
+            <source>The choices are not complete yet.</source>
+            <translation>Les choix ne sont pas encore complets.</translation>
+        </message>
+        <message>
+            <source>request id is %1-%2 (%3 file(s))</source>
+            <translation>l’identifiant de la demande est %1-%2 (%3 fichier(s))</translation>
+        </message>
+        <message>
+            <source>Nothing is sent without a print server. These would be the options of the job:</source>
+            <translation>Rien n’est envoyé sans serveur d’impression. La tâche aurait ces options :</translation>
+        </message>
+        <message>
+            <source>The printer's default.</source>
+            <translation>Réglage par défaut de l’imprimante.</translation>
+        </message>
+        <message>
+            <source>Follows from another choice.</source>
+            <translation>Découle d’un autre choix.</translation>
+        </message>
+        <message>
+            <source>Given on the command line.</source>
+            <translation>Indiqué sur la ligne de commande.</translation>
+        </message>
+        <message>
+            <source>Changed</source>
+            <translation>Modifiés</translation>
+        </message>
+        <message>
+            <source>Unchanged</source>
+            <translation>Inchangés</translation>
+        </message>
+        <message>
+            <source>%1 (default)</source>
+            <translation>%1 (par défaut)</translation>
+        </message>
+        <message>
+            <source>This job</source>
+            <translation>Cette tâche</translation>
+        </message>
+        <message>
+            <source>Copies</source>
+            <translation>Copies</translation>
+        </message>
+        <message>
+            <source>Pages to print</source>
+            <translation>Pages à imprimer</translation>
+        </message>
+        <message>
+            <source>You have no defaults called “%1”; lpoptions stores some.</source>
+            <translation>Vous n’avez pas de réglages par défaut appelés « %1 » ; lpoptions en enregistre.</translation>
+        </message>
+        <message>
+            <source>From the preset “%1”.</source>
+            <translation>D’après le préréglage « %1 ».</translation>
+        </message>
+        <message>
+            <source>“%1” is no option. Write KEYWORD=CHOICE.</source>
+            <translation>« %1 » n’est pas une option. Écrivez KEYWORD=CHOICE.</translation>
         </message>
         <message>
             <source>The print dialog no longer opens by itself for your waiting jobs.
@@ -586,6 +658,30 @@
             <translation>Copier</translation>
         </message>
         <message>
+            <source>%1 tells what is built into the printer; no job can choose it.</source>
+            <translation>%1 indique ce dont l’imprimante est équipée ; aucune tâche ne peut le choisir.</translation>
+        </message>
+        <message>
+            <source>%1 cannot be “%2”; it takes %3.</source>
+            <translation>%1 ne peut pas être « %2 » ; valeurs admises : %3.</translation>
+        </message>
+        <message>
+            <source>This printer has no option “%1”. bvprint --list shows all.</source>
+            <translation>Cette imprimante n’a pas d’option « %1 ». bvprint --list les affiche toutes.</translation>
+        </message>
+        <message>
+            <source>This printer has no option “%1”. Did you mean %2? bvprint --list shows all.</source>
+            <translation>Cette imprimante n’a pas d’option « %1 ». Vouliez-vous dire %2 ? bvprint --list les affiche toutes.</translation>
+        </message>
+        <message>
+            <source>bvprint --list shows all choices.</source>
+            <translation>bvprint --list affiche tous les choix.</translation>
+        </message>
+        <message>
+            <source>Choose one of: %1</source>
+            <translation>Choisissez parmi : %1</translation>
+        </message>
+        <message>
             <source>and %1 more.</source>
             <comment>conflicts</comment>
             <translation>et %1 de plus.</translation>
@@ -819,14 +915,6 @@
             <translation>Page&amp;s :</translation>
         </message>
         <message>
-            <source>Copies</source>
-            <translation>Copies</translation>
-        </message>
-        <message>
-            <source>Pages to print</source>
-            <translation>Pages à imprimer</translation>
-        </message>
-        <message>
             <source>1-3, 8</source>
             <translation>1-3, 8</translation>
         </message>
@@ -853,6 +941,10 @@
         <message>
             <source>What the printer says of its profiles was not saved: their list could not be written. The profiles are shown as they were. %1; then open this window again.</source>
             <translation>Les informations de l’imprimante sur ses profils n’ont pas été enregistrées : leur liste n’a pas pu être écrite. Les profils sont affichés tels qu’ils étaient. %1 ; rouvrez ensuite cette fenêtre.</translation>
+        </message>
+        <message>
+            <source>Another choice does not let it stand.</source>
+            <translation>Un autre choix ne le permet pas.</translation>
         </message>
         <message>
             <source>Close this message</source>
@@ -1076,10 +1168,6 @@ org.freedesktop.impl.portal.Print=vnd.brevane.bvprint</translation>
             <translation>Préréglages (*.json)</translation>
         </message>
         <message>
-            <source>From the preset “%1”.</source>
-            <translation>D’après le préréglage « %1 ».</translation>
-        </message>
-        <message>
             <source>“%1”</source>
             <comment>a preset</comment>
             <translation>« %1 »</translation>
@@ -1271,10 +1359,6 @@ org.freedesktop.impl.portal.Print=vnd.brevane.bvprint</translation>
             <translation>Il n’y a pas d’imprimante « %1 ». Choisissez-en une dans la liste.</translation>
         </message>
         <message>
-            <source>The choices are not complete yet.</source>
-            <translation>Les choix ne sont pas encore complets.</translation>
-        </message>
-        <message>
             <source>The options of “%1” are being prepared…</source>
             <translation>Préparation des options de « %1 »…</translation>
         </message>
@@ -1451,10 +1535,6 @@ Annulez pour régler cela avec les boutons situés au-dessus de « Imprimer 
             <translation>Les choix de « %1 » n’ont pas pu être conservés.</translation>
         </message>
         <message>
-            <source>The printer's default.</source>
-            <translation>Réglage par défaut de l’imprimante.</translation>
-        </message>
-        <message>
             <source>Cancel &amp;Job</source>
             <translation>Annuler la tâc&amp;he</translation>
         </message>
@@ -1521,14 +1601,6 @@ Annulez pour régler cela avec les boutons situés au-dessus de « Imprimer 
         <message>
             <source>There is nothing to sum up.</source>
             <translation>Il n’y a rien à résumer.</translation>
-        </message>
-        <message>
-            <source>Changed</source>
-            <translation>Modifiés</translation>
-        </message>
-        <message>
-            <source>Unchanged</source>
-            <translation>Inchangés</translation>
         </message>
         <message>
             <source>All as the printer proposes.</source>

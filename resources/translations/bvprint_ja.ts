@@ -67,6 +67,10 @@
             <translation>ジョブ%1はすでに印刷されました。</translation>
         </message>
         <message>
+            <source>Other choices decide this now.</source>
+            <translation>現在はほかの設定によって決まります。</translation>
+        </message>
+        <message>
             <source>The picture %1 cannot be written.</source>
             <translation>画像%1を書き込めません。</translation>
         </message>
@@ -201,6 +205,74 @@
         <message>
             <source>The print server does not tell its jobs: %1.</source>
             <translation>プリントサーバーからジョブの一覧を取得できません（%1）。</translation>
+        </message>
+        <message>
+            <source>%1: there is no such profile in your list.</source>
+            <translation>%1: そのプロファイルはリストにありません。</translation>
+        </message>
+        <message>
+            <source>Standard output cannot be written.</source>
+            <translation>標準出力に書き込めません。</translation>
+        </message>
+        <message>
+            <source>The choices are not complete yet.</source>
+            <translation>まだ設定が完了していません。</translation>
+        </message>
+        <message>
+            <source>request id is %1-%2 (%3 file(s))</source>
+            <translation>リクエスト ID は %1-%2 です (%3 個のファイル)</translation>
+        </message>
+        <message>
+            <source>Nothing is sent without a print server. These would be the options of the job:</source>
+            <translation>プリントサーバーがないため何も送信されません。ジョブのオプションは次のようになります:</translation>
+        </message>
+        <message>
+            <source>The printer's default.</source>
+            <translation>プリンターのデフォルトです。</translation>
+        </message>
+        <message>
+            <source>Follows from another choice.</source>
+            <translation>ほかの設定から決まります。</translation>
+        </message>
+        <message>
+            <source>Given on the command line.</source>
+            <translation>コマンドラインで指定されました。</translation>
+        </message>
+        <message>
+            <source>Changed</source>
+            <translation>変更あり</translation>
+        </message>
+        <message>
+            <source>Unchanged</source>
+            <translation>変更なし</translation>
+        </message>
+        <message>
+            <source>%1 (default)</source>
+            <translation>%1（デフォルト）</translation>
+        </message>
+        <message>
+            <source>This job</source>
+            <translation>このジョブ</translation>
+        </message>
+        <message>
+            <source>Copies</source>
+            <translation>部数</translation>
+        </message>
+        <message>
+            <source>Pages to print</source>
+            <translation>印刷するページ</translation>
+        </message>
+        <message>
+            <source>You have no defaults called “%1”; lpoptions stores some.</source>
+            <translation>「%1」という既定値はありません。lpoptions で保存できます。</translation>
+        </message>
+        <message>
+            <source>From the preset “%1”.</source>
+            <translation>プリセット「%1」の設定です。</translation>
+        </message>
+        <message>
+            <source>“%1” is no option. Write KEYWORD=CHOICE.</source>
+            <translation>「%1」はオプションではありません。KEYWORD=CHOICE の形で書いてください。</translation>
         </message>
         <message>
             <source>The print dialog no longer opens by itself for your waiting jobs.
@@ -586,6 +658,30 @@
             <translation>コピー</translation>
         </message>
         <message>
+            <source>%1 tells what is built into the printer; no job can choose it.</source>
+            <translation>%1 はプリンターに取り付けられているものを示します。ジョブでは選べません。</translation>
+        </message>
+        <message>
+            <source>%1 cannot be “%2”; it takes %3.</source>
+            <translation>%1 を「%2」にすることはできません。指定できる値: %3</translation>
+        </message>
+        <message>
+            <source>This printer has no option “%1”. bvprint --list shows all.</source>
+            <translation>このプリンターにオプション「%1」はありません。bvprint --list ですべて表示されます。</translation>
+        </message>
+        <message>
+            <source>This printer has no option “%1”. Did you mean %2? bvprint --list shows all.</source>
+            <translation>このプリンターにオプション「%1」はありません。%2 のことですか？ bvprint --list ですべて表示されます。</translation>
+        </message>
+        <message>
+            <source>bvprint --list shows all choices.</source>
+            <translation>bvprint --list ですべての選択肢が表示されます。</translation>
+        </message>
+        <message>
+            <source>Choose one of: %1</source>
+            <translation>次のいずれかを選んでください: %1</translation>
+        </message>
+        <message>
             <source>and %1 more.</source>
             <comment>conflicts</comment>
             <translation>ほか%1件。</translation>
@@ -819,14 +915,6 @@
             <translation>ページ指定(&amp;G):</translation>
         </message>
         <message>
-            <source>Copies</source>
-            <translation>部数</translation>
-        </message>
-        <message>
-            <source>Pages to print</source>
-            <translation>印刷するページ</translation>
-        </message>
-        <message>
             <source>1-3, 8</source>
             <translation>1-3, 8</translation>
         </message>
@@ -853,6 +941,10 @@
         <message>
             <source>What the printer says of its profiles was not saved: their list could not be written. The profiles are shown as they were. %1; then open this window again.</source>
             <translation>一覧に書き込めなかったため、プリンターから取得したプロファイルの情報は保存されませんでした。以前のプロファイルを表示しています。%1。その後、このウィンドウを開き直してください。</translation>
+        </message>
+        <message>
+            <source>Another choice does not let it stand.</source>
+            <translation>ほかの設定のために使用できません。</translation>
         </message>
         <message>
             <source>Close this message</source>
@@ -1076,10 +1168,6 @@ org.freedesktop.impl.portal.Print=vnd.brevane.bvprint</translation>
             <translation>プリセット (*.json)</translation>
         </message>
         <message>
-            <source>From the preset “%1”.</source>
-            <translation>プリセット「%1」の設定です。</translation>
-        </message>
-        <message>
             <source>“%1”</source>
             <comment>a preset</comment>
             <translation>「%1」</translation>
@@ -1271,10 +1359,6 @@ org.freedesktop.impl.portal.Print=vnd.brevane.bvprint</translation>
             <translation>プリンター「%1」はありません。一覧から選択してください。</translation>
         </message>
         <message>
-            <source>The choices are not complete yet.</source>
-            <translation>まだ設定が完了していません。</translation>
-        </message>
-        <message>
             <source>The options of “%1” are being prepared…</source>
             <translation>「%1」のオプションを準備しています…</translation>
         </message>
@@ -1451,10 +1535,6 @@ Cancel, and settle it by the buttons above Print, or print all the same.</source
             <translation>「%1」の設定を保存できませんでした。</translation>
         </message>
         <message>
-            <source>The printer's default.</source>
-            <translation>プリンターのデフォルトです。</translation>
-        </message>
-        <message>
             <source>Cancel &amp;Job</source>
             <translation>ジョブをキャンセル(&amp;J)</translation>
         </message>
@@ -1521,14 +1601,6 @@ Cancel, and settle it by the buttons above Print, or print all the same.</source
         <message>
             <source>There is nothing to sum up.</source>
             <translation>表示する項目はありません。</translation>
-        </message>
-        <message>
-            <source>Changed</source>
-            <translation>変更あり</translation>
-        </message>
-        <message>
-            <source>Unchanged</source>
-            <translation>変更なし</translation>
         </message>
         <message>
             <source>All as the printer proposes.</source>

@@ -67,6 +67,10 @@
             <translation>打印任务 %1 已打印完毕。</translation>
         </message>
         <message>
+            <source>Other choices decide this now.</source>
+            <translation>目前由其他选项决定。</translation>
+        </message>
+        <message>
             <source>The picture %1 cannot be written.</source>
             <translation>无法写入图片 %1。</translation>
         </message>
@@ -201,6 +205,74 @@
         <message>
             <source>The print server does not tell its jobs: %1.</source>
             <translation>无法从打印服务器获取打印任务：%1。</translation>
+        </message>
+        <message>
+            <source>%1: there is no such profile in your list.</source>
+            <translation>%1：您的列表中没有这个配置文件。</translation>
+        </message>
+        <message>
+            <source>Standard output cannot be written.</source>
+            <translation>无法写入标准输出。</translation>
+        </message>
+        <message>
+            <source>The choices are not complete yet.</source>
+            <translation>设置尚未就绪。</translation>
+        </message>
+        <message>
+            <source>request id is %1-%2 (%3 file(s))</source>
+            <translation>请求 ID 为 %1-%2（%3 个文件）</translation>
+        </message>
+        <message>
+            <source>Nothing is sent without a print server. These would be the options of the job:</source>
+            <translation>没有打印服务器，不会发送任何内容。作业的选项将是：</translation>
+        </message>
+        <message>
+            <source>The printer's default.</source>
+            <translation>打印机的默认设置。</translation>
+        </message>
+        <message>
+            <source>Follows from another choice.</source>
+            <translation>由其他选项得出。</translation>
+        </message>
+        <message>
+            <source>Given on the command line.</source>
+            <translation>在命令行中指定。</translation>
+        </message>
+        <message>
+            <source>Changed</source>
+            <translation>已更改</translation>
+        </message>
+        <message>
+            <source>Unchanged</source>
+            <translation>未更改</translation>
+        </message>
+        <message>
+            <source>%1 (default)</source>
+            <translation>%1（默认）</translation>
+        </message>
+        <message>
+            <source>This job</source>
+            <translation>此作业</translation>
+        </message>
+        <message>
+            <source>Copies</source>
+            <translation>份数</translation>
+        </message>
+        <message>
+            <source>Pages to print</source>
+            <translation>要打印的页面</translation>
+        </message>
+        <message>
+            <source>You have no defaults called “%1”; lpoptions stores some.</source>
+            <translation>您没有名为“%1”的默认设置；可用 lpoptions 保存。</translation>
+        </message>
+        <message>
+            <source>From the preset “%1”.</source>
+            <translation>来自预设“%1”。</translation>
+        </message>
+        <message>
+            <source>“%1” is no option. Write KEYWORD=CHOICE.</source>
+            <translation>“%1”不是选项。请写成 KEYWORD=CHOICE。</translation>
         </message>
         <message>
             <source>The print dialog no longer opens by itself for your waiting jobs.
@@ -586,6 +658,30 @@
             <translation>复制</translation>
         </message>
         <message>
+            <source>%1 tells what is built into the printer; no job can choose it.</source>
+            <translation>%1 表示打印机已安装的部件，作业无法选择。</translation>
+        </message>
+        <message>
+            <source>%1 cannot be “%2”; it takes %3.</source>
+            <translation>%1 不能为“%2”；可用的值：%3。</translation>
+        </message>
+        <message>
+            <source>This printer has no option “%1”. bvprint --list shows all.</source>
+            <translation>此打印机没有选项“%1”。bvprint --list 会列出全部选项。</translation>
+        </message>
+        <message>
+            <source>This printer has no option “%1”. Did you mean %2? bvprint --list shows all.</source>
+            <translation>此打印机没有选项“%1”。您是指 %2 吗？bvprint --list 会列出全部选项。</translation>
+        </message>
+        <message>
+            <source>bvprint --list shows all choices.</source>
+            <translation>bvprint --list 会列出所有可选值。</translation>
+        </message>
+        <message>
+            <source>Choose one of: %1</source>
+            <translation>请选择以下之一：%1</translation>
+        </message>
+        <message>
             <source>and %1 more.</source>
             <comment>conflicts</comment>
             <translation>还有 %1 处冲突。</translation>
@@ -819,14 +915,6 @@
             <translation>页面(&amp;G)：</translation>
         </message>
         <message>
-            <source>Copies</source>
-            <translation>份数</translation>
-        </message>
-        <message>
-            <source>Pages to print</source>
-            <translation>要打印的页面</translation>
-        </message>
-        <message>
             <source>1-3, 8</source>
             <translation>1-3, 8</translation>
         </message>
@@ -853,6 +941,10 @@
         <message>
             <source>What the printer says of its profiles was not saved: their list could not be written. The profiles are shown as they were. %1; then open this window again.</source>
             <translation>打印机提供的色彩配置文件信息未能保存：无法写入列表。色彩配置文件仍按原样显示。%1，然后重新打开此窗口。</translation>
+        </message>
+        <message>
+            <source>Another choice does not let it stand.</source>
+            <translation>另一个选项不允许这样设置。</translation>
         </message>
         <message>
             <source>Close this message</source>
@@ -1076,10 +1168,6 @@ org.freedesktop.impl.portal.Print=vnd.brevane.bvprint</translation>
             <translation>预设 (*.json)</translation>
         </message>
         <message>
-            <source>From the preset “%1”.</source>
-            <translation>来自预设“%1”。</translation>
-        </message>
-        <message>
             <source>“%1”</source>
             <comment>a preset</comment>
             <translation>“%1”</translation>
@@ -1271,10 +1359,6 @@ org.freedesktop.impl.portal.Print=vnd.brevane.bvprint</translation>
             <translation>没有打印机“%1”。请从列表中选择。</translation>
         </message>
         <message>
-            <source>The choices are not complete yet.</source>
-            <translation>设置尚未就绪。</translation>
-        </message>
-        <message>
             <source>The options of “%1” are being prepared…</source>
             <translation>正在准备“%1”的选项…</translation>
         </message>
@@ -1451,10 +1535,6 @@ Cancel, and settle it by the buttons above Print, or print all the same.</source
             <translation>未能保存“%1”的设置。</translation>
         </message>
         <message>
-            <source>The printer's default.</source>
-            <translation>打印机的默认设置。</translation>
-        </message>
-        <message>
             <source>Cancel &amp;Job</source>
             <translation>取消任务(&amp;J)</translation>
         </message>
@@ -1521,14 +1601,6 @@ Cancel, and settle it by the buttons above Print, or print all the same.</source
         <message>
             <source>There is nothing to sum up.</source>
             <translation>没有可汇总的内容。</translation>
-        </message>
-        <message>
-            <source>Changed</source>
-            <translation>已更改</translation>
-        </message>
-        <message>
-            <source>Unchanged</source>
-            <translation>未更改</translation>
         </message>
         <message>
             <source>All as the printer proposes.</source>
