@@ -25,6 +25,9 @@ public:
     // Runs bvprint with these arguments only, and waits for its end.
     void runToEnd(const QStringList &arguments);
 
+    // Writes to standard input.
+    void input(const QByteArray &bytes) { m_process.write(bytes); }
+
     // Sends a command. Returns its answer, or an empty object when there is none.
     QJsonObject send(const QString &command);
     // Sends a command. Returns the result in its answer; undefined when the answer is an error.
