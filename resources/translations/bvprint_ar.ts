@@ -231,12 +231,12 @@
             <translation>الإعداد الافتراضي للطابعة.</translation>
         </message>
         <message>
-            <source>Follows from another choice.</source>
-            <translation>ناتج عن خيار آخر.</translation>
-        </message>
-        <message>
             <source>Given on the command line.</source>
             <translation>محدد في سطر الأوامر.</translation>
+        </message>
+        <message>
+            <source>Follows from another choice.</source>
+            <translation>ناتج عن خيار آخر.</translation>
         </message>
         <message>
             <source>Changed</source>

@@ -231,12 +231,12 @@
             <translation>Standard des Druckers.</translation>
         </message>
         <message>
-            <source>Follows from another choice.</source>
-            <translation>Ergibt sich aus einer anderen Einstellung.</translation>
-        </message>
-        <message>
             <source>Given on the command line.</source>
             <translation>Auf der Befehlszeile angegeben.</translation>
+        </message>
+        <message>
+            <source>Follows from another choice.</source>
+            <translation>Ergibt sich aus einer anderen Einstellung.</translation>
         </message>
         <message>
             <source>Changed</source>

@@ -231,12 +231,12 @@
             <translation>Valor predeterminado de la impresora.</translation>
         </message>
         <message>
-            <source>Follows from another choice.</source>
-            <translation>Se deriva de otra opción.</translation>
-        </message>
-        <message>
             <source>Given on the command line.</source>
             <translation>Indicado en la línea de órdenes.</translation>
+        </message>
+        <message>
+            <source>Follows from another choice.</source>
+            <translation>Se deriva de otra opción.</translation>
         </message>
         <message>
             <source>Changed</source>

@@ -231,12 +231,12 @@
             <translation>Réglage par défaut de l’imprimante.</translation>
         </message>
         <message>
-            <source>Follows from another choice.</source>
-            <translation>Découle d’un autre choix.</translation>
-        </message>
-        <message>
             <source>Given on the command line.</source>
             <translation>Indiqué sur la ligne de commande.</translation>
+        </message>
+        <message>
+            <source>Follows from another choice.</source>
+            <translation>Découle d’un autre choix.</translation>
         </message>
         <message>
             <source>Changed</source>

@@ -231,12 +231,12 @@
             <translation>プリンターのデフォルトです。</translation>
         </message>
         <message>
-            <source>Follows from another choice.</source>
-            <translation>ほかの設定から決まります。</translation>
-        </message>
-        <message>
             <source>Given on the command line.</source>
             <translation>コマンドラインで指定されました。</translation>
+        </message>
+        <message>
+            <source>Follows from another choice.</source>
+            <translation>ほかの設定から決まります。</translation>
         </message>
         <message>
             <source>Changed</source>

@@ -231,12 +231,12 @@
             <translation>打印机的默认设置。</translation>
         </message>
         <message>
-            <source>Follows from another choice.</source>
-            <translation>由其他选项得出。</translation>
-        </message>
-        <message>
             <source>Given on the command line.</source>
             <translation>在命令行中指定。</translation>
+        </message>
+        <message>
+            <source>Follows from another choice.</source>
+            <translation>由其他选项得出。</translation>
         </message>
         <message>
             <source>Changed</source>

@@ -34,13 +34,10 @@ void tellOrigin(ListedOption &listed, const StartedRoom &started, bool isOverrul
     if (listed.choice == listed.usual) {
         listed.origin = QStringLiteral("printer");
         listed.from = tr("The printer's default.");
-    } else if (isOverruled) {
-        listed.origin = QStringLiteral("rules");
-        listed.from = tr("Follows from another choice.");
-    } else if (isGiven) {
+    } else if (isGiven && !isOverruled) {
         listed.origin = QStringLiteral("given");
         listed.from = tr("Given on the command line.");
-    } else if (!note.isEmpty()) {
+    } else if (!isOverruled && !note.isEmpty()) {
         listed.origin = wordFor(started.source);
         listed.from = note;
     } else {

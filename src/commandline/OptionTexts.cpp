@@ -83,6 +83,7 @@ Line lineOf(const SummaryEntry &row, const std::vector<ListedOption> &options)
 QString optionText(const std::vector<ListedOption> &options)
 {
     std::vector<Line> titles;
+    titles.reserve(options.size());
     for (const ListedOption &option : options)
         titles.emplace_back(option.keyword, option.text);
     QString text;
@@ -134,6 +135,7 @@ QString summaryText(const std::vector<SummaryEntry> &rows, const std::vector<Lis
                     const JobOptions &attributes)
 {
     std::vector<Line> all;
+    all.reserve(rows.size());
     for (const SummaryEntry &row : rows)
         all.push_back(lineOf(row, options));
     const qsizetype width = widthOf(all);

@@ -219,7 +219,7 @@ QString Collector::unknown(const QString &name) const
 
 QString Collector::notOffered(const QString &name, const QString &value, const QStringList &offered) const
 {
-    const QString sentence = tr("%1: this printer does not offer “%2”.").arg(name, value);
+    QString sentence = tr("%1: this printer does not offer “%2”.").arg(name, value);
     if (offered.isEmpty())
         return sentence;
     const QStringList nearest = offered.size() > kMostListed ? nearestWords(value, offered) : offered;

@@ -13,7 +13,6 @@ namespace {
 
 using bvtest::BatchProcess;
 using ::testing::HasSubstr;
-using ::testing::Not;
 
 const QString kPpd = QStringLiteral(BV_SOURCE_DIR "/resources/QL70.ppd");
 const QString kDocument = QStringLiteral(BV_SOURCE_DIR "/LICENSE");
