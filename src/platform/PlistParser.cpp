@@ -57,6 +57,12 @@ bool isMadeOf(std::string_view text, std::string_view characters)
     return text.find_first_not_of(characters) == text.npos;
 }
 
+// Asked for every piece of white space between elements, so it does not search.
+bool isBlank(std::string_view text)
+{
+    return std::all_of(text.begin(), text.end(), [](char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; });
+}
+
 // Reads an integer of any length: decimal, or hexadecimal after "0x", with or without a sign. Values outside 32 bits
 // become the nearest limit. Nothing when the text is no integer.
 std::optional<int32_t> integerIn(std::string_view text)
@@ -136,6 +142,8 @@ public:
     const char *fault() const { return m_fault; }
 
 private:
+    // An open element that holds others: plist, dictionary or array. Elements with a text are not kept here, since most
+    // of a list file is made of them.
     struct Open
     {
         Element element;
@@ -164,33 +172,38 @@ private:
                                        [&](const ElementRow &candidate) { return candidate.name == name; });
         if (row == std::end(kElements) || !mayStandHere(row->element))
             return stop("it is no property list");
-        const bool container = row->element == Element::Dict || row->element == Element::Array;
-        if (container && m_depth > kPlistMaximumDepth) // the plist element itself does not count
+        if (!holdsElements(row->element)) {
+            m_leaf = row->element;
+            m_text.clear();
+            return;
+        }
+        if (m_open.size() > kPlistMaximumDepth) // the plist element itself does not count
             return stop("it is nested too deep");
-        if (++m_depth > m_open.size())
-            m_open.emplace_back();
-        Open &opened = m_open[m_depth - 1];
-        opened = Open{row->element, {}, {}};
+        Open &opened = m_open.emplace_back(Open{row->element, {}, {}});
         if (row->element == Element::Dict)
             opened.value.kind = PlistValue::Kind::Dictionary;
-        m_text.clear();
+    }
+
+    static bool holdsElements(Element element)
+    {
+        return element == Element::Plist || element == Element::Dict || element == Element::Array;
     }
 
     // Whether an element may begin inside the innermost open one.
     bool mayStandHere(Element element) const
     {
-        if (m_depth == 0)
+        if (m_leaf)
+            return false;
+        if (m_open.empty())
             return element == Element::Plist;
-        const Open &parent = m_open[m_depth - 1];
+        const Open &parent = m_open.back();
         switch (parent.element) {
-        case Element::Plist:
-            return element != Element::Key && element != Element::Plist && !parent.filled;
-        case Element::Array:
-            return element != Element::Key && element != Element::Plist;
         case Element::Dict:
             return element != Element::Plist && (element == Element::Key) != parent.keyPending;
+        case Element::Plist:
+            return element != Element::Key && element != Element::Plist && !parent.filled;
         default:
-            return false;
+            return element != Element::Key && element != Element::Plist;
         }
     }
 
@@ -198,53 +211,73 @@ private:
     {
         if (m_fault)
             return;
-        Open &ended = m_open[--m_depth];
-        switch (ended.element) {
-        case Element::Plist:
+        if (m_leaf) {
+            const Element ended = *m_leaf;
+            m_leaf.reset();
+            if (ended == Element::Key)
+                takeKey();
+            else
+                fill(place(), ended);
+            return;
+        }
+        Open ended = std::move(m_open.back());
+        m_open.pop_back();
+        if (ended.element == Element::Plist) {
             if (!ended.filled)
                 stop("it is empty");
             return;
-        case Element::Key:
-            m_open[m_depth - 1].key = m_text;
-            m_open[m_depth - 1].keyPending = true;
-            m_text.clear();
-            return;
-        case Element::Dict:
-            endDictionary(&ended);
-            break;
-        default:
-            endValue(&ended);
         }
-        m_text.clear();
-        take(std::move(ended.value));
-    }
-
-    void endDictionary(Open *ended)
-    {
-        if (ended->keyPending)
+        if (ended.keyPending)
             stop("a key has no value");
-        if (!ended->sorted)
-            std::stable_sort(ended->value.entries.begin(), ended->value.entries.end(),
+        if (!ended.sorted)
+            std::stable_sort(ended.value.entries.begin(), ended.value.entries.end(),
                              [](const PlistEntry &a, const PlistEntry &b) { return a.key < b.key; });
+        if (PlistValue *value = place())
+            *value = std::move(ended.value);
     }
 
-    void endValue(Open *ended)
+    void takeKey()
     {
-        PlistValue &value = ended->value;
-        switch (ended->element) {
+        Open &parent = m_open.back();
+        parent.key.swap(m_text);
+        parent.keyPending = true;
+    }
+
+    // Where the value that just ended belongs, in the element that contains it. Null in an array, which keeps none.
+    PlistValue *place()
+    {
+        Open &parent = m_open.back();
+        if (parent.element == Element::Plist) {
+            parent.filled = true;
+            return m_root;
+        }
+        if (parent.element == Element::Array)
+            return nullptr;
+        std::vector<PlistEntry> &entries = parent.value.entries;
+        parent.sorted = parent.sorted && (entries.empty() || entries.back().key <= parent.key);
+        parent.keyPending = false;
+        return &entries.emplace_back(std::move(parent.key), PlistValue()).value;
+    }
+
+    // Checks the text of an element that has ended, and stores it as a value where there is a place for it.
+    void fill(PlistValue *value, Element ended)
+    {
+        PlistValue ignored;
+        PlistValue &filled = value ? *value : ignored;
+        switch (ended) {
         case Element::String:
-            value.kind = PlistValue::Kind::Text;
-            value.text = m_text;
+            filled.kind = PlistValue::Kind::Text;
+            filled.text = m_text;
             break;
         case Element::Integer:
-            value.kind = PlistValue::Kind::Number;
-            value.number = integerIn(m_text);
-            if (!value.number)
+            filled.kind = PlistValue::Kind::Number;
+            filled.number = integerIn(m_text);
+            if (!filled.number)
                 stop("an integer is none");
             break;
         case Element::Real:
-            value.kind = PlistValue::Kind::Number;
-            if (!isReal(m_text, &value.number))
+            filled.kind = PlistValue::Kind::Number;
+            if (!isReal(m_text, &filled.number))
                 stop("a real number is none");
             break;
         case Element::Date:
@@ -260,40 +293,22 @@ private:
         }
     }
 
-    // Stores a finished value in the element that contains it.
-    void take(PlistValue value)
-    {
-        Open &parent = m_open[m_depth - 1];
-        if (parent.element == Element::Plist) {
-            parent.filled = true;
-            *m_root = std::move(value);
-        } else if (parent.element == Element::Dict) {
-            std::vector<PlistEntry> &entries = parent.value.entries;
-            parent.sorted = parent.sorted && (entries.empty() || entries.back().key <= parent.key);
-            entries.emplace_back(std::move(parent.key), std::move(value));
-            parent.keyPending = false;
-        }
-    }
-
     void characters(std::string_view text)
     {
         if (m_fault)
             return;
-        const Element element = m_depth == 0 ? Element::Plist : m_open[m_depth - 1].element;
-        const bool holdsElements = element == Element::Plist || element == Element::Dict || element == Element::Array ||
-                                   element == Element::Boolean;
-        if (!holdsElements)
+        if (m_leaf && *m_leaf != Element::Boolean)
             m_text += text;
-        else if (!isMadeOf(text, kBlanks))
+        else if (!isBlank(text))
             stop("text stands between its elements");
     }
 
     XML_Parser m_parser;
     PlistValue *m_root;
     const char *m_fault = nullptr;
-    std::vector<Open> m_open; // only the first m_depth entries are open elements
-    size_t m_depth = 0;
-    std::string m_text; // text of the innermost open element
+    std::vector<Open> m_open;      // from the outermost to the innermost
+    std::optional<Element> m_leaf; // the open element with a text, inside these
+    std::string m_text;            // its text
 };
 
 } // namespace
