@@ -60,7 +60,8 @@ bool isMadeOf(std::string_view text, std::string_view characters)
 // Asked for every piece of white space between elements, so it does not search.
 bool isBlank(std::string_view text)
 {
-    return std::all_of(text.begin(), text.end(), [](char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; });
+    return std::all_of(text.begin(), text.end(),
+                       [](char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; });
 }
 
 // Reads an integer of any length: decimal, or hexadecimal after "0x", with or without a sign. Values outside 32 bits
@@ -113,8 +114,11 @@ bool isDate(std::string_view text)
 class PlistParser
 {
 public:
-    PlistParser(XML_Parser parser, PlistEncoding encoding, PlistValue *root) : m_parser(parser), m_root(root)
+    // `room`: no text of the tree will be longer in bytes, nor all of them together.
+    PlistParser(XML_Parser parser, PlistEncoding encoding, size_t room, PlistTree *tree)
+        : m_parser(parser), m_root(&tree->root), m_texts(&tree->texts.emplace_back())
     {
+        m_texts->reserve(room);
         XML_SetUserData(parser, this);
         // Told to read UTF-8, Expat ignores the declared encoding. Another reader of the text would follow it, so it
         // must be right.
@@ -148,7 +152,7 @@ private:
     {
         Element element;
         PlistValue value;
-        std::string key;         // of a dictionary: the key whose value comes next
+        std::string_view key;    // of a dictionary: the key whose value comes next
         bool keyPending = false; // whether there is such a key
         bool sorted = true;      // whether a dictionary's entries are in key order so far
         bool filled = false;     // whether the plist element has its value
@@ -174,7 +178,7 @@ private:
             return stop("it is no property list");
         if (!holdsElements(row->element)) {
             m_leaf = row->element;
-            m_text.clear();
+            m_leafStart = m_texts->size();
             return;
         }
         if (m_open.size() > kPlistMaximumDepth) // the plist element itself does not count
@@ -239,9 +243,11 @@ private:
     void takeKey()
     {
         Open &parent = m_open.back();
-        parent.key.swap(m_text);
+        parent.key = leafText();
         parent.keyPending = true;
     }
+
+    std::string_view leafText() const { return std::string_view(*m_texts).substr(m_leafStart); }
 
     // Where the value that just ended belongs, in the element that contains it. Null in an array, which keeps none.
     PlistValue *place()
@@ -256,51 +262,58 @@ private:
         std::vector<PlistEntry> &entries = parent.value.entries;
         parent.sorted = parent.sorted && (entries.empty() || entries.back().key <= parent.key);
         parent.keyPending = false;
-        return &entries.emplace_back(std::move(parent.key), PlistValue()).value;
+        return &entries.emplace_back(parent.key, PlistValue()).value;
     }
 
-    // Checks the text of an element that has ended, and stores it as a value where there is a place for it.
+    // Checks the text of an element that has ended, and stores it as a value where there is a place for it. Only a
+    // string keeps its text.
     void fill(PlistValue *value, Element ended)
     {
+        const std::string_view text = leafText();
         PlistValue ignored;
         PlistValue &filled = value ? *value : ignored;
         switch (ended) {
         case Element::String:
             filled.kind = PlistValue::Kind::Text;
-            filled.text = m_text;
-            break;
+            filled.text = text;
+            return;
         case Element::Integer:
             filled.kind = PlistValue::Kind::Number;
-            filled.number = integerIn(m_text);
+            filled.number = integerIn(text);
             if (!filled.number)
                 stop("an integer is none");
             break;
         case Element::Real:
             filled.kind = PlistValue::Kind::Number;
-            if (!isReal(m_text, &filled.number))
+            if (!isReal(text, &filled.number))
                 stop("a real number is none");
             break;
         case Element::Date:
-            if (!isDate(m_text))
+            if (!isDate(text))
                 stop("a date is none");
             break;
         case Element::Data:
-            if (!isMadeOf(m_text, kBase64))
+            if (!isMadeOf(text, kBase64))
                 stop("data is not in base 64");
             break;
         default: // has no content to check
             break;
         }
+        m_texts->resize(m_leafStart);
     }
 
     void characters(std::string_view text)
     {
         if (m_fault)
             return;
-        if (m_leaf && *m_leaf != Element::Boolean)
-            m_text += text;
-        else if (!isBlank(text))
-            stop("text stands between its elements");
+        if (!m_leaf || *m_leaf == Element::Boolean) {
+            if (!isBlank(text))
+                stop("text stands between its elements");
+        } else if (text.size() > m_texts->capacity() - m_texts->size()) {
+            stop("it is too large"); // more room would move the texts that are taken already
+        } else {
+            m_texts->append(text);
+        }
     }
 
     XML_Parser m_parser;
@@ -308,12 +321,13 @@ private:
     const char *m_fault = nullptr;
     std::vector<Open> m_open;      // from the outermost to the innermost
     std::optional<Element> m_leaf; // the open element with a text, inside these
-    std::string m_text;            // its text
+    std::string *m_texts;          // all that is kept, and at the end the text of that element
+    size_t m_leafStart = 0;        // where it begins
 };
 
 } // namespace
 
-bool parsePlist(std::string_view xml, PlistEncoding encoding, PlistValue *root, std::string *fault)
+bool parsePlist(std::string_view xml, PlistEncoding encoding, PlistTree *tree, std::string *fault)
 {
     if (xml.size() > kPlistMaximumBytes) {
         *fault = "it is too large";
@@ -325,7 +339,8 @@ bool parsePlist(std::string_view xml, PlistEncoding encoding, PlistValue *root, 
         *fault = "no memory for its parser";
         return false;
     }
-    PlistParser parser(expat.get(), encoding, root);
+    // Expat hands out UTF-8, which is at most twice as long as a text in another encoding that it knows.
+    PlistParser parser(expat.get(), encoding, 2 * xml.size(), tree);
     const XML_Status status = XML_Parse(expat.get(), xml.data(), static_cast<int>(xml.size()), XML_TRUE);
     if (parser.fault())
         *fault = parser.fault();

@@ -7,8 +7,8 @@
 
 namespace bv {
 
-// Parses the text into *root. False, with a sentence in *fault, when the text is not acceptable to
+// Parses the text into the empty *tree. False, with a sentence in *fault, when the text is not acceptable to
 // PropertyList::fromXml.
-bool parsePlist(std::string_view xml, PlistEncoding encoding, PlistValue *root, std::string *fault);
+bool parsePlist(std::string_view xml, PlistEncoding encoding, PlistTree *tree, std::string *fault);
 
 } // namespace bv

@@ -31,16 +31,25 @@ auto entriesOf(const PlistValue *value, std::string_view key)
     return std::equal_range(entries.begin(), entries.end(), key, ByKey());
 }
 
-void put(PlistValue *dictionary, const std::string &key, PlistValue value)
+void put(PlistTree *tree, std::string_view key, PlistValue value)
 {
-    std::vector<PlistEntry> &entries = dictionary->entries;
+    std::vector<PlistEntry> &entries = tree->root.entries;
     // Most lists are built in key order, so first try the end.
     if (entries.empty() || entries.back().key < key) {
-        entries.emplace_back(key, std::move(value));
+        entries.emplace_back(tree->texts.emplace_back(key), std::move(value));
         return;
     }
-    const auto [first, last] = std::equal_range(entries.begin(), entries.end(), std::string_view(key), ByKey());
-    entries.emplace(entries.erase(first, last), key, std::move(value));
+    const auto [first, last] = std::equal_range(entries.begin(), entries.end(), key, ByKey());
+    entries.emplace(entries.erase(first, last), tree->texts.emplace_back(key), std::move(value));
+}
+
+void copyTexts(PlistValue *value, std::list<std::string> *texts)
+{
+    value->text = texts->emplace_back(value->text);
+    for (PlistEntry &entry : value->entries) {
+        entry.key = texts->emplace_back(entry.key);
+        copyTexts(&entry.value, texts);
+    }
 }
 
 // A carriage return is escaped: an XML reader would turn a plain one into a line feed.
@@ -144,14 +153,19 @@ PropertyList::PropertyList() = default;
 PropertyList::PropertyList(PropertyList &&other) noexcept = default;
 PropertyList &PropertyList::operator=(PropertyList &&other) noexcept = default;
 PropertyList::~PropertyList() = default;
-PropertyList::PropertyList(std::unique_ptr<PlistValue> root) : m_root(std::move(root)) {}
+PropertyList::PropertyList(std::unique_ptr<PlistTree> tree) : m_tree(std::move(tree)) {}
+
+PropertyListNode PropertyList::root() const
+{
+    return m_tree ? PropertyListNode(&m_tree->root) : PropertyListNode();
+}
 
 PropertyList PropertyList::fromXml(std::string_view xml, PlistEncoding encoding, std::string *fault)
 {
-    auto root = std::make_unique<PlistValue>();
+    auto tree = std::make_unique<PlistTree>();
     std::string reason;
-    if (parsePlist(xml, encoding, root.get(), &reason))
-        return PropertyList(std::move(root));
+    if (parsePlist(xml, encoding, tree.get(), &reason))
+        return PropertyList(std::move(tree));
     diagnosticLine("property list refused: " + reason);
     if (fault)
         *fault = std::move(reason);
@@ -160,36 +174,42 @@ PropertyList PropertyList::fromXml(std::string_view xml, PlistEncoding encoding,
 
 PropertyList PropertyList::dictionary()
 {
-    auto root = std::make_unique<PlistValue>();
-    root->kind = PlistValue::Kind::Dictionary;
-    return PropertyList(std::move(root));
+    auto tree = std::make_unique<PlistTree>();
+    tree->root.kind = PlistValue::Kind::Dictionary;
+    return PropertyList(std::move(tree));
 }
 
 PropertyList PropertyList::copyOf(PropertyListNode node)
 {
-    return node ? PropertyList(std::make_unique<PlistValue>(*node.value())) : PropertyList();
+    if (!node)
+        return {};
+    auto tree = std::make_unique<PlistTree>();
+    tree->root = *node.value();
+    copyTexts(&tree->root, &tree->texts);
+    return PropertyList(std::move(tree));
 }
 
-void PropertyList::setNumber(const std::string &key, int32_t value)
+void PropertyList::setNumber(std::string_view key, int32_t value)
 {
-    put(m_root.get(), key, {PlistValue::Kind::Number, value, {}, {}});
+    put(m_tree.get(), key, {PlistValue::Kind::Number, value, {}, {}});
 }
 
-void PropertyList::setText(const std::string &key, std::string value)
+void PropertyList::setText(std::string_view key, std::string value)
 {
-    put(m_root.get(), key, {PlistValue::Kind::Text, {}, std::move(value), {}});
+    put(m_tree.get(), key, {PlistValue::Kind::Text, {}, m_tree->texts.emplace_back(std::move(value)), {}});
 }
 
-void PropertyList::setItem(const std::string &key, PropertyList item)
+void PropertyList::setItem(std::string_view key, PropertyList item)
 {
-    put(m_root.get(), key, std::move(*item.m_root));
+    m_tree->texts.splice(m_tree->texts.end(), item.m_tree->texts);
+    put(m_tree.get(), key, std::move(item.m_tree->root));
 }
 
 std::string PropertyList::toXml() const
 {
     std::string xml(kHead);
-    if (m_root->kind != PlistValue::Kind::Other)
-        appendValue(*m_root, 0, &xml);
+    if (m_tree->root.kind != PlistValue::Kind::Other)
+        appendValue(m_tree->root, 0, &xml);
     xml += kTail;
     return xml;
 }

@@ -15,6 +15,7 @@ namespace bv {
 inline constexpr size_t kPlistMaximumBytes = size_t{4} * 1024 * 1024;
 inline constexpr size_t kPlistMaximumDepth = 32;
 
+struct PlistTree;
 struct PlistValue;
 
 // A borrowed node of a property list, valid as long as the list exists unchanged. The null node means "not there"; all
@@ -74,24 +75,24 @@ public:
     // A deep copy of a node; null of the null node.
     static PropertyList copyOf(PropertyListNode node);
 
-    explicit operator bool() const { return m_root != nullptr; }
-    PropertyListNode root() const { return PropertyListNode(m_root.get()); }
+    explicit operator bool() const { return m_tree != nullptr; }
+    PropertyListNode root() const;
 
     // Each sets one entry of this dictionary and replaces an older one.
-    void setNumber(const std::string &key, int32_t value);
+    void setNumber(std::string_view key, int32_t value);
     // The text must be UTF-8. Characters that XML 1.0 does not allow must be removed before: with them toXml writes a
     // text that no XML parser accepts.
-    void setText(const std::string &key, std::string value);
+    void setText(std::string_view key, std::string value);
     // Takes ownership of the item, which must not be null.
-    void setItem(const std::string &key, PropertyList item);
+    void setItem(std::string_view key, PropertyList item);
 
     // The XML text (UTF-8), with entries sorted by the bytes of their keys. This list must not be null.
     std::string toXml() const;
 
 private:
-    explicit PropertyList(std::unique_ptr<PlistValue> root);
+    explicit PropertyList(std::unique_ptr<PlistTree> tree);
 
-    std::unique_ptr<PlistValue> m_root;
+    std::unique_ptr<PlistTree> m_tree;
 };
 
 } // namespace bv
