@@ -6,13 +6,14 @@
 
 #include "dialog/PrintDialog.h"
 #include "dialog/PrintDialogLayout.h"
-#include "jobs/FolderSink.h"
+#include "jobs/JobSink.h"
 #include "jobs/PdfPages.h"
 #include "presets/PresetMenu.h"
 #include "preview/PagePreview.h"
 #include "printers/PrinterMenu.h"
 #include "printers/QueueList.h"
 #include "profiles/ProfileListFile.h"
+#include "queues/CallControl.h"
 #include "queues/PanelLoader.h"
 #include "queues/QueueSource.h"
 #include "widgets/DocumentList.h"
@@ -21,15 +22,18 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QListView>
 #include <QMenu>
 #include <QPdfWriter>
 #include <QPainter>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSignalSpy>
 #include <QStyle>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 #include <arpa/inet.h>
 #include <cstdio>
 #include <sys/socket.h>
@@ -162,6 +166,24 @@ void manageProfiles(PrintDialog &dialog)
     find<QPushButton>(dialog, "button_ManageProfile")->click();
 }
 
+void explainGray(PrintDialog &dialog)
+{
+    chooseGray(dialog);
+    find<QComboBox>(dialog, "row_PageSize")->setFocus();
+    find<QPushButton>(dialog, "whyGreyed")->click();
+}
+
+void chooseSomePages(PrintDialog &dialog)
+{
+    find<QRadioButton>(dialog, "somePages")->click();
+    find<QLineEdit>(dialog, "pageRange")->setText(QStringLiteral("2-4, 12"));
+}
+
+void printIt(PrintDialog &dialog)
+{
+    find<QPushButton>(dialog, "print")->click();
+}
+
 void failThrice(PrintDialog &dialog)
 {
     QStringList missing;
@@ -232,6 +254,9 @@ const std::vector<Kind> kKinds = {
     {.name = "right-to-left", .prepare = makeRightToLeft},
     {.name = "dark",          .prepare = makeDark, .use = chooseManual},
     {.name = "high-contrast", .prepare = makeContrast, .use = chooseManual},
+    {.name = "pages",         .use = chooseSomePages, .pages = 24},
+    {.name = "why-gray",      .use = explainGray},
+    {.name = "sending",       .use = printIt},
 };
 // clang-format on
 
@@ -269,6 +294,21 @@ public:
 private:
     QByteArray m_options;
     std::vector<bv::PrintQueue> m_queues;
+};
+
+// Takes the first third of a job, and no more until it is told to stop.
+class SlowSink final : public bv::JobSink
+{
+public:
+    bv::Result<bv::SentJob> submit(const bv::JobRequest & /*request*/, bv::CallControl &control) const override
+    {
+        constexpr int64_t kBytes = 4'800'000;
+        control.setSum(kBytes);
+        control.addDone(kBytes / 3);
+        while (!control.isOver())
+            QThread::msleep(10);
+        return bv::Result<bv::SentJob>::failure(QStringLiteral("stopped"));
+    }
 };
 
 QString pdfOf(int pages, const QString &path)
@@ -314,7 +354,8 @@ bool save(PrintDialog &dialog, const QString &path)
         painter.drawPixmap(corner, over->grab());
         painter.drawRect(QRect(corner, over->size()).adjusted(-1, -1, 0, 0)); // its frame is not ours to draw
     }
-    return picture.save(path, "PNG");
+    constexpr int kSmallest = 0;
+    return picture.toImage().convertToFormat(QImage::Format_RGB888).save(path, "PNG", kSmallest);
 }
 
 int take(const Kind &kind, const QString &path, QApplication &application)
@@ -343,7 +384,7 @@ int take(const Kind &kind, const QString &path, QApplication &application)
     PrintDialog dialog(std::make_shared<Printers>(kind.isWaiting ? QStringLiteral("lpd://127.0.0.1/queue")
                                                                  : QStringLiteral("socket://127.0.0.1"),
                                                   kind.options),
-                       std::make_shared<bv::FolderSink>(home.filePath("jobs")), loader, remembered,
+                       std::make_shared<SlowSink>(), loader, remembered,
                        {QStringLiteral("QL70"), std::nullopt, documents, bv::pdfPages()});
     dialog.resize(kind.size);
     int status = 1;
