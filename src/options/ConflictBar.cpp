@@ -51,12 +51,14 @@ void ConflictBar::showConflicts(const std::vector<Conflict> &conflicts)
     m_sentences = conflictSentences(conflicts);
     const bool isSettled = conflicts.empty();
     const QString sentences = isSettled ? tr("Settled.", "conflicts") : m_sentences;
-    m_text->setText(sentences);
-    m_text->setAccessibleName(sentences);
-    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    m_icon->setPixmap(style()
-                          ->standardIcon(isSettled ? QStyle::SP_DialogApplyButton : QStyle::SP_MessageBoxWarning)
-                          .pixmap(size, size));
+    if (sentences != m_text->text()) {
+        m_text->setText(sentences);
+        m_text->setAccessibleName(sentences);
+        const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+        m_icon->setPixmap(style()
+                              ->standardIcon(isSettled ? QStyle::SP_DialogApplyButton : QStyle::SP_MessageBoxWarning)
+                              .pixmap(size, size));
+    }
     QString shown;
     for (const Conflict::Way &way : conflicts.empty() ? std::vector<Conflict::Way>() : conflicts.front().ways)
         shown += way.words + u'\n';

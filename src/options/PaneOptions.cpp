@@ -6,6 +6,7 @@
 #include "options/OptionMenu.h"
 #include "platform/HostProtocol.h"
 #include "platform/PlainTip.h"
+#include "widgets/MarkedControls.h"
 
 #include <QCoreApplication>
 #include <QTextDocumentFragment>
@@ -15,15 +16,20 @@ namespace bv {
 namespace {
 
 // What the panel itself says at a control, and what became of it: the panel may have changed its words since.
-constexpr char kOwnTip[] = "bvOwnTip";
-constexpr char kWholeTip[] = "bvWholeTip";
-constexpr char kOwnDescription[] = "bvOwnDescription";
-constexpr char kWholeDescription[] = "bvWholeDescription";
-
-QString ownText(const QWidget &control, const QString &now, const char *own, const char *whole)
+struct Explained
 {
-    const QVariant before = control.property(whole);
-    const QString text = before.isValid() && before.toString() == now ? control.property(own).toString() : now;
+    QString ownTip;
+    QString wholeTip;
+    QString ownDescription;
+    QString wholeDescription;
+
+    bool operator==(const Explained &) const = default;
+};
+constexpr char kExplained[] = "bvExplained";
+
+QString ownText(const QString &now, const QString &own, const QString &whole)
+{
+    const QString &text = now == whole ? own : now;
     return Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
 }
 
@@ -35,19 +41,20 @@ QString lines(QStringList texts)
 
 void explainControl(QWidget &control, const QString &conflict, const QString &origin)
 {
-    const QString ownTip = ownText(control, control.toolTip(), kOwnTip, kWholeTip);
-    const QString tip = lines({ownTip, conflict, origin});
+    const auto before = control.property(kExplained).value<Explained>();
+    Explained now;
+    now.ownTip = ownText(control.toolTip(), before.ownTip, before.wholeTip);
+    const QString tip = lines({now.ownTip, conflict, origin});
     if (plainTip(tip) != control.toolTip())
         setPlainTip(&control, tip);
-    control.setProperty(kOwnTip, ownTip);
-    control.setProperty(kWholeTip, control.toolTip());
-    const QString own = ownText(control, control.accessibleDescription(), kOwnDescription, kWholeDescription);
-    const QString description = lines({own, conflict});
-    if (description != control.accessibleDescription())
-        control.setAccessibleDescription(description);
+    now.wholeTip = control.toolTip();
+    now.ownDescription = ownText(control.accessibleDescription(), before.ownDescription, before.wholeDescription);
+    now.wholeDescription = lines({now.ownDescription, conflict});
+    if (now.wholeDescription != control.accessibleDescription())
+        control.setAccessibleDescription(now.wholeDescription);
     markConflict(control, !conflict.isEmpty());
-    control.setProperty(kOwnDescription, own);
-    control.setProperty(kWholeDescription, description);
+    if (!(now == before))
+        control.setProperty(kExplained, QVariant::fromValue(now));
 }
 
 } // namespace
@@ -55,7 +62,7 @@ void explainControl(QWidget &control, const QString &conflict, const QString &or
 std::map<QString, PaneOption> paneOptions(const QWidget *view)
 {
     std::map<QString, PaneOption> options;
-    for (QWidget *control : view ? view->findChildren<QWidget *>() : QList<QWidget *>()) {
+    for (QWidget *control : markedControls(view)) {
         const QString keyword = control->property(kOptionProperty).toString();
         if (keyword.isEmpty())
             continue;
@@ -75,9 +82,7 @@ std::map<QString, PaneOption> paneOptions(const QWidget *view)
 std::map<QString, QString> overrulingChoices(const QWidget *view)
 {
     std::map<QString, QString> choices;
-    if (!view)
-        return choices;
-    for (const QWidget *control : view->findChildren<QWidget *>()) {
+    for (const QWidget *control : markedControls(view)) {
         const QString instead = control->property(kOptionInsteadProperty).toString();
         if (!instead.isEmpty())
             choices[control->property(kOptionProperty).toString()] = instead;
@@ -87,7 +92,7 @@ std::map<QString, QString> overrulingChoices(const QWidget *view)
 
 bool showsOverruledControls(const QWidget *view)
 {
-    const QList<QWidget *> controls = view ? view->findChildren<QWidget *>() : QList<QWidget *>();
+    const QList<QWidget *> controls = markedControls(view);
     return std::any_of(controls.begin(), controls.end(), [](const QWidget *control) {
         return control->isVisible() && control->isEnabled() &&
                !control->property(kOptionInsteadProperty).toString().isEmpty();
@@ -97,9 +102,7 @@ bool showsOverruledControls(const QWidget *view)
 void explainPane(const QWidget *view, const std::map<QString, QString> &conflicts,
                  const std::map<QString, QString> &origins)
 {
-    if (!view)
-        return;
-    for (QWidget *control : view->findChildren<QWidget *>()) {
+    for (QWidget *control : markedControls(view)) {
         const QVariant option = control->property(kOptionProperty);
         if (option.isValid())
             explainControl(*control, textFor(conflicts, option.toString()), textFor(origins, option.toString()));

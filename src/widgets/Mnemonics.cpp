@@ -12,6 +12,7 @@
 #include <QSet>
 #include <QStackedWidget>
 #include <QTabBar>
+#include <algorithm>
 #include <functional>
 #include <vector>
 
@@ -29,22 +30,26 @@ struct Title
     bool isInSight;
 };
 
-// What was made of a text, so that it is known again.
-constexpr char kWritten[] = "bvMnemonicText";    // the text with our mark
-constexpr char kOriginal[] = "bvMnemonicSource"; // the text as its owner set it
-constexpr char kLetter[] = "bvMnemonicLetter";   // the letter that it was given, as long as its owner lives
-constexpr char kNamed[] = "bvMnemonicNamed";     // the text when that was
-
-QByteArray propertyOf(const char *name, int place)
+// What was made of a text, so that it is known again. Its owner keeps it as a property.
+struct Made
 {
-    return QByteArray(name) + QByteArray::number(place);
+    QString written;  // the text with our mark
+    QString original; // the text as its owner set it
+    QChar letter;     // the one that it was given, as long as its owner lives; null: none
+    QString named;    // the text when that was
+
+    bool operator==(const Made &) const = default;
+};
+
+QByteArray propertyOf(int place)
+{
+    return "bvMnemonic" + QByteArray::number(place);
 }
 
 // A text as its owner set it, whatever we made of it.
-QString originalOf(const Title &title)
+QString originalOf(const Title &title, const Made &made)
 {
-    const bool isOurs = title.owner->property(propertyOf(kWritten, title.place)).toString() == title.text;
-    return isOurs ? title.owner->property(propertyOf(kOriginal, title.place)).toString() : title.text;
+    return made.written == title.text ? made.original : title.text;
 }
 
 // Without the mark. A doubled "&" stays doubled, since it stands for itself. A letter that stands in brackets only for
@@ -289,23 +294,13 @@ private:
 
 // The letter that the title has had; null when it has none, or when its text is another one that lacks the letter or
 // brings its own.
-QChar keptLetter(const Title &title, const QString &original)
+QChar keptLetter(const Made &made, const QString &original)
 {
-    const QString letter = title.owner->property(propertyOf(kLetter, title.place)).toString();
-    if (letter.isEmpty() || title.owner->property(propertyOf(kNamed, title.place)).toString() == original)
-        return letter.isEmpty() ? QChar() : letter[0];
+    if (made.letter.isNull() || made.named == original)
+        return made.letter;
     const QChar own = ownLetter(original);
-    const bool fits = own.isNull() ? lettersOf(withoutMark(original)).contains(letter[0]) : own == letter[0];
-    return fits ? letter[0] : QChar();
-}
-
-void write(const Title &title, const QString &original, const QString &marked)
-{
-    if (marked == title.text)
-        return;
-    title.owner->setProperty(propertyOf(kWritten, title.place), marked);
-    title.owner->setProperty(propertyOf(kOriginal, title.place), original);
-    title.write(marked);
+    const bool fits = own.isNull() ? lettersOf(withoutMark(original)).contains(made.letter) : own == made.letter;
+    return fits ? made.letter : QChar();
 }
 
 } // namespace
@@ -331,26 +326,45 @@ void Mnemonics::assign()
     m_pending = false;
     std::vector<Title> titles;
     collect(m_window, &titles);
+    const bool isAsLeft = std::equal(titles.begin(), titles.end(), m_seen.begin(), m_seen.end(),
+                                     [](const Title &title, const Seen &seen) {
+                                         return Seen{title.owner, title.place, title.text, title.isInSight} == seen;
+                                     });
+    if (isAsLeft)
+        return;
+    std::vector<Made> made;
     std::vector<QString> originals;
-    originals.reserve(titles.size());
-    for (const Title &title : titles)
-        originals.push_back(originalOf(title));
-
     std::vector<QChar> before;
+    made.reserve(titles.size());
+    originals.reserve(titles.size());
     before.reserve(titles.size());
-    for (size_t i = 0; i < titles.size(); ++i)
-        before.push_back(keptLetter(titles[i], originals[i]));
+    for (const Title &title : titles) {
+        made.push_back(title.owner->property(propertyOf(title.place)).value<Made>());
+        originals.push_back(originalOf(title, made.back()));
+        before.push_back(keptLetter(made.back(), originals.back()));
+    }
 
     const std::vector<QChar> given = LetterSharing(titles, originals, before).letters();
+    m_seen.clear();
     for (size_t i = 0; i < titles.size(); ++i) {
         const Title &title = titles[i];
-        title.owner->setProperty(propertyOf(kLetter, title.place), given[i].isNull() ? QString() : QString(given[i]));
-        title.owner->setProperty(propertyOf(kNamed, title.place), originals[i]);
-        if (!title.isInSight)
-            continue;
-        const QString plain = withoutMark(originals[i]);
-        const bool isOwn = given[i] == ownLetter(originals[i]);
-        write(title, originals[i], isOwn ? originals[i] : given[i].isNull() ? plain : withMark(plain, given[i]));
+        Made now = made[i];
+        now.letter = given[i];
+        now.named = originals[i];
+        QString shown = title.text;
+        if (title.isInSight) {
+            const QString plain = withoutMark(originals[i]);
+            const bool isOwn = given[i] == ownLetter(originals[i]);
+            shown = isOwn ? originals[i] : given[i].isNull() ? plain : withMark(plain, given[i]);
+            if (shown != title.text) {
+                now.written = shown;
+                now.original = originals[i];
+                title.write(shown);
+            }
+        }
+        if (!(now == made[i]))
+            title.owner->setProperty(propertyOf(title.place), QVariant::fromValue(now));
+        m_seen.push_back({title.owner, title.place, shown, title.isInSight});
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QString>
+#include <vector>
 
 class QWidget;
 
@@ -28,7 +29,19 @@ protected:
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
+    // A text as the last assignment left it. The owner may be gone.
+    struct Seen
+    {
+        const QWidget *owner;
+        int place;
+        QString text;
+        bool isInSight;
+
+        bool operator==(const Seen &) const = default;
+    };
+
     QWidget *m_window;
+    std::vector<Seen> m_seen; // most requests for a new layout have changed no text
     bool m_pending = false;
 };
 

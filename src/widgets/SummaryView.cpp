@@ -4,6 +4,7 @@
 
 #include "platform/HostProtocol.h"
 #include "platform/PlainTip.h"
+#include "widgets/MarkedControls.h"
 
 #include <QEvent>
 #include <QHeaderView>
@@ -90,9 +91,7 @@ std::vector<SummaryEntry> summaryEntries(const PrintDictionary &summary, const P
 SummaryHints summaryHints(const QWidget *view)
 {
     SummaryHints hints;
-    if (!view)
-        return hints;
-    for (const QWidget *control : view->findChildren<QWidget *>()) {
+    for (const QWidget *control : markedControls(view)) {
         const QVariant name = control->property(kSummaryNameProperty);
         if (name.isValid())
             hints.insert(name.toString(), {control->property(kSummaryGroupProperty).toString(),
@@ -146,48 +145,65 @@ void SummaryView::showEntries(const std::vector<SummaryEntry> &entries)
     std::stable_sort(rows.begin(), rows.end(), [&headings](const Row &one, const Row &other) {
         return headings.indexOf(one.heading) < headings.indexOf(other.heading);
     });
-    const bool same = hasSamePlaces(rows);
     m_rows = std::move(rows);
-    if (same)
-        renewTexts();
-    else
-        rebuild();
+    placeRows();
+    renewTexts();
     fitColumns();
 }
 
-bool SummaryView::hasSamePlaces(const std::vector<Row> &rows) const
+QTreeWidgetItem *SummaryView::placeHeading(int place, const QString &text, bool isUnfolded)
 {
-    return m_cells.size() == rows.size() &&
-           std::equal(rows.begin(), rows.end(), m_rows.begin(), m_rows.end(), [](const Row &one, const Row &other) {
-               return one.heading == other.heading && one.name == other.name;
-           });
-}
-
-QTreeWidgetItem *SummaryView::addHeading(const QString &text)
-{
-    auto *heading = new QTreeWidgetItem(this, {text});
-    heading->setFirstColumnSpanned(true);
-    heading->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+    int found = place;
+    // The first heading says what is changed, or that nothing is: it only changes its words, since each new one has the
+    // whole list laid out.
+    while (place > 0 && found < topLevelItemCount() && topLevelItem(found)->text(0) != text)
+        ++found;
+    QTreeWidgetItem *heading = found < topLevelItemCount() ? topLevelItem(found) : nullptr;
+    if (heading && found == place) {
+        heading->setText(0, text);
+    } else {
+        heading = heading ? takeTopLevelItem(found) : new QTreeWidgetItem({text});
+        heading->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+        insertTopLevelItem(place, heading);
+        heading->setFirstColumnSpanned(true);
+    }
+    const QSignalBlocker quiet(this); // this is not the user's doing
+    if (heading->isExpanded() != isUnfolded)
+        heading->setExpanded(isUnfolded);
     return heading;
 }
 
-void SummaryView::rebuild()
+void SummaryView::placeRows()
 {
     const int position = verticalScrollBar()->value();
-    clear();
-    m_cells.clear();
+    // Items that are there already are moved at most, since a new one costs several times as much.
+    QHash<QString, QList<QTreeWidgetItem *>> before;
+    for (QTreeWidgetItem *cell : std::exchange(m_cells, {}))
+        before[cell->text(0)] << cell;
+    int headings = 0;
     if (!m_rows.front().changed)
-        addHeading(tr("All as the printer proposes."));
+        placeHeading(headings++, tr("All as the printer proposes."), false);
     QTreeWidgetItem *heading = nullptr;
+    int place = 0;
     for (const Row &row : m_rows) {
         if (!heading || heading->text(0) != row.heading) {
-            heading = addHeading(row.heading);
-            const QSignalBlocker quiet(this); // this is not the user's doing
-            heading->setExpanded(m_unfolded.value(row.heading, row.changed));
+            heading = placeHeading(headings++, row.heading, m_unfolded.value(row.heading, row.changed));
+            place = 0;
         }
-        m_cells.push_back(new QTreeWidgetItem(heading));
+        QList<QTreeWidgetItem *> &known = before[row.name];
+        QTreeWidgetItem *cell = known.isEmpty() ? new QTreeWidgetItem : known.takeFirst();
+        if (heading->child(place) != cell) {
+            if (cell->parent())
+                cell->parent()->removeChild(cell);
+            heading->insertChild(place, cell);
+        }
+        ++place;
+        m_cells.push_back(cell);
     }
-    renewTexts();
+    for (const QList<QTreeWidgetItem *> &left : std::as_const(before))
+        qDeleteAll(left);
+    while (topLevelItemCount() > headings)
+        delete topLevelItem(headings);
     verticalScrollBar()->setValue(position);
 }
 
@@ -214,22 +230,31 @@ void SummaryView::renewTexts()
     }
 }
 
-int SummaryView::widestIn(int column, bool words) const
+int SummaryView::widthOf(const QString &text, bool isStrong, bool words)
+{
+    QHash<QString, int> &known = m_widths[words ? 1 : 0][isStrong ? 1 : 0];
+    if (const auto width = known.constFind(text); width != known.constEnd())
+        return *width;
+    QFont shown = font();
+    shown.setBold(isStrong);
+    const QFontMetrics metrics(shown);
+    int widest = 0;
+    // Chinese and Japanese lines break between characters.
+    QTextBoundaryFinder breaks(QTextBoundaryFinder::Line, text);
+    for (qsizetype start = 0; start < text.size();) {
+        const qsizetype end = words ? breaks.toNextBoundary() : text.size();
+        widest = std::max(widest, metrics.horizontalAdvance(text.mid(start, end - start).trimmed()));
+        start = end;
+    }
+    known.insert(text, widest);
+    return widest;
+}
+
+int SummaryView::widestIn(int column, bool words)
 {
     int widest = 0;
-    for (const Row &row : m_rows) {
-        QFont shown = font();
-        shown.setBold(column == 1 && row.changed);
-        const QFontMetrics metrics(shown);
-        const QString &text = column == 0 ? row.name : row.value;
-        // Chinese and Japanese lines break between characters.
-        QTextBoundaryFinder breaks(QTextBoundaryFinder::Line, text);
-        for (qsizetype start = 0; start < text.size();) {
-            const qsizetype end = words ? breaks.toNextBoundary() : text.size();
-            widest = std::max(widest, metrics.horizontalAdvance(text.mid(start, end - start).trimmed()));
-            start = end;
-        }
-    }
+    for (const Row &row : m_rows)
+        widest = std::max(widest, widthOf(column == 0 ? row.name : row.value, column == 1 && row.changed, words));
     // A character more, since styles round in their own ways.
     return widest + cellMargins(*this) + fontMetrics().averageCharWidth() + (column == 0 ? 2 * indentation() : 0);
 }
@@ -259,8 +284,10 @@ void SummaryView::resizeEvent(QResizeEvent *event)
 void SummaryView::changeEvent(QEvent *event)
 {
     QTreeWidget::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        m_widths = {};
         fitColumns();
+    }
 }
 
 void SummaryView::showNote(const QString &note)
@@ -269,7 +296,7 @@ void SummaryView::showNote(const QString &note)
     m_cells.clear();
     clear();
     if (!note.isEmpty())
-        addHeading(note);
+        placeHeading(0, note, false);
 }
 
 QStringList SummaryView::lines() const

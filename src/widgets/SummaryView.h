@@ -8,6 +8,7 @@
 #include <QHash>
 #include <QStringList>
 #include <QTreeWidget>
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -69,20 +70,24 @@ private:
         QString off;
         bool changed = false;
     };
-    // Whether the rows stand below the same headings, so that only texts need to be renewed.
-    bool hasSamePlaces(const std::vector<Row> &rows) const;
-    void rebuild();
+    // Gives each row its item below its heading.
+    void placeRows();
+    // Sees to it that the heading is the one at this place.
+    QTreeWidgetItem *placeHeading(int place, const QString &text, bool isUnfolded);
     void renewTexts();
-    QTreeWidgetItem *addHeading(const QString &text);
     // Gives the names the room that they need, as long as the values keep theirs. What does not fit beside each other
     // is broken into lines.
     void fitColumns();
     // The widest text of a column, or the widest of its words, in pixels.
-    int widestIn(int column, bool words) const;
+    int widestIn(int column, bool words);
+    int widthOf(const QString &text, bool isStrong, bool words);
 
     std::vector<Row> m_rows;                // in the order shown
     std::vector<QTreeWidgetItem *> m_cells; // one for each row
     QHash<QString, bool> m_unfolded;        // by heading, once the user has folded or unfolded it
+    // Widths in the present font, since measuring is most of what a change would cost: by the text, for whole texts and
+    // for their widest words, in regular and in strong letters.
+    std::array<std::array<QHash<QString, int>, 2>, 2> m_widths;
 };
 
 } // namespace bv

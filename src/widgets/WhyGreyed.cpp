@@ -85,7 +85,8 @@ QStringList WhyGreyed::reasons() const
 
 void WhyGreyed::refresh()
 {
-    setVisible(!reasons().isEmpty());
+    const QList<QWidget *> all = m_area->findChildren<QWidget *>();
+    setVisible(std::any_of(all.begin(), all.end(), [this](const QWidget *widget) { return isGreyed(widget, m_area); }));
 }
 
 void WhyGreyed::open()
