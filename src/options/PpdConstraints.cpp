@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <algorithm>
 #include <array>
+#include <map>
 #include <set>
 
 namespace bv {
@@ -86,9 +87,16 @@ bool PpdConstraints::isBroken(const PpdConstraint &constraint, const ChoiceOf &c
 std::vector<const PpdConstraint *> PpdConstraints::broken(const ChoiceOf &choiceOf) const
 {
     std::vector<const PpdConstraint *> found;
-    std::set<std::set<const ppd_option_t *>> known; // PPDs state their rules from both sides
+    std::set<std::set<const ppd_option_t *>> known;  // PPDs state their rules from both sides
+    std::map<const ppd_option_t *, QString> choices; // each is asked for once, however many rules name its option
+    const auto asked = [&choices, &choiceOf](const ppd_option_t &option) {
+        const auto [entry, isNew] = choices.try_emplace(&option);
+        if (isNew)
+            entry->second = choiceOf(option);
+        return entry->second;
+    };
     for (const PpdConstraint &constraint : m_all) {
-        if (!isBroken(constraint, choiceOf))
+        if (!isBroken(constraint, asked))
             continue;
         std::set<const ppd_option_t *> options;
         for (const PpdConstraint::Part &part : constraint.parts)
