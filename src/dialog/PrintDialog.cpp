@@ -121,6 +121,10 @@ void PrintDialog::connectParts()
 {
     connect(m_parts->queues, &QueueList::queueChosen, this, &PrintDialog::chooseQueue);
     connect(m_parts->queues->popUp(), &PrinterMenu::opened, m_watch.get(), &PrinterWatch::askNow);
+    connect(m_parts->queues->popUp(), &PrinterMenu::opened, this, [this] {
+        m_menuWasOpened = true;
+        surveyOthers();
+    });
     connect(m_watch.get(), &PrinterWatch::changed, this, &PrintDialog::followQueues);
     connect(&m_stepTimer, &QTimer::timeout, this, [this] {
         repaint();
@@ -442,12 +446,13 @@ void PrintDialog::offerPresets()
 
 void PrintDialog::surveyOthers()
 {
-    if (m_survey || m_current->paneKeys().isEmpty() || m_rooms.size() < 2)
+    // Most people print on the printer that is there already, and never look at the others.
+    if (!m_menuWasOpened || m_survey || !m_current || m_current->paneKeys().isEmpty() || m_rooms.size() < 2)
         return;
-    QStringList others;
+    std::vector<PrintQueue> others;
     for (const auto &one : m_rooms) {
         if (one->state() == QueueRoom::State::Listed)
-            others << one->queue().name;
+            others.push_back(one->queue());
     }
     m_survey = std::make_unique<PaneSurvey>(m_source, others, m_current->paneKeys());
     connect(m_survey.get(), &PaneSurvey::withoutPane, this, [this](const QString &queue, const QString &error) {

@@ -113,6 +113,7 @@ private:
     // The queue to begin with, a name in the list or not; empty: the default one.
     QString wantedQueue() const;
     QString reasonNotToPrint() const;
+    // Looks for printers without color options, once the menu that marks them has been opened.
     void surveyOthers();
     void restoreDefaults();
     void print();
@@ -135,8 +136,9 @@ private:
     PreviewBinding *m_preview;
 
     std::vector<std::unique_ptr<QueueRoom>> m_rooms;
-    QueueRoom *m_current = nullptr; // one of m_rooms, or null
-    std::unique_ptr<PaneSurvey> m_survey;
+    QueueRoom *m_current = nullptr;       // one of m_rooms, or null
+    std::unique_ptr<PaneSurvey> m_survey; // null until the menu of printers was opened
+    bool m_menuWasOpened = false;
     std::unique_ptr<PrinterWatch> m_watch;
     BackgroundCall<Result<std::vector<PrintQueue>>> m_listing;
     BackgroundCall<Result<QueueRoom::Ppds>> m_opening;

@@ -26,8 +26,9 @@ Has hasAny(const QueueSource &source, const QString &queue, const QStringList &k
 
 } // namespace
 
-PaneSurvey::PaneSurvey(std::shared_ptr<const QueueSource> source, QStringList queues, QStringList keys, QObject *parent)
-    : QObject(parent), m_source(std::move(source)), m_queues(std::move(queues)), m_keys(std::move(keys))
+PaneSurvey::PaneSurvey(std::shared_ptr<const QueueSource> source, std::vector<PrintQueue> queues, QStringList keys,
+                       QObject *parent)
+    : QObject(parent), m_source(std::move(source)), m_queues(queues.rbegin(), queues.rend()), m_keys(std::move(keys))
 {}
 
 void PaneSurvey::start()
@@ -37,17 +38,35 @@ void PaneSurvey::start()
 
 void PaneSurvey::checkNext()
 {
-    if (m_queues.isEmpty())
+    if (m_queues.empty())
         return;
-    const QString queue = m_queues.takeFirst();
-    m_call.start([source = m_source, queue,
-                  keys = m_keys](CallControl &control) { return hasAny(*source, queue, keys, control); },
+    const PrintQueue queue = m_queues.back();
+    m_queues.pop_back();
+    m_call.start([source = m_source, name = queue.name,
+                  keys = m_keys](CallControl &control) { return hasAny(*source, name, keys, control); },
                  Has::failure(noAnswerSentence()),
                  [this, queue](const Has &has) {
-                     if (!has || !has.value())
-                         emit withoutPane(queue, has.error());
+                     take(queue, has);
                      checkNext();
                  });
+}
+
+void PaneSurvey::take(const PrintQueue &queue, const Has &has)
+{
+    std::vector<QString> answered = {queue.name};
+    // A failure is this queue's own.
+    const bool isForAll = has && !queue.isClass && !queue.makeAndModel.isEmpty();
+    const auto isSame = [&queue](const PrintQueue &other) {
+        return !other.isClass && other.makeAndModel == queue.makeAndModel;
+    };
+    for (auto other = m_queues.rbegin(); isForAll && other != m_queues.rend(); ++other)
+        if (isSame(*other))
+            answered.push_back(other->name);
+    if (isForAll)
+        std::erase_if(m_queues, isSame);
+    if (!has || !has.value())
+        for (const QString &name : answered)
+            emit withoutPane(name, has.error());
 }
 
 } // namespace bv

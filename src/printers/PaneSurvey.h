@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// Checks the queues in the background and reports those that have none of the panel's options.
+// Checks the queues in the background and reports those that have none of the panel's options. Queues of one make and
+// model have one driver, so that one of them answers for all.
 #pragma once
 
 #include "queues/BackgroundCall.h"
@@ -7,6 +8,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <vector>
 
 namespace bv {
 
@@ -16,7 +18,7 @@ class PaneSurvey : public QObject
 
 public:
     // `keys` are the PPD options that the panel serves.
-    PaneSurvey(std::shared_ptr<const QueueSource> source, QStringList queues, QStringList keys,
+    PaneSurvey(std::shared_ptr<const QueueSource> source, std::vector<PrintQueue> queues, QStringList keys,
                QObject *parent = nullptr);
 
     // Starts the check.
@@ -28,9 +30,10 @@ signals:
 
 private:
     void checkNext();
+    void take(const PrintQueue &queue, const Result<bool> &has);
 
     std::shared_ptr<const QueueSource> m_source;
-    QStringList m_queues; // still to be checked
+    std::vector<PrintQueue> m_queues; // still to be checked, the next one at the end
     QStringList m_keys;
     BackgroundCall<Result<bool>> m_call;
 };

@@ -43,7 +43,7 @@ struct QueueAttribute
 };
 
 // clang-format off
-constexpr std::array<QueueAttribute, 8> kAttributes = {{
+constexpr std::array<QueueAttribute, 10> kAttributes = {{
     {"printer-name",              IPP_TAG_NAME,    [](PrintQueue &queue, ipp_attribute_t *value) { queue.name = text(value); }},
     {"printer-info",              IPP_TAG_TEXT,    [](PrintQueue &queue, ipp_attribute_t *value) { queue.description = text(value); }},
     {"printer-location",          IPP_TAG_TEXT,    [](PrintQueue &queue, ipp_attribute_t *value) { queue.location = text(value); }},
@@ -52,6 +52,8 @@ constexpr std::array<QueueAttribute, 8> kAttributes = {{
     {"printer-is-accepting-jobs", IPP_TAG_BOOLEAN, [](PrintQueue &queue, ipp_attribute_t *value) { queue.acceptsJobs = ippGetBoolean(value, 0) != 0; }},
     {"printer-state-message",     IPP_TAG_TEXT,    [](PrintQueue &queue, ipp_attribute_t *value) { queue.stateMessage = text(value); }},
     {"printer-state-reasons",     IPP_TAG_KEYWORD, [](PrintQueue &queue, ipp_attribute_t *value) { queue.stateReasons = allTexts(value); }},
+    {"printer-make-and-model",    IPP_TAG_TEXT,    [](PrintQueue &queue, ipp_attribute_t *value) { queue.makeAndModel = text(value); }},
+    {"printer-type",              IPP_TAG_ENUM,    [](PrintQueue &queue, ipp_attribute_t *value) { queue.isClass = (ippGetInteger(value, 0) & CUPS_PRINTER_CLASS) != 0; }},
 }};
 // clang-format on
 

@@ -23,6 +23,8 @@ struct PrintQueue
     bool acceptsJobs = true;
     QString stateMessage;     // the server's words on its state; may be empty
     QStringList stateReasons; // keywords such as "toner-low-warning" (RFC 8011, section 5.4.12)
+    QString makeAndModel;     // the same for queues with the same driver; may be empty
+    bool isClass = false;     // it has the options of its first printer, and no driver of its own
 
     bool operator==(const PrintQueue &) const = default;
 };

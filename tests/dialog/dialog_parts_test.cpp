@@ -207,7 +207,12 @@ TEST_F(DialogParts, AcceptsOnlyLocalFilesFromADrop)
 
 TEST_F(DialogParts, SurveyTheQueuesOnlyAfterStart)
 {
-    PaneSurvey survey(sharedSource, {"Plain", "Second", "Bare"}, {"TPStamp", "TPToner"});
+    const auto queue = [](const char *name) {
+        PrintQueue named;
+        named.name = QLatin1String(name);
+        return named;
+    };
+    PaneSurvey survey(sharedSource, {queue("Plain"), queue("Second"), queue("Bare")}, {"TPStamp", "TPToner"});
     EXPECT_FALSE(source.asked.tryAcquire(1, 50));
     QSignalSpy found(&survey, &PaneSurvey::withoutPane);
     survey.start();
@@ -215,6 +220,41 @@ TEST_F(DialogParts, SurveyTheQueuesOnlyAfterStart)
     EXPECT_EQ(found[0], (QVariantList{"Plain", ""}));
     EXPECT_EQ(found[1][0], "Bare");
     EXPECT_TRUE(found[1][1].toString().contains("driver"));
+}
+
+TEST_F(DialogParts, OneQueueAnswersForAllOfItsMakeAndModel)
+{
+    std::vector<PrintQueue> queues;
+    const auto add = [&](const QString &name, const QString &model, const char *ppd, bool isClass = false) {
+        PrintQueue &queue = queues.emplace_back();
+        queue.name = name;
+        queue.makeAndModel = model;
+        queue.isClass = isClass;
+        source.ppdPaths[name] = source.ppdPaths[ppd];
+    };
+    for (int i = 0; i < 25; ++i) {
+        add(QStringLiteral("paper%1").arg(i), "Paper", "Paper");
+        add(QStringLiteral("plain%1").arg(i), "Plain", "Plain");
+    }
+    add("pool", "Local Printer Class", "Paper", true);
+    add("plain pool", "Local Printer Class", "Plain", true);
+    add("made by hand", "", "Plain");
+    add("made by hand too", "", "Paper");
+    add("no driver", "Raw", "Bare");
+    add("no driver either", "Raw", "Bare");
+    PaneSurvey survey(sharedSource, queues, {"TPToner"});
+    QSignalSpy found(&survey, &PaneSurvey::withoutPane);
+    survey.start();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return found.count() == 25 + 1 + 1 + 2; }));
+    QStringList plain;
+    for (const QVariantList &one : found)
+        if (one[1].toString().isEmpty())
+            plain << one[0].toString();
+        else
+            EXPECT_TRUE(one[1].toString().contains(one[0].toString())) << "each failure names its own queue";
+    EXPECT_EQ(plain.size(), 27);
+    EXPECT_TRUE(plain.contains("plain24") && plain.contains("plain pool") && plain.contains("made by hand"));
+    EXPECT_EQ(source.asked.available(), 2 + 2 + 2 + 2);
 }
 
 TEST_F(DialogParts, ShowTheTicketsChoicesAndDefaultsForUnknownOnes)

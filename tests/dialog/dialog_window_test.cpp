@@ -232,10 +232,13 @@ TEST_F(Dialog, FollowsThePrintersWhileItIsOpen)
     EXPECT_TRUE(print());
 }
 
-TEST_F(Dialog, MarksQueuesWithoutPaneInTheBackground)
+TEST_F(Dialog, MarksQueuesWithoutPaneOnceTheMenuIsOpened)
 {
     open();
     auto *printers = find<QComboBox>("printer");
+    source.asked.acquire(source.asked.available());
+    EXPECT_FALSE(source.asked.tryAcquire(1, 50)) << "nobody has asked for the other printers yet";
+    printers->showPopup();
     const auto marked = [&](const char *queue) {
         return !printers->itemData(printers->findData(queue), Qt::ToolTipRole).toString().isEmpty();
     };
