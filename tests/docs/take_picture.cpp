@@ -424,10 +424,10 @@ int take(const Kind &kind, const QString &path, QApplication &application)
         const bool isTaken = QTest::qWaitFor([&status] { return status == 0; }, 10000);
         return isTaken ? 0 : 1;
     }
-    if (kind.use)
-        kind.use(dialog);
     if (!dialog.parts().preview->isFolded() && shown.isEmpty())
         shown.wait(10000);
+    if (kind.use)
+        kind.use(dialog);
     QTest::qWait(kSettled);
     return save(dialog, path) ? 0 : 1;
 }
