@@ -4,6 +4,7 @@
 
 #include "widgets/Mnemonics.h"
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QFrame>
 #include <QLabel>
@@ -36,6 +37,9 @@ QString nameOf(QWidget *widget, const QWidget *area)
         QString name = withoutMnemonic(label->text());
         return name.endsWith(u':') ? name.chopped(1).trimmed() : name;
     }
+    // A letter in brackets that a button was given is no part of its name.
+    if (const auto *button = qobject_cast<QAbstractButton *>(widget); button && widget->accessibleName().isEmpty())
+        return withoutMnemonic(button->text());
     const QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
     return accessible ? accessible->text(QAccessible::Name) : widget->accessibleName();
 }
