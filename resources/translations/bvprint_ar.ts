@@ -425,6 +425,10 @@
             <translation>تعذّرت قراءة المستند ⁨%1⁩: %2.</translation>
         </message>
         <message>
+            <source>The document %1 is empty.</source>
+            <translation>المستند ⁨%1⁩ فارغ.</translation>
+        </message>
+        <message>
             <source>A range of pages belongs to one document. Print the documents one by one, or all of their pages.</source>
             <translation>نطاق الصفحات لا يصلح إلا لمستند واحد. اطبع المستندات واحدًا واحدًا، أو اطبع كل صفحاتها.</translation>
         </message>
@@ -841,10 +845,6 @@
         <message>
             <source>The document %1</source>
             <translation>المستند ⁨%1⁩</translation>
-        </message>
-        <message>
-            <source>The document %1 is empty.</source>
-            <translation>المستند ⁨%1⁩ فارغ.</translation>
         </message>
         <message>
             <source>The document %1 became shorter while it was being sent.</source>

@@ -425,6 +425,10 @@
             <translation>Das Dokument %1 kann nicht gelesen werden: %2.</translation>
         </message>
         <message>
+            <source>The document %1 is empty.</source>
+            <translation>Das Dokument %1 ist leer.</translation>
+        </message>
+        <message>
             <source>A range of pages belongs to one document. Print the documents one by one, or all of their pages.</source>
             <translation>Ein Seitenbereich gilt nur für ein einzelnes Dokument. Drucken Sie die Dokumente einzeln oder jeweils alle Seiten.</translation>
         </message>
@@ -841,10 +845,6 @@
         <message>
             <source>The document %1</source>
             <translation>Das Dokument %1</translation>
-        </message>
-        <message>
-            <source>The document %1 is empty.</source>
-            <translation>Das Dokument %1 ist leer.</translation>
         </message>
         <message>
             <source>The document %1 became shorter while it was being sent.</source>

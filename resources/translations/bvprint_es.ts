@@ -425,6 +425,10 @@
             <translation>No se puede leer el documento %1: %2.</translation>
         </message>
         <message>
+            <source>The document %1 is empty.</source>
+            <translation>El documento %1 está vacío.</translation>
+        </message>
+        <message>
             <source>A range of pages belongs to one document. Print the documents one by one, or all of their pages.</source>
             <translation>Un intervalo de páginas solo vale para un documento. Imprima los documentos uno a uno o imprima todas sus páginas.</translation>
         </message>
@@ -841,10 +845,6 @@
         <message>
             <source>The document %1</source>
             <translation>El documento %1</translation>
-        </message>
-        <message>
-            <source>The document %1 is empty.</source>
-            <translation>El documento %1 está vacío.</translation>
         </message>
         <message>
             <source>The document %1 became shorter while it was being sent.</source>

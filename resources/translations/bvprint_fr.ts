@@ -425,6 +425,10 @@
             <translation>Impossible de lire le document %1 : %2.</translation>
         </message>
         <message>
+            <source>The document %1 is empty.</source>
+            <translation>Le document %1 est vide.</translation>
+        </message>
+        <message>
             <source>A range of pages belongs to one document. Print the documents one by one, or all of their pages.</source>
             <translation>Une plage de pages ne vaut que pour un seul document. Imprimez les documents un par un, ou toutes leurs pages.</translation>
         </message>
@@ -841,10 +845,6 @@
         <message>
             <source>The document %1</source>
             <translation>Le document %1</translation>
-        </message>
-        <message>
-            <source>The document %1 is empty.</source>
-            <translation>Le document %1 est vide.</translation>
         </message>
         <message>
             <source>The document %1 became shorter while it was being sent.</source>

@@ -425,6 +425,10 @@
             <translation>文書「%1」を読み込めません（%2）。</translation>
         </message>
         <message>
+            <source>The document %1 is empty.</source>
+            <translation>文書「%1」は空です。</translation>
+        </message>
+        <message>
             <source>A range of pages belongs to one document. Print the documents one by one, or all of their pages.</source>
             <translation>ページ範囲は1つの文書にのみ指定できます。文書を1つずつ印刷するか、すべてのページを印刷してください。</translation>
         </message>
@@ -841,10 +845,6 @@
         <message>
             <source>The document %1</source>
             <translation>文書「%1」</translation>
-        </message>
-        <message>
-            <source>The document %1 is empty.</source>
-            <translation>文書「%1」は空です。</translation>
         </message>
         <message>
             <source>The document %1 became shorter while it was being sent.</source>

@@ -425,6 +425,10 @@
             <translation>无法读取文档 %1：%2。</translation>
         </message>
         <message>
+            <source>The document %1 is empty.</source>
+            <translation>文档 %1 是空的。</translation>
+        </message>
+        <message>
             <source>A range of pages belongs to one document. Print the documents one by one, or all of their pages.</source>
             <translation>页面范围只适用于单个文档。请逐个打印文档，或打印所有页面。</translation>
         </message>
@@ -841,10 +845,6 @@
         <message>
             <source>The document %1</source>
             <translation>文档 %1</translation>
-        </message>
-        <message>
-            <source>The document %1 is empty.</source>
-            <translation>文档 %1 是空的。</translation>
         </message>
         <message>
             <source>The document %1 became shorter while it was being sent.</source>

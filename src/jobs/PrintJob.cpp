@@ -58,6 +58,8 @@ QString checkDocuments(const QStringList &documents)
         QFile file(path);
         if (!file.open(QIODevice::ReadOnly))
             return tr("The document %1 cannot be read: %2.").arg(path, file.errorString());
+        if (info.size() == 0)
+            return tr("The document %1 is empty.").arg(path);
     }
     return {};
 }

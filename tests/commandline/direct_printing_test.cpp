@@ -127,13 +127,17 @@ TEST_F(DirectPrinting, StartsFromTheUsersDefaultsOrAPresetAndNeverFromTheLastJob
 TEST_F(DirectPrinting, TakesSeveralFilesAndStandardInputAsOneJobAndSaysItsNumber)
 {
     const QString first = write("first file.txt", "first\n");
+    m_program.runToEnd({"--print", "-d", "QL70", first, write("empty", "")});
+    EXPECT_EQ(m_program.finish(), 2);
+    EXPECT_THAT(m_program.standardError().toStdString(), HasSubstr("is empty"));
     m_program.runToEnd({"--print", "-d", "QL70", QUrl::fromLocalFile(first).toString(QUrl::FullyEncoded), "-"});
     m_program.input("from input\n");
     EXPECT_EQ(m_program.finish(), 0) << m_program.standardError().toStdString();
     const QString said = QString::fromUtf8(m_program.restOfOutput());
     static const QRegularExpression kSaid("^request id is QL70-(\\d+) \\(2 file\\(s\\)\\)\n$");
     ASSERT_TRUE(kSaid.match(said).hasMatch()) << said.toStdString();
-    EXPECT_EQ(m_server.recorded(kSaid.match(said).captured(1).toInt()).data, "first\nfrom input\n");
+    EXPECT_EQ(kSaid.match(said).captured(1), "1"); // an empty document leaves no job behind
+    EXPECT_EQ(m_server.recorded(1).data, "first\nfrom input\n");
 
     // A queue that takes no jobs is the print server's refusal.
     ASSERT_TRUE(m_server.administer("cupsreject", {"QL70"}));
